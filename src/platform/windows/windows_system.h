@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/system.h"
+
+namespace tidewell {
+
+class WindowsSystem final : public System {
+ public:
+  ScreenFacts Screen() override;
+  SystemVersion Version() override;
+};
+
+}  // namespace tidewell
