@@ -1,0 +1,89 @@
+#include "settings/registry_values.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <span>
+#include <vector>
+
+#include "platform/text.h"
+
+namespace tidewell {
+
+namespace {
+
+// Nearly every text fits, so that it costs one query.
+constexpr std::size_t kUsualTextBytes = 512;
+
+std::wstring TextUpToZero(std::span<const std::byte> bytes) {
+  std::wstring text = TextOfBytes(bytes);
+  text.resize(std::min(text.size(), text.find(L'\0')));
+  return text;
+}
+
+}  // namespace
+
+std::optional<std::uint32_t> FindDword(RegistryKey* key, const std::wstring& name) {
+  static_assert(std::endian::native == std::endian::little, "registry numbers are little-endian");
+  std::array<std::byte, 4> bytes{};
+  ValueInfo info;
+  if (!key || key->Query(name, bytes, info) != kStatusSuccess) return std::nullopt;
+  // Fewer bytes would leave a number of which only a part was ever written.
+  if (info.size != bytes.size()) return std::nullopt;
+  return std::bit_cast<std::uint32_t>(bytes);
+}
+
+std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& name) {
+  if (!key) return std::nullopt;
+  std::array<std::byte, kUsualTextBytes> usual;
+  ValueInfo info;
+  const RegistryStatus status = key->Query(name, usual, info);
+  if (status == kStatusSuccess) return TextUpToZero(std::span(usual).first(info.size));
+  if (status != kStatusMoreData) return std::nullopt;
+
+  std::vector<std::byte> bytes(info.size);
+  if (key->Query(name, bytes, info) != kStatusSuccess) return std::nullopt;
+  return TextUpToZero(std::span(bytes).first(info.size));
+}
+
+std::uint32_t ReadDword(RegistryKey* key, const std::wstring& name, std::uint32_t defaultValue) {
+  return FindDword(key, name).value_or(defaultValue);
+}
+
+bool ReadString(RegistryKey* key, const std::wstring& name, const std::wstring& defaultText,
+                std::wstring& text) {
+  std::optional<std::wstring> found = FindString(key, name);
+  text = found ? *std::move(found) : defaultText;
+  return found.has_value();
+}
+
+void WriteDword(RegistryKey* key, const std::wstring& name, std::uint32_t value) {
+  const auto bytes = std::bit_cast<std::array<std::byte, 4>>(value);
+  if (key) key->Set(name, kTypeDword, bytes);
+}
+
+void WriteString(RegistryKey* key, const std::wstring& name, const std::wstring& text) {
+  if (!key) return;
+  const std::wstring_view withTerminator(text.c_str(), text.size() + 1);
+  key->Set(name, kTypeString, BytesOf(withTerminator));
+}
+
+void WriteDwordOrDelete(RegistryKey* key, const std::wstring& name, std::uint32_t value,
+                        std::uint32_t defaultValue) {
+  if (value != defaultValue) {
+    WriteDword(key, name, value);
+  } else if (key) {
+    key->DeleteValue(name);
+  }
+}
+
+void WriteStringOrDelete(RegistryKey* key, const std::wstring& name, const std::wstring& text,
+                         const std::wstring& defaultText) {
+  if (text != defaultText) {
+    WriteString(key, name, text);
+  } else if (key) {
+    key->DeleteValue(name);
+  }
+}
+
+}  // namespace tidewell

@@ -1,0 +1,34 @@
+// Single registry values, read with a default and written without a report: what settings, pages
+// and add-ons share. A null key reads as empty and writes nothing.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/registry.h"
+
+namespace tidewell {
+
+// Nothing unless the value holds exactly four bytes; its stored type does not matter.
+std::optional<std::uint32_t> FindDword(RegistryKey* key, const std::wstring& name);
+// Nothing when the value is absent. Its bytes count as text whatever their stored type, up to the
+// first zero; a missing terminator or an odd last byte does no harm.
+std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& name);
+
+std::uint32_t ReadDword(RegistryKey* key, const std::wstring& name, std::uint32_t defaultValue);
+// True when the value was read; `text` holds it or the default.
+bool ReadString(RegistryKey* key, const std::wstring& name, const std::wstring& defaultText,
+                std::wstring& text);
+
+void WriteDword(RegistryKey* key, const std::wstring& name, std::uint32_t value);
+void WriteString(RegistryKey* key, const std::wstring& name, const std::wstring& text);
+
+// The registry holds only what differs from its default: an equal value is deleted instead.
+// Texts are compared exactly.
+void WriteDwordOrDelete(RegistryKey* key, const std::wstring& name, std::uint32_t value,
+                        std::uint32_t defaultValue);
+void WriteStringOrDelete(RegistryKey* key, const std::wstring& name, const std::wstring& text,
+                         const std::wstring& defaultText);
+
+}  // namespace tidewell

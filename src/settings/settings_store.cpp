@@ -1,0 +1,179 @@
+#include "settings/settings_store.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+#include <utility>
+
+#include "platform/text.h"
+#include "settings/hosted_plugins.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr const wchar_t* kProgramFolder = L"\\Velmont\\Tidewell";
+constexpr const wchar_t* kEnglishLibrary = L"\\LangRes\\TWEngRc.dll";
+
+bool ShowsTwelveHours(const std::wstring& timeStyle) {
+  // "49" counts as a 24-hour clock too, as the Today item has it.
+  return !timeStyle.starts_with(L"1") && !timeStyle.starts_with(L"49");
+}
+
+void LoadGroup(Registry& registry, SettingGroup& group, const LoadContext& context) {
+  const FlushedKey key = CreateSettingKey(registry, group.Key());
+  group.Load(key.Get(), context);
+}
+
+void SaveGroup(Registry& registry, SettingGroup& group) {
+  const FlushedKey key = CreateSettingKey(registry, group.Key());
+  group.Save(key.Get());
+}
+
+// A write-back of something that may well be the same: only a difference makes it a change, so
+// that a save without one writes nothing.
+void SetIfDifferent(DwordSetting& setting, std::uint32_t value) {
+  if (setting.Value() != value) setting.Set(value);
+}
+
+bool IsPermutation(std::span<DwordSetting* const> settings) {
+  std::uint32_t seen = 0;
+  for (const DwordSetting* setting : settings) {
+    if (setting->Value() < settings.size()) seen |= 1u << setting->Value();
+  }
+  return seen == (1u << settings.size()) - 1;
+}
+
+}  // namespace
+
+std::array<SettingGroup*, 15> SettingsStore::Groups() {
+  return {&today, &pocketInformant, &agendaFusion, &root,        &calendar,
+          &tasks, &notes,           &contacts,     &messages,    &specialEvents,
+          &fonts, &colors,          &customPim,    &tabSettings, &categories};
+}
+
+void SettingsStore::Load(Machine& machine, const ScreenScale& scale,
+                         std::unique_ptr<ResourceLibrary>& language) {
+  Registry& registry = machine.registry;
+  LoadContext context;
+  context.scale = scale;
+  context.firstDayOfWeek =
+      static_cast<std::uint32_t>(ParseNumber(machine.locale.FirstDayOfWeek(), 10));
+
+  twelveHourClock = ShowsTwelveHours(machine.locale.TimeStyle());
+  LoadInstallPaths(registry, context);
+  LoadGroup(registry, pocketInformant, context);
+  LoadGroup(registry, agendaFusion, context);
+  themeColors = ReadThemeColors(registry, machine.system.Version());
+  LoadGroup(registry, root, context);
+
+  language.reset();
+  language = machine.libraries.Load(root.SelectedLangResFile.Value());
+  if (!language) language = machine.libraries.Load(installFolder + kEnglishLibrary);
+
+  LoadGroup(registry, calendar, context);
+  RepairCalendar();
+  LoadGroup(registry, tasks, context);
+  LoadGroup(registry, notes, context);
+  LoadGroup(registry, contacts, context);
+  LoadGroup(registry, messages, context);
+  LoadGroup(registry, specialEvents, context);
+  LoadGroup(registry, fonts, context);
+  LoadGroup(registry, colors, context);
+  LoadGroup(registry, customPim, context);
+  LoadTabs(registry, context, language.get());
+  ChooseActiveTab();
+  LoadGroup(registry, categories, context);
+}
+
+void SettingsStore::LoadInstallPaths(Registry& registry, LoadContext& context) {
+  // This key belongs to the Today screen and is never created.
+  const FlushedKey key = OpenSettingKey(registry, today.Key());
+  today.Load(key.Get(), context);
+  installFolder = today.ProgramFiles.Value() + kProgramFolder;
+  todayItemFolder = today.InstallPath.Value() + kProgramFolder;
+  context.installFolder = installFolder;
+}
+
+void SettingsStore::RepairCalendar() {
+  const std::int32_t days = calendar.dNumOfDays.Signed();
+  if (days < 1 || days > 120) calendar.dNumOfDays.Set(7);
+
+  const std::int64_t start = calendar.TimelinesStart.Signed();
+  if (start + calendar.TimelinesLength.Signed() + 6 > 24) {
+    calendar.TimelinesLength.Set(static_cast<std::uint32_t>(18 - start));
+  }
+
+  const std::array<DwordSetting*, 6> titles = {
+      &calendar.CalTitlesOrder0, &calendar.CalTitlesOrder1, &calendar.CalTitlesOrder2,
+      &calendar.CalTitlesOrder3, &calendar.CalTitlesOrder4, &calendar.CalTitlesOrder5};
+  if (IsPermutation(titles)) return;
+  for (std::uint32_t i = 0; i < titles.size(); ++i) titles[i]->Set(i);
+}
+
+void SettingsStore::LoadTabs(Registry& registry, const LoadContext& context,
+                             const ResourceLibrary* language) {
+  tabs.clear();
+  const FlushedKey key = CreateSettingKey(registry, tabSettings.Key());
+  tabSettings.Load(key.Get(), context);
+  for (const BuiltInTab& tab : tabSettings.builtInTabs) {
+    TabEntry entry;
+    entry.type = tab.type;
+    entry.order = tab.order.Signed();
+    entry.enabled = tab.enabled.Value();
+    entry.caption = TextOf(language, tab.captionId);
+    InsertByOrder(tabs, std::move(entry));
+  }
+  if (key.Get()) ReadHostedPlugins(registry, *key.Get(), tabs);
+  Renumber(tabs);
+}
+
+void SettingsStore::ChooseActiveTab() {
+  const TabEntry* active = FindByOrder(tabs, root.ActiveTab.Signed());
+  const bool usable = active && active->enabled == 1 && active->type != TabType::kHosted;
+  if (!usable) root.ActiveTab.Set(1);
+
+  const std::uint32_t chosen = tabSettings.DfltTab.Value();
+  if (tabSettings.DfltTabOnStartup.Value() != 1 || chosen >= tabSettings.builtInTabs.size()) return;
+  const TabEntry* entry = FindByType(tabs, tabSettings.builtInTabs[chosen].type);
+  if (entry) root.ActiveTab.Set(static_cast<std::uint32_t>(entry->order));
+}
+
+void SettingsStore::Save(Registry& registry, const ScreenScale& scale) {
+  const std::int32_t landscape = root.dHeightLimitLandscape.Signed();
+  if (landscape < 60 || landscape > 500) SetIfDifferent(root.dHeightLimitLandscape, 0);
+  SaveGroup(registry, root);
+
+  // A pinned month needs the room.
+  const bool low = root.dHeightLimit.Signed() < scale.ScaleX(200);
+  if (calendar.PinnedMonthlyClr.Value() == 1 && low) calendar.PinnedMonthlyClr.Set(0);
+  SaveGroup(registry, calendar);
+
+  SaveGroup(registry, tasks);
+  SaveGroup(registry, notes);
+  SaveGroup(registry, contacts);
+  SaveGroup(registry, messages);
+  SaveGroup(registry, specialEvents);
+  SaveGroup(registry, fonts);
+  SaveGroup(registry, colors);
+  SaveGroup(registry, customPim);
+  SaveTabs(registry);
+  SaveGroup(registry, categories);
+}
+
+void SettingsStore::SaveTabs(Registry& registry) {
+  for (const BuiltInTab& tab : tabSettings.builtInTabs) {
+    const TabEntry* entry = FindByType(tabs, tab.type);
+    if (!entry) continue;
+    SetIfDifferent(tab.enabled, entry->enabled);
+    SetIfDifferent(tab.order, static_cast<std::uint32_t>(entry->order));
+  }
+  {
+    const FlushedKey key = CreateSettingKey(registry, tabSettings.Key());
+    if (key.Get()) DeleteHostedPlugins(registry, *key.Get());
+    tabSettings.Save(key.Get());
+  }
+  WriteHostedPlugins(registry, tabs);
+}
+
+}  // namespace tidewell

@@ -1,0 +1,70 @@
+// Every setting of the Today item: loaded once at the start, edited in memory, saved once at Done.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "platform/machine.h"
+#include "platform/scale.h"
+#include "settings/catalogue/agenda_fusion_settings.h"
+#include "settings/catalogue/calendar_settings.h"
+#include "settings/catalogue/categories_settings.h"
+#include "settings/catalogue/colors_settings.h"
+#include "settings/catalogue/contacts_settings.h"
+#include "settings/catalogue/custom_pim_settings.h"
+#include "settings/catalogue/fonts_settings.h"
+#include "settings/catalogue/messages_settings.h"
+#include "settings/catalogue/notes_settings.h"
+#include "settings/catalogue/pocket_informant_settings.h"
+#include "settings/catalogue/root_settings.h"
+#include "settings/catalogue/special_events_settings.h"
+#include "settings/catalogue/tab_settings.h"
+#include "settings/catalogue/tasks_settings.h"
+#include "settings/catalogue/today_item_settings.h"
+#include "settings/tab_list.h"
+#include "settings/theme_colors.h"
+
+namespace tidewell {
+
+class SettingsStore {
+ public:
+  // Reads everything anew, repairs what cannot be, and replaces the language library by the chosen
+  // one, else by the English one; null when neither loads. What cannot be read is its default.
+  void Load(Machine& machine, const ScreenScale& scale, std::unique_ptr<ResourceLibrary>& language);
+  // Writes what was changed, and the hosted tabs. Failures are silent.
+  void Save(Registry& registry, const ScreenScale& scale);
+
+  // In load order.
+  std::array<SettingGroup*, 15> Groups();
+
+  bool twelveHourClock = true;  // times are shown with AM and PM
+  TodayItemSettings today;
+  std::wstring installFolder;
+  std::wstring todayItemFolder;
+  PocketInformantSettings pocketInformant;
+  AgendaFusionSettings agendaFusion;
+  ThemeColors themeColors;
+  RootSettings root;
+  CalendarSettings calendar;
+  TasksSettings tasks;
+  NotesSettings notes;
+  ContactsSettings contacts;
+  MessagesSettings messages;
+  SpecialEventsSettings specialEvents;
+  FontsSettings fonts;
+  ColorsSettings colors;
+  CustomPimSettings customPim;
+  TabSettings tabSettings;
+  TabList tabs;
+  CategoriesSettings categories;
+
+ private:
+  void LoadInstallPaths(Registry& registry, LoadContext& context);
+  void RepairCalendar();
+  void LoadTabs(Registry& registry, const LoadContext& context, const ResourceLibrary* language);
+  void ChooseActiveTab();
+  void SaveTabs(Registry& registry);
+};
+
+}  // namespace tidewell

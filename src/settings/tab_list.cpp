@@ -1,0 +1,37 @@
+#include "settings/tab_list.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tidewell {
+
+namespace {
+
+template <typename Predicate>
+const TabEntry* FindEntry(const TabList& tabs, Predicate fits) {
+  const auto found = std::find_if(tabs.begin(), tabs.end(), fits);
+  return found == tabs.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+void InsertByOrder(TabList& tabs, TabEntry entry) {
+  const auto behind = std::find_if(
+      tabs.begin(), tabs.end(), [&](const TabEntry& other) { return other.order > entry.order; });
+  tabs.insert(behind, std::move(entry));
+}
+
+void Renumber(TabList& tabs) {
+  std::int32_t order = 0;
+  for (TabEntry& entry : tabs) entry.order = ++order;
+}
+
+const TabEntry* FindByOrder(const TabList& tabs, std::int32_t order) {
+  return FindEntry(tabs, [&](const TabEntry& entry) { return entry.order == order; });
+}
+
+const TabEntry* FindByType(const TabList& tabs, TabType type) {
+  return FindEntry(tabs, [&](const TabEntry& entry) { return entry.type == type; });
+}
+
+}  // namespace tidewell
