@@ -41,6 +41,10 @@ std::wstring StringDefault::Resolve(const LoadContext& context) const {
   return text;
 }
 
+void SettingVisitor::Visit(FontSetting& setting) {
+  for (DwordSetting* member : setting.Members()) Visit(*member);
+}
+
 Setting::Setting(SettingKey key, std::wstring name, Access access)
     : key_(key), name_(std::move(name)), access_(access) {}
 
@@ -148,10 +152,6 @@ bool FontSetting::IsChanged() const {
 
 std::array<DwordSetting*, 6> FontSetting::Members() {
   return {&weight, &italic, &underline, &strikeOut, &height, &color};
-}
-
-void FontSetting::Accept(SettingVisitor& visitor) {
-  for (DwordSetting* member : Members()) visitor.Visit(*member);
 }
 
 void FontSetting::Read(RegistryKey* key, const LoadContext& context) {

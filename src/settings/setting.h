@@ -19,18 +19,21 @@ namespace tidewell {
 class DwordSetting;
 class StringSetting;
 class FlagArraySetting;
+class FontSetting;
 class SettingGroup;
 
 // Read-only settings belong to the Today item: loaded here, never saved.
 enum Access : std::uint8_t { kSaved, kReadOnly };
 
-// Is shown every stored value: a font shows its six numbers.
+// Is shown the settings of a walk.
 class SettingVisitor {
  public:
   virtual ~SettingVisitor() = default;
   virtual void Visit(DwordSetting& setting) = 0;
   virtual void Visit(StringSetting& setting) = 0;
   virtual void Visit(FlagArraySetting& setting) = 0;
+  // Visits the font's six numbers unless overridden.
+  virtual void Visit(FontSetting& setting);
 };
 
 class Setting {
@@ -175,7 +178,9 @@ class FontSetting final : public Setting {
   // Takes height, italic, strike-out, underline and weight. Returns the previous colour.
   std::uint32_t Set(const LogFont& font, std::uint32_t newColor);
   bool IsChanged() const override;
-  void Accept(SettingVisitor& visitor) override;
+  void Accept(SettingVisitor& visitor) override { visitor.Visit(*this); }
+  // In load and save order.
+  std::array<DwordSetting*, 6> Members();
 
   DwordSetting weight;
   DwordSetting italic;
@@ -187,8 +192,6 @@ class FontSetting final : public Setting {
  private:
   void Read(RegistryKey* key, const LoadContext& context) override;
   void Write(RegistryKey& key) override;
-  // In load and save order.
-  std::array<DwordSetting*, 6> Members();
 
   const FontLook& look_;
   std::wstring faceName_;
