@@ -1,0 +1,145 @@
+# Sourced after common.sh: a device made of Wine. A prefix of the project's own under build/wine, a
+# Wine desktop of a device's screen, the program installed as a device has it, and pictures.
+
+wine64=/usr/lib/wine/wine64
+wineserver64=/usr/lib/wine/wineserver64  # not Debian's wrapper, which ends the server at once
+installed='C:\Program Files\Velmont\Tidewell\TidewellSettings.exe'
+
+# Every Wine program starts on drive C, so that paths without a drive are the device's.
+in_wine() {
+  (
+    cd "$prefix/drive_c"
+    exec env "${wine_environment[@]}" "$wine64" "$@" {device_lock}>&-
+  )
+}
+
+# use_device NAME: chooses the prefix build/wine/NAME, makes it where it is absent, starts its
+# server. It ends with the script.
+use_device() {
+  local name=$1
+  local authority=${XAUTHORITY:-$HOME/.Xauthority}
+  prefix=$build/wine/$name
+  wine_environment=(
+    "HOME=$build/wine/home"  # a prefix links its Documents and Desktop to it
+    "XAUTHORITY=$authority"
+    "WINEPREFIX=$prefix"
+    "WINESERVER=$wineserver64"
+    "WINEDEBUG=-all"
+    "WINEDLLOVERRIDES=mscoree,mshtml,winemenubuilder.exe="
+    "LC_ALL=${device_locale:-C.UTF-8}"  # under plain C, names beyond ASCII are invisible
+  )
+  mkdir -p "$build/wine/home"
+  exec {device_lock}>"$build/wine/$name.lock"
+  flock -n "$device_lock" ||
+    fail "The device in build/wine/$name is running already; end it first."
+
+  [[ -d $prefix ]] || copy_template
+  at_exit stop_device
+  start_server
+}
+
+# The server that stays, and Wine's services, started with no stream of ours: they would keep a
+# pipe open as long as they live.
+start_server() {
+  env "${wine_environment[@]}" "$wineserver64" -p </dev/null >/dev/null 2>&1 {device_lock}>&-
+  in_wine wineboot </dev/null >/dev/null 2>&1 || fail "Wine does not start in build/wine."
+}
+
+stop_device() {
+  env "${wine_environment[@]}" "$wineserver64" -k >/dev/null 2>&1 || true
+  env "${wine_environment[@]}" timeout 20 "$wineserver64" -w >/dev/null 2>&1 || true
+}
+
+forget_device() { rm -rf "$build/wine/$1"; }
+
+# Prefixes are copies of one template. The system's files, 690 MB, are shared by hard links; the
+# registry and what may be written in place are not.
+copy_template() {
+  local template=$build/wine/template
+  [[ -d $template ]] || make_template
+  rm -rf "$prefix.new"
+  cp -al "$template" "$prefix.new"
+  cp -a --remove-destination "$template"/*.reg "$template/.update-timestamp" "$prefix.new/"
+  find "$template/drive_c/windows" -maxdepth 1 -type f -name '*.ini' \
+    -exec cp -a --remove-destination {} "$prefix.new/drive_c/windows/" \;
+  mv "$prefix.new" "$prefix"
+}
+
+make_template() {
+  say "Making a Wine prefix under build/wine"
+  local wanted=$prefix
+  prefix=$build/wine/template.new
+  wine_environment+=("WINEPREFIX=$prefix")
+  rm -rf "$prefix"
+  mkdir -p "$prefix"
+  env "${wine_environment[@]}" "$wineserver64" -p </dev/null >/dev/null 2>&1 {device_lock}>&-
+  (cd "$prefix" && env -u DISPLAY "${wine_environment[@]}" "$wine64" wineboot -i) \
+    </dev/null >"$logs/wineboot.log" 2>&1 {device_lock}>&- ||
+    fail "Wine could not make a prefix; build/logs/wineboot.log tells why."
+  # Wine does not look into Debian's package of its own fonts; without them Tahoma is another face.
+  ln -sf /usr/share/wine/fonts/*.ttf "$prefix/drive_c/windows/Fonts/"
+  cp "$root/scripts/device.reg" "$prefix/drive_c/"
+  in_wine reg import 'C:\device.reg' </dev/null >/dev/null 2>&1 ||
+    fail "Wine's registry does not take scripts/device.reg."
+  rm "$prefix/drive_c/device.reg"
+  stop_device
+  mv "$prefix" "$build/wine/template"
+  prefix=$wanted
+  wine_environment+=("WINEPREFIX=$prefix")
+}
+
+# What the build put together below build/windows/device is the device's drive.
+install_program() {
+  say "Installing the program on the device"
+  cp -a "$build/windows/device/." "$prefix/drive_c/"
+}
+
+screens=(qvga qvga-landscape square vga vga-landscape)
+
+# use_screen NAME: what later programs find as the device's screen.
+use_screen() {
+  screen=$1
+  case $screen in
+    qvga) screen_width=240 screen_height=320 screen_dpi=96 ;;
+    qvga-landscape) screen_width=320 screen_height=240 screen_dpi=96 ;;
+    square) screen_width=240 screen_height=240 screen_dpi=96 ;;
+    vga) screen_width=480 screen_height=640 screen_dpi=192 ;;
+    vga-landscape) screen_width=640 screen_height=480 screen_dpi=192 ;;
+    *) fail "There is no screen \"$screen\"; there are: ${screens[*]}." ;;
+  esac
+  in_wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$screen_dpi" /f \
+    </dev/null >/dev/null 2>&1
+}
+
+# on_screen PROGRAM [ARGUMENT...]: runs a program on a Wine desktop that is the chosen screen. Its
+# streams pass through; its exit code does not.
+on_screen() { in_wine explorer "/desktop=$screen,${screen_width}x$screen_height" "$@"; }
+
+# A display of exactly the chosen screen's size, in the place of the one before.
+use_virtual_display() {
+  end_virtual_display
+  local told=$build/wine/display number=
+  : >"$told"
+  Xvfb -displayfd 1 -screen 0 "${screen_width}x${screen_height}x24" -nolisten tcp \
+    >"$told" 2>"$logs/xvfb.log" {device_lock}>&- &
+  xvfb_process=$!
+  while [[ -z $number ]]; do
+    kill -0 "$xvfb_process" 2>/dev/null ||
+      fail "The virtual display Xvfb does not start; build/logs/xvfb.log tells why."
+    sleep 0.05
+    number=$(<"$told")
+  done
+  export DISPLAY=:$number
+}
+
+xvfb_process=
+end_virtual_display() {
+  [[ -n $xvfb_process ]] || return 0
+  kill "$xvfb_process" 2>/dev/null || true
+  wait "$xvfb_process" 2>/dev/null || true
+  xvfb_process=
+}
+at_exit end_virtual_display
+
+# The whole display as a PNG file.
+take_picture() { xwd -root -silent | xwdtopnm -quiet | pnmtopng -quiet >"$1"; }
