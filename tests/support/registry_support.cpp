@@ -1,0 +1,138 @@
+#include "tests/support/registry_support.h"
+
+#include <algorithm>
+
+#include "platform/text.h"
+#include "tests/support/utf8.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr std::uint32_t kNameCapacity = 16384;
+constexpr std::uint32_t kDataCapacity = 1 << 20;
+
+struct Found {
+  std::uint32_t type = 0;
+  std::vector<std::byte> data;
+};
+
+std::optional<Found> FindValue(Registry& registry, RegistryRoot root, const std::wstring& path,
+                               const std::wstring& name) {
+  const auto key = registry.Open(root, path);
+  ValueInfo info;
+  if (!key || key->Query(name, {}, info) != kStatusSuccess) return std::nullopt;
+  Found found{info.type, std::vector<std::byte>(info.size)};
+  if (key->Query(name, found.data, info) != kStatusSuccess) return std::nullopt;
+  return found;
+}
+
+std::uint32_t NumberOf(std::span<const std::byte> data) {
+  std::uint32_t number = 0;
+  for (std::size_t i = 4; i-- > 0;) number = number << 8 | std::to_integer<std::uint32_t>(data[i]);
+  return number;
+}
+
+// True for whole units that end in their only zero.
+bool IsProperString(std::span<const std::byte> data) {
+  const std::wstring text = TextOfBytes(data);
+  return data.size() % 2 == 0 && !text.empty() && text.find(L'\0') == text.size() - 1;
+}
+
+std::string Hex(std::span<const std::byte> data) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string text;
+  for (const std::byte byte : data) {
+    text += ' ';
+    text += kDigits[std::to_integer<unsigned>(byte) >> 4];
+    text += kDigits[std::to_integer<unsigned>(byte) & 15];
+  }
+  return text;
+}
+
+std::string Render(const EnumeratedValue& value) {
+  if (value.type == kTypeDword && value.data.size() == 4) {
+    return std::to_string(NumberOf(value.data));
+  }
+  if (value.type == kTypeString && IsProperString(value.data)) {
+    const std::wstring text = TextOfBytes(value.data);
+    return '"' + Utf8(std::wstring_view(text).substr(0, text.size() - 1)) + '"';
+  }
+  if (value.type == kTypeDword) return "dword" + Hex(value.data);
+  if (value.type == kTypeString) return "string" + Hex(value.data);
+  if (value.type == kTypeBinary) return "binary" + Hex(value.data);
+  return "type " + std::to_string(value.type) + Hex(value.data);
+}
+
+bool ComesBefore(const std::wstring& left, const std::wstring& right) {
+  return CompareFolded(left, right) < 0;
+}
+
+}  // namespace
+
+bool SetRaw(Registry& registry, RegistryRoot root, const std::wstring& path,
+            const std::wstring& name, std::uint32_t type, std::span<const std::byte> data) {
+  const auto key = registry.Create(root, path);
+  return key && key->Set(name, type, data) == kStatusSuccess;
+}
+
+bool SetDword(Registry& registry, RegistryRoot root, const std::wstring& path,
+              const std::wstring& name, std::uint32_t number) {
+  const auto byteAt = [&](unsigned shift) { return static_cast<std::byte>(number >> shift); };
+  const std::byte data[] = {byteAt(0), byteAt(8), byteAt(16), byteAt(24)};
+  return SetRaw(registry, root, path, name, kTypeDword, data);
+}
+
+bool SetString(Registry& registry, RegistryRoot root, const std::wstring& path,
+               const std::wstring& name, const std::wstring& text) {
+  return SetRaw(registry, root, path, name, kTypeString, BytesOf(text + L'\0'));
+}
+
+bool SetBinary(Registry& registry, RegistryRoot root, const std::wstring& path,
+               const std::wstring& name, const std::vector<unsigned char>& bytes) {
+  return SetRaw(registry, root, path, name, kTypeBinary, std::as_bytes(std::span(bytes)));
+}
+
+std::optional<std::uint32_t> FindDword(Registry& registry, RegistryRoot root,
+                                       const std::wstring& path, const std::wstring& name) {
+  const auto found = FindValue(registry, root, path, name);
+  if (!found || found->type != kTypeDword || found->data.size() != 4) return std::nullopt;
+  return NumberOf(found->data);
+}
+
+std::optional<std::wstring> FindString(Registry& registry, RegistryRoot root,
+                                       const std::wstring& path, const std::wstring& name) {
+  const auto found = FindValue(registry, root, path, name);
+  if (!found || found->type != kTypeString || !IsProperString(found->data)) return std::nullopt;
+  std::wstring text = TextOfBytes(found->data);
+  text.pop_back();
+  return text;
+}
+
+std::string DumpTree(Registry& registry, RegistryRoot root, const std::wstring& path) {
+  const auto key = registry.Open(root, path);
+  if (!key) return {};
+  std::vector<EnumeratedValue> values;
+  EnumeratedValue value;
+  for (std::uint32_t i = 0;
+       key->EnumValue(i, kNameCapacity, kDataCapacity, value) == kStatusSuccess; ++i) {
+    values.push_back(value);
+  }
+  std::vector<std::wstring> subkeys;
+  std::wstring name;
+  for (std::uint32_t i = 0; key->EnumSubkey(i, kNameCapacity, name) == kStatusSuccess; ++i) {
+    subkeys.push_back(name);
+  }
+  std::sort(values.begin(), values.end(),
+            [](const auto& left, const auto& right) { return ComesBefore(left.name, right.name); });
+  std::sort(subkeys.begin(), subkeys.end(), ComesBefore);
+
+  std::string text = '[' + Utf8(path) + "]\n";
+  for (const auto& each : values) text += Utf8(each.name) + " = " + Render(each) + '\n';
+  for (const auto& each : subkeys) {
+    text += DumpTree(registry, root, path.empty() ? each : JoinPath(path, each));
+  }
+  return text;
+}
+
+}  // namespace tidewell
