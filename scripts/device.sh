@@ -5,11 +5,14 @@ wine64=/usr/lib/wine/wine64
 wineserver64=/usr/lib/wine/wineserver64  # not Debian's wrapper, which ends the server at once
 installed='C:\Program Files\Velmont\Tidewell\TidewellSettings.exe'
 
-# Every Wine program starts on drive C, so that paths without a drive are the device's.
+# Every Wine program starts on drive C, so that paths without a drive are the device's. It is ended
+# after $time_limit seconds where that is set; what it started in Wine goes on until stop_device.
+time_limit=
 in_wine() {
   (
     cd "$prefix/drive_c"
-    exec env "${wine_environment[@]}" "$wine64" "$@" {device_lock}>&-
+    exec env "${wine_environment[@]}" \
+      ${time_limit:+timeout --foreground --kill-after=5 "$time_limit"} "$wine64" "$@" {device_lock}>&-
   )
 }
 
@@ -48,6 +51,11 @@ start_server() {
 stop_device() {
   env "${wine_environment[@]}" "$wineserver64" -k >/dev/null 2>&1 || true
   env "${wine_environment[@]}" timeout 20 "$wineserver64" -w >/dev/null 2>&1 || true
+}
+
+restart_device() {
+  stop_device
+  start_server
 }
 
 forget_device() { rm -rf "$build/wine/$1"; }
