@@ -11,6 +11,7 @@ native_suites=(
 )
 windows_suites=(
   "core 120 tests/core_tests.exe"
+  "resources 60 tests/resources/resource_tests.exe"
 )
 
 passed=0
@@ -57,6 +58,7 @@ record_report() {
   fi
 }
 
+# The suites' words: NAME SECONDS PROGRAM.
 run_native_suite() {
   local name="$1, native" limit=$2 program=$build/host/$3
   local log=$logs/$1-native.log report=$logs/$1-native.xml
@@ -77,8 +79,10 @@ run_windows_suite() {
     return
   fi
   time_limit=$limit
+  start_folder=$(dirname "$program")
   run_timed on_screen "Z:$program" "--gtest_output=xml:Z:$report" >"$log" 2>&1 </dev/null
   time_limit=
+  start_folder=
   if ((status == 124 || status == 137)); then
     say "No end after $limit seconds." >>"$log"
     restart_device
@@ -104,8 +108,11 @@ try_build() {
 
 run_native_tests() {
   try_build host || return 0
-  local suite
-  for suite in "${native_suites[@]}"; do run_native_suite $suite; done
+  local suite words
+  for suite in "${native_suites[@]}"; do
+    read -ra words <<<"$suite"
+    run_native_suite "${words[@]}"
+  done
 }
 
 run_windows_tests() {
@@ -114,8 +121,11 @@ run_windows_tests() {
   use_device test
   use_screen vga
   use_virtual_display
-  local suite
-  for suite in "${windows_suites[@]}"; do run_windows_suite $suite; done
+  local suite words
+  for suite in "${windows_suites[@]}"; do
+    read -ra words <<<"$suite"
+    run_windows_suite "${words[@]}"
+  done
 }
 
 need_packages "${program_packages[@]}" "${test_packages[@]}"

@@ -5,12 +5,14 @@ wine64=/usr/lib/wine/wine64
 wineserver64=/usr/lib/wine/wineserver64  # not Debian's wrapper, which ends the server at once
 installed='C:\Program Files\Velmont\Tidewell\TidewellSettings.exe'
 
-# Every Wine program starts on drive C, so that paths without a drive are the device's. It is ended
-# after $time_limit seconds where that is set; what it started in Wine goes on until stop_device.
+# Wine programs start on drive C, so that paths without a drive are the device's, or in
+# $start_folder. They are ended after $time_limit seconds where that is set; what they started goes
+# on until stop_device.
 time_limit=
+start_folder=
 in_wine() {
   (
-    cd "$prefix/drive_c"
+    cd "${start_folder:-$prefix/drive_c}"
     exec env "${wine_environment[@]}" \
       ${time_limit:+timeout --foreground --kill-after=5 "$time_limit"} "$wine64" "$@" {device_lock}>&-
   )
