@@ -29,4 +29,10 @@ inline std::wstring TextOf(const ResourceLibrary* library, std::uint32_t id) {
   return library ? library->FindText(id).value_or(std::wstring()) : std::wstring();
 }
 
+// The text of an id, or a built-in one without a library or without the string.
+inline std::wstring TextOf(const ResourceLibrary* library, std::uint32_t id,
+                           const wchar_t* builtIn) {
+  return library ? library->FindText(id).value_or(builtIn) : builtIn;
+}
+
 }  // namespace tidewell

@@ -1,0 +1,262 @@
+#include "ui/path_dialog_model.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/memory/fixed_locale.h"
+#include "platform/memory/memory_files.h"
+#include "platform/memory/metered_files.h"
+#include "platform/text.h"
+
+namespace tidewell {
+namespace {
+
+using testing::ElementsAre;
+
+std::vector<std::wstring> NamesOf(const std::vector<ListedEntry>& rows) {
+  std::vector<std::wstring> names;
+  for (const ListedEntry& row : rows) names.push_back(row.name);
+  return names;
+}
+
+class PathDialogModelTest : public testing::Test {
+ protected:
+  PathDialogModelTest() {
+    files.Put(L"\\My Documents\\Sounds\\chime.wav");
+    files.Put(L"\\My Documents\\Sounds\\Alarm.WAV");
+    files.Put(L"\\My Documents\\Sounds\\read me.txt");
+    files.Put(L"\\My Documents\\Sounds\\zz old\\");
+    files.Put(L"\\My Documents\\skins\\");
+    files.Put(L"\\My Documents\\Arrows\\");
+    files.Put(L"\\My Documents\\letter.txt");
+    files.Put(L"\\Windows\\");
+  }
+
+  PathDialogModel ChooseFolder(const std::wstring& present) {
+    return {metered, locale, {L"", present, std::nullopt}, L"up"};
+  }
+  PathDialogModel ChooseFile(const std::wstring& present, const std::wstring& pattern) {
+    return {metered, locale, {L"", present, pattern}, L"up"};
+  }
+
+  MemoryFiles files;
+  MeteredFiles metered{files};
+  FixedLocale locale;
+};
+
+TEST_F(PathDialogModelTest, StartsAtThePresentValueOrTheNearestFolderThatExists) {
+  struct Case {
+    const wchar_t* present;
+    const wchar_t* folder;
+  };
+  for (const Case& c :
+       std::initializer_list<Case>{{L"\\My Documents\\skins", L"\\My Documents\\skins"},
+                                   {L"\\My Documents\\skins\\", L"\\My Documents\\skins"},
+                                   {L"\\my documents\\SKINS", L"\\my documents\\SKINS"},
+                                   {L"\\My Documents\\skins\\gone\\too", L"\\My Documents\\skins"},
+                                   {L"\\My Documents\\letter.txt", L"\\My Documents"},
+                                   {L"\\My Documents\\letter.txt\\below a file", L"\\My Documents"},
+                                   {L"\\Storage Card\\Skins", L"\\"},
+                                   {L"\\My Documents\\*", L"\\My Documents"},
+                                   {L"\\", L"\\"},
+                                   {L"\\\\", L"\\"},
+                                   {L"", L"\\"},
+                                   {L"My Documents", L"\\"},
+                                   {L"C:\\My Documents", L"\\"}}) {
+    EXPECT_EQ(ChooseFolder(c.present).Folder(), c.folder);
+    EXPECT_EQ(ChooseFile(c.present, L"*").Folder(), c.folder);
+  }
+}
+
+TEST_F(PathDialogModelTest, ShowsFoldersFirstThenTheFilesThatFitAndTheWayUpOnTop) {
+  EXPECT_THAT(NamesOf(ChooseFile(L"\\My Documents\\Sounds", L"*.wav").Rows()),
+              ElementsAre(L"up", L"zz old", L"Alarm.WAV", L"chime.wav"));
+  EXPECT_THAT(NamesOf(ChooseFile(L"\\My Documents\\Sounds", L"*.mp3;*.txt").Rows()),
+              ElementsAre(L"up", L"zz old", L"read me.txt"));
+  EXPECT_THAT(NamesOf(ChooseFolder(L"\\My Documents").Rows()),
+              ElementsAre(L"up", L"Arrows", L"skins", L"Sounds"));
+  EXPECT_THAT(NamesOf(ChooseFolder(L"\\").Rows()), ElementsAre(L"My Documents", L"Windows"));
+}
+
+TEST_F(PathDialogModelTest, MarksThePresentFileAndTheFolderLeftUpwards) {
+  EXPECT_EQ(ChooseFile(L"\\My Documents\\Sounds\\CHIME.wav", L"*.wav").Suggested(), 3u);
+  EXPECT_EQ(ChooseFile(L"\\My Documents\\Sounds\\gone.wav", L"*.wav").Suggested(), std::nullopt);
+  EXPECT_EQ(ChooseFile(L"\\My Documents\\Sounds\\read me.txt", L"*.wav").Suggested(), std::nullopt);
+
+  PathDialogModel model = ChooseFolder(L"\\My Documents\\skins");
+  EXPECT_EQ(model.Suggested(), std::nullopt);
+  model.GoUp();
+  EXPECT_EQ(model.Folder(), L"\\My Documents");
+  EXPECT_EQ(model.Suggested(), 2u);
+  model.Activate(0);
+  EXPECT_EQ(model.Folder(), L"\\");
+  EXPECT_EQ(model.Suggested(), 0u);
+  model.GoUp();
+  EXPECT_EQ(model.Folder(), L"\\");
+}
+
+TEST_F(PathDialogModelTest, AFolderIsOpenedByActivatingAndChosenByTaking) {
+  PathDialogModel model = ChooseFolder(L"\\");
+  EXPECT_EQ(model.Take(std::nullopt), L"\\");
+  EXPECT_EQ(model.Take(0), L"\\My Documents");
+  EXPECT_EQ(model.Folder(), L"\\");
+
+  EXPECT_EQ(model.Activate(0), std::nullopt);
+  EXPECT_EQ(model.Folder(), L"\\My Documents");
+  EXPECT_EQ(model.Suggested(), std::nullopt);
+  EXPECT_EQ(model.Take(std::nullopt), L"\\My Documents");
+  EXPECT_EQ(model.Take(0), L"\\My Documents") << "the way up is no folder to choose";
+  EXPECT_EQ(model.Take(2), L"\\My Documents\\skins");
+}
+
+TEST_F(PathDialogModelTest, AFileIsChosenByEither) {
+  PathDialogModel model = ChooseFile(L"\\My Documents\\Sounds", L"*.wav");
+  EXPECT_FALSE(model.CanTake(std::nullopt));
+  EXPECT_TRUE(model.CanTake(2));
+  EXPECT_EQ(model.Take(std::nullopt), std::nullopt);
+  EXPECT_EQ(model.Take(99), std::nullopt);
+  EXPECT_EQ(model.Take(2), L"\\My Documents\\Sounds\\Alarm.WAV");
+  EXPECT_EQ(model.Activate(3), L"\\My Documents\\Sounds\\chime.wav");
+
+  EXPECT_EQ(model.Take(1), std::nullopt);
+  EXPECT_EQ(model.Folder(), L"\\My Documents\\Sounds\\zz old");
+}
+
+// A card that is drawn out takes its folders with it, whatever the dialog was just showing.
+class Card : public Files {
+ public:
+  explicit Card(Files& inner) : inner_(inner) {}
+  std::unique_ptr<InputStream> OpenForReading(const std::wstring&) override { return nullptr; }
+  std::unique_ptr<OutputStream> OpenForWriting(const std::wstring&) override { return nullptr; }
+  bool Remove(const std::wstring&) override { return false; }
+  bool Replace(const std::wstring&, const std::wstring&) override { return false; }
+  bool MakeFolder(const std::wstring&) override { return false; }
+  std::optional<FileEntry> Find(const std::wstring& path) override {
+    return IsGone(path) ? std::nullopt : inner_.Find(path);
+  }
+  bool List(const std::wstring& pattern,
+            const std::function<bool(const FileEntry&)>& visit) override {
+    if (IsGone(pattern)) return false;
+    return inner_.List(pattern, [&](const FileEntry& entry) {
+      return IsGone(JoinPath(ParentFolder(pattern), entry.name)) || visit(entry);
+    });
+  }
+
+  std::wstring gone;  // a folder that is no more, with all below it
+
+ private:
+  bool IsGone(const std::wstring& path) const {
+    return !gone.empty() && (path + L"\\").starts_with(gone + L"\\");
+  }
+  Files& inner_;
+};
+
+class VanishingFolderTest : public PathDialogModelTest {
+ protected:
+  PathDialogModel At(const wchar_t* present, std::optional<std::wstring> pattern = std::nullopt) {
+    return {card, locale, {L"", present, std::move(pattern)}, L"up"};
+  }
+
+  Card card{files};
+};
+
+TEST_F(VanishingFolderTest, ALostRowLeadsBackToTheFolderAsItIsNow) {
+  PathDialogModel opened = At(L"\\My Documents");
+  PathDialogModel taken = At(L"\\My Documents");
+  PathDialogModel file = At(L"\\My Documents\\Sounds", L"*.wav");
+
+  card.gone = L"\\My Documents\\skins";
+  EXPECT_EQ(opened.Activate(2), std::nullopt);
+  EXPECT_EQ(opened.Folder(), L"\\My Documents");
+  EXPECT_THAT(NamesOf(opened.Rows()), ElementsAre(L"up", L"Arrows", L"Sounds"));
+  EXPECT_EQ(taken.Take(2), std::nullopt);
+  EXPECT_THAT(NamesOf(taken.Rows()), ElementsAre(L"up", L"Arrows", L"Sounds"));
+
+  card.gone = L"\\My Documents\\Sounds\\chime.wav";
+  EXPECT_EQ(file.Take(3), std::nullopt);
+  EXPECT_THAT(NamesOf(file.Rows()), ElementsAre(L"up", L"zz old", L"Alarm.WAV"));
+}
+
+TEST_F(VanishingFolderTest, ALostFolderLeadsToTheNearestOneThatIsLeft) {
+  PathDialogModel taken = At(L"\\My Documents\\Sounds\\zz old");
+  PathDialogModel left = At(L"\\My Documents\\Sounds\\zz old");
+
+  card.gone = L"\\My Documents\\Sounds";
+  left.GoUp();
+  EXPECT_EQ(left.Folder(), L"\\My Documents");
+  EXPECT_EQ(left.Suggested(), std::nullopt);
+
+  card.gone = L"\\My Documents";
+  EXPECT_EQ(taken.Take(std::nullopt), std::nullopt);
+  EXPECT_EQ(taken.Folder(), L"\\");
+  EXPECT_THAT(NamesOf(taken.Rows()), ElementsAre(L"Windows"));
+}
+
+TEST_F(PathDialogModelTest, TellsAnEmptyFolderFromOneThatCannotBeRead) {
+  EXPECT_EQ(ChooseFolder(L"\\My Documents").Note(), FolderNote::kNone);
+  EXPECT_EQ(ChooseFolder(L"\\My Documents\\skins").Note(), FolderNote::kEmpty);
+  EXPECT_EQ(ChooseFolder(L"\\My Documents\\Sounds\\zz old").Note(), FolderNote::kEmpty);
+
+  metered.Meter().FailEvery(FileCall::kList);
+  PathDialogModel model = ChooseFolder(L"\\My Documents\\skins");
+  EXPECT_EQ(model.Folder(), L"\\My Documents\\skins");
+  EXPECT_EQ(model.Note(), FolderNote::kUnreadable);
+  EXPECT_THAT(NamesOf(model.Rows()), ElementsAre(L"up"));
+  EXPECT_EQ(model.Take(std::nullopt), L"\\My Documents\\skins");
+
+  metered.Meter().Reset();
+  model.Activate(0);
+  EXPECT_EQ(model.Note(), FolderNote::kNone);
+  EXPECT_EQ(model.Suggested(), 2u);
+}
+
+TEST_F(PathDialogModelTest, TakesFiveThousandEntriesInOneListing) {
+  for (int i = 0; i < 5000; ++i) {
+    files.Put(L"\\Card\\" + FormatDecimal(10000 - i) + L".wav");
+  }
+  metered.Meter().Reset();
+  PathDialogModel model = ChooseFile(L"\\Card\\7000.wav", L"*.wav");
+  EXPECT_EQ(metered.Count(FileCall::kList), 1);
+  ASSERT_EQ(model.Rows().size(), 5001u);
+  EXPECT_EQ(model.Rows()[1].name, L"10000.wav");
+  EXPECT_EQ(model.Rows()[5000].name, L"9999.wav");
+  ASSERT_TRUE(model.Suggested());
+  EXPECT_EQ(model.Rows()[*model.Suggested()].name, L"7000.wav");
+}
+
+TEST_F(PathDialogModelTest, TakesTheLongestNames) {
+  const std::wstring longest(255, L'n');
+  files.Put(L"\\" + longest + L"\\" + longest);
+  PathDialogModel model = ChooseFile(L"\\", L"*");
+  EXPECT_EQ(model.Activate(1), std::nullopt);
+  EXPECT_EQ(model.Folder(), L"\\" + longest);
+  EXPECT_EQ(model.Take(1), L"\\" + longest + L"\\" + longest);
+}
+
+TEST(PathDialogTextsTest, AreBuiltInWithoutALibrary) {
+  const PathDialogTexts texts(nullptr);
+  EXPECT_EQ(texts.select, L"Select");
+  EXPECT_EQ(texts.cancel, L"Cancel");
+  EXPECT_EQ(texts.root, L"My Device");
+}
+
+TEST(ShortenPathTest, DropsTheFirstNamesUntilItFits) {
+  struct Case {
+    const wchar_t* path;
+    std::size_t room;
+    const wchar_t* shown;
+  };
+  for (const Case& c : std::initializer_list<Case>{{L"\\One\\Two\\Three", 14, L"\\One\\Two\\Three"},
+                                                   {L"\\One\\Two\\Three", 13, L"...\\Two\\Three"},
+                                                   {L"\\One\\Two\\Three", 12, L"...\\Three"},
+                                                   {L"\\One\\Two\\Three", 1, L"...\\Three"},
+                                                   {L"\\One", 1, L"\\One"},
+                                                   {L"\\", 0, L"\\"}}) {
+    EXPECT_EQ(
+        ShortenPath(c.path, [&](const std::wstring& shown) { return shown.size() <= c.room; }),
+        c.shown);
+  }
+}
+
+}  // namespace
+}  // namespace tidewell
