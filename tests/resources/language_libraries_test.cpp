@@ -47,55 +47,55 @@ std::vector<std::wstring> PlaceholdersOf(const std::wstring& text) {
   return {std::wsregex_token_iterator(text.begin(), text.end(), pattern), {}};
 }
 
-class LanguageLibraries : public testing::Test {
+class LanguageLibraries : public testing::TestWithParam<std::string> {
  protected:
   const std::map<int, NamedText> header_ = HeaderTexts();
-  const std::map<int, std::wstring> english_ = TextsOf(OpenLibrary("LangRes/TWEngRc.dll"));
-  const std::map<int, std::wstring> german_ = TextsOf(OpenLibrary("LangRes/TWGerRc.dll"));
+  const std::map<int, std::wstring> texts_ = TextsOf(OpenLibrary("LangRes/" + GetParam()));
 };
+INSTANTIATE_TEST_SUITE_P(Every, LanguageLibraries, testing::ValuesIn(LanguageLibraryNames()),
+                         [](const auto& which) {
+                           return which.param.substr(0, which.param.find('.'));
+                         });
 
-TEST_F(LanguageLibraries, HoldTheHeadersNumbersAndNoOthers) {
+TEST_P(LanguageLibraries, HoldTheHeadersNumbersAndNoOthers) {
   ASSERT_GT(header_.size(), 100u);
-  EXPECT_EQ(NumbersOf(english_), NumbersOf(header_));
-  EXPECT_EQ(NumbersOf(german_), NumbersOf(header_));
+  EXPECT_EQ(NumbersOf(texts_), NumbersOf(header_));
 }
 
-TEST_F(LanguageLibraries, TheHeaderQuotesTheEnglishTexts) {
-  for (const auto& [id, text] : header_) {
-    EXPECT_EQ(english_.at(id), text.english) << text.name;
+TEST_P(LanguageLibraries, KeepPlaceholdersAndHaveNoStrayBlanks) {
+  for (const auto& [id, promised] : header_) {
+    const std::wstring& text = texts_.at(id);
+    EXPECT_EQ(PlaceholdersOf(text), PlaceholdersOf(promised.english)) << promised.name;
+    EXPECT_NE(text.front(), L' ') << promised.name;
+    EXPECT_NE(text.back(), L' ') << promised.name;
+    EXPECT_EQ(text.find(L"  "), std::wstring::npos) << promised.name;
   }
 }
 
-TEST_F(LanguageLibraries, AgreeInPlaceholdersAndHaveNoStrayBlanks) {
-  for (const auto& [id, text] : header_) {
-    EXPECT_EQ(PlaceholdersOf(german_.at(id)), PlaceholdersOf(english_.at(id))) << text.name;
-    for (const std::wstring& found : {english_.at(id), german_.at(id)}) {
-      EXPECT_NE(found.front(), L' ') << text.name;
-      EXPECT_NE(found.back(), L' ') << text.name;
-      EXPECT_EQ(found.find(L"  "), std::wstring::npos) << text.name;
-    }
-  }
+TEST(EnglishLibrary, HoldsTheTextsThatTheHeaderQuotes) {
+  const auto texts = TextsOf(OpenLibrary("LangRes/TWEngRc.dll"));
+  for (const auto& [id, text] : HeaderTexts()) EXPECT_EQ(texts.at(id), text.english) << text.name;
 }
 
-// Names and the few words that are the same in German.
-TEST_F(LanguageLibraries, NothingIsLeftUntranslated) {
+TEST(EnglishLibrary, KeepsTheWordingsThatOthersRelyOn) {
+  const auto texts = TextsOf(OpenLibrary("LangRes/TWEngRc.dll"));
+  EXPECT_EQ(texts.at(IDS_FILE_NAME), L"File Name");
+  EXPECT_EQ(texts.at(IDS_FILE_NAME_MISSING), L"File name value is missing");
+  EXPECT_EQ(texts.at(IDS_FILE_NAME_ILLEGAL), L"File name include illegal characters");
+  EXPECT_EQ(texts.at(IDS_FILE_NAME_ERROR), L"File Name Error");
+}
+
+// Only names and the few words that are the same in German.
+TEST(GermanLibrary, LeavesNothingUntranslated) {
+  const auto texts = TextsOf(OpenLibrary("LangRes/TWGerRc.dll"));
   std::vector<int> same;
-  for (const auto& [id, text] : english_) {
-    if (german_.at(id) == text) same.push_back(id);
+  for (const auto& [id, text] : HeaderTexts()) {
+    if (texts.at(id) == text.english) same.push_back(id);
   }
   EXPECT_THAT(same, testing::UnorderedElementsAre(IDS_GROUP_PIM, IDS_COLOR_AUTOMATIC,
                                                   IDS_PIM_COMPANION, IDS_PIM_POCKET_INFORMANT,
                                                   IDS_PIM_AGENDA_FUSION, IDS_PIM_AGENDA_ONE,
                                                   IDS_TABS_POSITION, IDS_TABS_STYLE_TEXT));
-}
-
-TEST_F(LanguageLibraries, KeepTheWordingsThatOthersRelyOn) {
-  EXPECT_EQ(english_.at(IDS_LANGUAGE_NAME), L"English");
-  EXPECT_EQ(german_.at(IDS_LANGUAGE_NAME), L"Deutsch");
-  EXPECT_EQ(english_.at(IDS_FILE_NAME), L"File Name");
-  EXPECT_EQ(english_.at(IDS_FILE_NAME_MISSING), L"File name value is missing");
-  EXPECT_EQ(english_.at(IDS_FILE_NAME_ILLEGAL), L"File name include illegal characters");
-  EXPECT_EQ(english_.at(IDS_FILE_NAME_ERROR), L"File Name Error");
 }
 
 }  // namespace

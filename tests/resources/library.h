@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tidewell {
 
@@ -21,9 +22,31 @@ inline std::wstring Widen(const std::string& utf8) {
   return text;
 }
 
+inline std::string Narrow(const std::wstring& text) {
+  const int size =
+      WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0, nullptr, nullptr);
+  std::string utf8(size_t(size), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), utf8.data(), size, nullptr,
+                      nullptr);
+  return utf8;
+}
+
 // `name` is relative to the install folder.
 inline Library OpenLibrary(const std::string& name) {
   return Library(LoadLibraryW(Widen(INSTALL_FOLDER "/" + name).c_str()));
+}
+
+// The file names of all language libraries.
+inline std::vector<std::string> LanguageLibraryNames() {
+  std::vector<std::string> names;
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FindFirstFileW(Widen(INSTALL_FOLDER "/LangRes/*.dll").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    names.push_back(Narrow(found.cFileName));
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+  return names;
 }
 
 // Every text of a language library by its number.
