@@ -86,7 +86,7 @@ class Scroller : public testing::Test {
     while (std::getline(lines, line)) {
       const std::string input = line.substr(0, line.find(" >"));
       const std::string answer = Perform(input);
-      actual += input + (answer.empty() ? " >" : " > " + answer) + "\n";
+      actual.append(input).append(answer.empty() ? " >" : " > ").append(answer).append("\n");
     }
     EXPECT_EQ(actual, transcript);
   }
@@ -212,18 +212,30 @@ const Gesture kDrags[] = {
      "down 50 20 @1000 > capture, start 1031 100\n"
      "move 120 @1030 > stop 1031, drag, paint -1900, update\n"
      "up 120 > release, start 1030 70\n"
-     "timer 1030 > paint -1780, update\n"              // 120
-     "timer 1030 > paint -1684, update\n"              // 96
-     "timer 1030 > paint -1597, update\n"              // 86.4
-     "timer 1030 > paint -1519, update\n"              // 77.76
-     "timer 1030 > paint -1449, update\n"              // 69.984
-     "timer 1030 > paint -1386, update\n"              // 62.9856
-     "timer 1030 > paint -1329, update\n"              // 56.687
-     "timer 1030 > paint -1277, update\n"              // 51.018
-     "timer 1030 > paint -1231, update\n"              // 45.916
-     "timer 1030 > paint -1189, update\n"              // 41.325
-     "timer 1030 > paint -1151, update\n"              // 37.192
-     "timer 1030 > paint -1116, update\n"},            // 34.961
+     "timer 1030 > paint -1780, update\n"         // 120
+     "timer 1030 > paint -1684, update\n"         // 96
+     "timer 1030 > paint -1597, update\n"         // 86.4
+     "timer 1030 > paint -1519, update\n"         // 77.76
+     "timer 1030 > paint -1449, update\n"         // 69.984
+     "timer 1030 > paint -1386, update\n"         // 62.9856
+     "timer 1030 > paint -1329, update\n"         // 56.687
+     "timer 1030 > paint -1277, update\n"         // 51.018
+     "timer 1030 > paint -1231, update\n"         // 45.916
+     "timer 1030 > paint -1189, update\n"         // 41.325
+     "timer 1030 > paint -1151, update\n"         // 37.192
+     "timer 1030 > paint -1116, update\n"},       // 34.961
+    {"AVelocityOf200IsNotAbove200", 4000, -2000,  // 45 / 45 * 200
+     "down 50 20 @1000 > capture, start 1031 100\n"
+     "move 220 @1045 > stop 1031, drag, paint -1800, update\n"
+     "up 220 > release, start 1030 70\n"
+     "timer 1030 > paint -1640, update\n"         // 160
+     "timer 1030 > paint -1512, update\n"},       // 128
+    {"AVelocityOf100IsNotAbove100", 4000, -2000,  // 45 / 45 * -100
+     "down 50 120 @1000 > capture, start 1031 100\n"
+     "move 20 @1045 > stop 1031, drag, paint -2100, update\n"
+     "up 20 > release, start 1030 70\n"
+     "timer 1030 > paint -2190, update\n"              // -90
+     "timer 1030 > paint -2271, update\n"},            // -81
     {"OneTickCountCountsAsAMillisecond", 4000, -2000,  // 45 / 1 * 7 = 315
      "down 50 80 @1000 > capture, start 1031 100\n"
      "move 92 @1010 > stop 1031, drag, paint -1988, update\n"
@@ -258,6 +270,13 @@ const Gesture kBounces[] = {
      "timer 1032 > paint 0, update\n"
      "timer 1032 > stop 1032, paint 0, update\n"
      "down 50 60 @2000 > capture, start 1031 100\n"},
+    {"OnePixelBeyondTheTop", 400, -11,
+     "down 50 60 @1000 > capture, start 1031 100\n"
+     "move 72 @1010 > stop 1031, drag, paint 1, update\n"
+     "move 72 @1020 > paint 1, update\n"
+     "move 72 @1030 > paint 1, update\n"
+     "up 72 > release, start 1032 50\n"
+     "run > 0 0 0 0\n"},
     {"BeyondTheBottom", 400, -300,
      "down 50 100 @1000 > capture, start 1031 100\n"
      "move 55 @1010 > stop 1031, drag, paint -345, update\n"
@@ -374,6 +393,20 @@ TEST_F(Scroller, AHighlightThatChangesNothingIsNotRepainted) {
   Expect(
       "down 50 60 @1000 > capture, start 1031 100\n"
       "timer 1031 > stop 1031, highlight 50 40\n");
+}
+
+TEST_F(Scroller, ContentThatGrowsDuringABounceEndsItWhereItIs) {
+  Start(400, -300);
+  Expect(
+      "down 50 100 @1000 > capture, start 1031 100\n"
+      "move 55 @1010 > stop 1031, drag, paint -345, update\n"
+      "move 55 @1020 > paint -345, update\n"
+      "move 55 @1030 > paint -345, update\n"
+      "up 55 > release, start 1032 50\n"
+      "timer 1032 > paint -323, update\n");
+  recorder_.contentHeight = 800;
+  Expect("run > -319 -319 -319\n");
+  EXPECT_FALSE(scroller_.Moving());
 }
 
 TEST_F(Scroller, BeginsAtTheTopAndAgainWheneverItIsInitialised) {
