@@ -1,0 +1,69 @@
+#include "platform/windows/windows_locale.h"
+
+#include <windows.h>
+
+#include "platform/text.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr int kLongestText = 256;  // of a formatted date or time, with its zero
+
+// A fact of one character; where the locale has none the buffer stays empty.
+std::wstring ShortFact(LCID localeId, LCTYPE fact) {
+  wchar_t text[4] = {};
+  GetLocaleInfoW(localeId, fact, text, 4);
+  return text;
+}
+
+SYSTEMTIME SystemTimeOf(const LocalTime& time) {
+  SYSTEMTIME system{};
+  system.wYear = time.year;
+  system.wMonth = time.month;
+  system.wDay = time.day;
+  system.wHour = time.hour;
+  system.wMinute = time.minute;
+  return system;
+}
+
+}  // namespace
+
+WindowsLocale::WindowsLocale() : localeId_(LOCALE_USER_DEFAULT) {}
+
+std::wstring WindowsLocale::TimeStyle() {
+  return ShortFact(localeId_, LOCALE_ITIME);
+}
+
+std::wstring WindowsLocale::FirstDayOfWeek() {
+  return ShortFact(localeId_, LOCALE_IFIRSTDAYOFWEEK);
+}
+
+int WindowsLocale::CompareIgnoringCase(const std::wstring& left, const std::wstring& right) {
+  const int order =
+      CompareStringW(localeId_, NORM_IGNORECASE, left.data(), static_cast<int>(left.size()),
+                     right.data(), static_cast<int>(right.size()));
+  return order == 0 ? CompareFolded(left, right) : order - CSTR_EQUAL;
+}
+
+LocalTime WindowsLocale::Now() {
+  SYSTEMTIME now;
+  GetLocalTime(&now);
+  return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute};
+}
+
+std::wstring WindowsLocale::FormatDate(const LocalTime& date, const std::wstring& picture) {
+  const SYSTEMTIME day = SystemTimeOf(date);
+  wchar_t text[kLongestText] = {};
+  GetDateFormatW(localeId_, 0, &day, picture.c_str(), text, kLongestText);
+  return text;
+}
+
+std::wstring WindowsLocale::FormatTime(const LocalTime& time) {
+  const SYSTEMTIME moment = SystemTimeOf(time);
+  wchar_t text[kLongestText] = {};
+  GetTimeFormatW(localeId_, TIME_NOSECONDS, &moment, nullptr, text, kLongestText);
+  return text;
+}
+
+}  // namespace tidewell
