@@ -1,0 +1,77 @@
+// Where the controls of a page stand: a column of rows in a page's client area.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "pages/page_table.h"
+#include "platform/scale.h"
+
+namespace tidewell {
+
+struct Rect {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+
+  int Right() const { return left + width; }
+  int Bottom() const { return top + height; }
+  bool operator==(const Rect&) const = default;
+};
+
+// How large a text is in the page's font, in pixels.
+class TextMeasure {
+ public:
+  virtual ~TextMeasure() = default;
+  virtual int Width(const std::wstring& text) = 0;
+  // Of the lines that it takes when it is wrapped at `width`.
+  virtual int Height(const std::wstring& text, int width) = 0;
+};
+
+struct PageMetrics {
+  ScreenScale scale;
+  int clientWidth;
+  int clientHeight;
+  TextMeasure& text;
+};
+
+struct ControlPlace {
+  int id;
+  Rect rect;
+
+  bool operator==(const ControlPlace&) const = default;
+};
+
+struct RowPlace {
+  std::wstring caption;  // shortened where a word is wider than its column
+  bool wraps = false;
+  int top = 0;
+  int height = 0;  // to the next row
+  std::vector<ControlPlace> controls;
+};
+
+// Rows by themselves, at `y`, in pixels. A caption that is too long for its column wraps and makes
+// its row higher.
+RowPlace PlaceCheckRow(const PageMetrics& metrics, int id, const std::wstring& caption, int y);
+RowPlace PlaceComboRow(const PageMetrics& metrics, int labelId, int comboId,
+                       const std::wstring& caption, int y);
+RowPlace PlacePathRow(const PageMetrics& metrics, int labelId, int editId, int clearId,
+                      int browseId, const std::wstring& caption, int y);
+// An edit and two buttons on one line, without a caption.
+std::vector<ControlPlace> PlacePathEdit(const PageMetrics& metrics, int editId, int clearId,
+                                        int browseId, int y);
+// A list that fills the page below `yOffset`, a length at 96 dots per inch.
+Rect PlaceList(const PageMetrics& metrics, int yOffset);
+Rect PlaceTabRow(const PageMetrics& metrics);
+
+// A row of a table, its spacing included.
+RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring& caption, int y);
+
+// Where the first row of a tab stands.
+int FirstRowTop(const PageMetrics& metrics);
+
+// The words of a text that are wider than `width`, each cut short with an ellipsis.
+std::wstring ShortenWords(TextMeasure& measure, const std::wstring& text, int width);
+
+}  // namespace tidewell

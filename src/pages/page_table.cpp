@@ -1,0 +1,187 @@
+#include "pages/page_table.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "platform/text.h"
+
+namespace tidewell {
+
+namespace {
+
+// As much as a control gives away.
+constexpr std::size_t kPathCapacity = 260;
+constexpr std::size_t kNumberCapacity = 256;
+
+Row ListRow(int labelId, int listId, int textId, Stored stored, Choices choices) {
+  Row row;
+  row.kind = RowKind::kList;
+  row.stored = stored;
+  row.labelId = labelId;
+  row.controlId = listId;
+  row.textId = textId;
+  row.choices = std::move(choices);
+  return row;
+}
+
+int PositionOfData(const Row& row) {
+  const auto found =
+      std::find_if(row.choices.begin(), row.choices.end(),
+                   [&](const Choice& choice) { return choice.data == row.number->Value(); });
+  if (found == row.choices.end()) return row.otherwise;
+  return static_cast<int>(found - row.choices.begin());
+}
+
+int PositionOfName(const Row& row) {
+  const auto found =
+      std::find_if(row.choices.begin(), row.choices.end(), [&](const Choice& choice) {
+        return !choice.textId && EqualIgnoringCase(choice.text, row.text->Value());
+      });
+  return found == row.choices.end() ? 0 : static_cast<int>(found - row.choices.begin());
+}
+
+const Choice* Chosen(const Row& row, int selection) {
+  if (selection < 0 || selection >= std::ssize(row.choices)) return nullptr;
+  return &row.choices[static_cast<std::size_t>(selection)];
+}
+
+}  // namespace
+
+Row Check(int id, int textId, DwordSetting& setting) {
+  Row row;
+  row.stored = Stored::kState;
+  row.controlId = id;
+  row.textId = textId;
+  row.number = &setting;
+  return row;
+}
+
+Row List(int labelId, int listId, int textId, DwordSetting& setting, Choices choices) {
+  Row row = ListRow(labelId, listId, textId, Stored::kPosition, std::move(choices));
+  row.number = &setting;
+  return row;
+}
+
+Row DataList(int labelId, int listId, int textId, DwordSetting& setting, Choices choices,
+             int otherwise, std::uint32_t ofNoChoice) {
+  Row row = ListRow(labelId, listId, textId, Stored::kData, std::move(choices));
+  row.number = &setting;
+  row.otherwise = otherwise;
+  row.ofNoChoice = ofNoChoice;
+  return row;
+}
+
+Row NameList(int labelId, int listId, int textId, StringSetting& setting, Choices choices) {
+  Row row = ListRow(labelId, listId, textId, Stored::kName, std::move(choices));
+  row.text = &setting;
+  return row;
+}
+
+Row Number(int labelId, int listId, int textId, DwordSetting& setting, Choices choices) {
+  Row row = ListRow(labelId, listId, textId, Stored::kNumber, std::move(choices));
+  row.kind = RowKind::kNumber;
+  row.number = &setting;
+  return row;
+}
+
+Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringSetting& setting) {
+  Row row;
+  row.kind = RowKind::kPath;
+  row.stored = Stored::kText;
+  row.labelId = labelId;
+  row.controlId = editId;
+  row.clearId = clearId;
+  row.browseId = browseId;
+  row.textId = textId;
+  row.text = &setting;
+  return row;
+}
+
+Row Selector(int labelId, int listId, int textId, Choices choices) {
+  return ListRow(labelId, listId, textId, Stored::kNothing, std::move(choices));
+}
+
+Row FilledByPage(int labelId, int listId, int textId, StringSetting& setting) {
+  Row row = ListRow(labelId, listId, textId, Stored::kByPage, {});
+  row.text = &setting;
+  return row;
+}
+
+PageTab Tab(int titleId, int firstId, int lastId, std::initializer_list<Row> rows) {
+  PageTab tab{titleId, firstId, lastId, {}};
+  std::copy_if(rows.begin(), rows.end(), std::back_inserter(tab.rows),
+               [](const Row& row) { return row.present; });
+  return tab;
+}
+
+Choices Numbers(int first, int last, int step) {
+  Choices choices;
+  for (int number = first; number <= last; number += step) {
+    choices.emplace_back(FormatDecimal(number), static_cast<std::uint32_t>(number));
+  }
+  return choices;
+}
+
+ControlState StateOf(const Row& row) {
+  ControlState state;
+  switch (row.stored) {
+    case Stored::kState:
+      state.checked = row.number->Value() != 0;
+      break;
+    case Stored::kPosition:
+      if (Chosen(row, row.number->Signed())) state.selection = row.number->Signed();
+      break;
+    case Stored::kData:
+      state.selection = PositionOfData(row);
+      break;
+    case Stored::kName:
+      state.selection = PositionOfName(row);
+      break;
+    case Stored::kNumber:
+      state.text = FormatDecimal(row.number->Signed());
+      break;
+    case Stored::kText:
+      state.text = row.text->Value();
+      break;
+    case Stored::kNothing:
+      state.selection = 0;
+      break;
+    case Stored::kByPage:
+      break;
+  }
+  return state;
+}
+
+void Store(const Row& row, const ControlState& state) {
+  switch (row.stored) {
+    case Stored::kState:
+      row.number->Set(state.checked ? 1 : 0);
+      break;
+    case Stored::kPosition:
+      row.number->Set(static_cast<std::uint32_t>(state.selection));
+      break;
+    case Stored::kData: {
+      const Choice* chosen = Chosen(row, state.selection);
+      row.number->Set(chosen ? chosen->data : row.ofNoChoice);
+      break;
+    }
+    case Stored::kName: {
+      const Choice* chosen = Chosen(row, state.selection);
+      row.text->Set(chosen && state.selection > 0 ? chosen->text : std::wstring());
+      break;
+    }
+    case Stored::kNumber:
+      row.number->Set(
+          static_cast<std::uint32_t>(ParseNumber(state.text.substr(0, kNumberCapacity), 0)));
+      break;
+    case Stored::kText:
+      row.text->Set(state.text.substr(0, kPathCapacity));
+      break;
+    case Stored::kByPage:
+    case Stored::kNothing:
+      break;
+  }
+}
+
+}  // namespace tidewell

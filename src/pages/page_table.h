@@ -1,0 +1,129 @@
+// A settings page as data: tabs, and on each a column of rows. One builder, one shower and one
+// saver walk every table.
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "platform/libraries.h"
+#include "settings/setting.h"
+
+namespace tidewell {
+
+// One line of a drop-down list.
+struct Choice {
+  Choice(int id) : textId(id) {}                     // a text of the language library
+  Choice(const wchar_t* literal) : text(literal) {}  // the same in every language
+  Choice(std::wstring words, std::uint32_t number) : text(std::move(words)), data(number) {}
+  Choice(std::wstring words, int id, std::uint32_t number)
+      : text(std::move(words)), textId(id), data(number) {}
+  explicit Choice(std::wstring words) : text(std::move(words)) {}
+
+  std::wstring TextIn(const ResourceLibrary* language) const {
+    return textId ? text + TextOf(language, static_cast<std::uint32_t>(textId)) : text;
+  }
+
+  std::wstring text;       // stands before the library's text
+  int textId = 0;          // 0 is none
+  std::uint32_t data = 0;  // what is stored, where that is not the position
+};
+using Choices = std::vector<Choice>;
+
+enum class RowKind : std::uint8_t {
+  kCheck,   // a caption and a box
+  kList,    // a caption and a drop-down list
+  kNumber,  // the same with a number that can be typed too
+  kPath,    // a caption, a path that can be read, and two buttons below
+};
+
+enum class Stored : std::uint8_t {
+  kState,     // a check box's 1 or 0
+  kPosition,  // the chosen line, from 0; -1 for none
+  kData,      // the chosen line's data
+  kName,      // the chosen line's text; none for the first line
+  kNumber,    // the typed text as a number
+  kText,
+  kByPage,   // the page fills and stores the row itself
+  kNothing,  // the row only steers others
+};
+
+inline constexpr int kNoChoice = -1;
+
+struct Row {
+  // Less room below the row than its kind has, at 96 dots per inch.
+  Row Closer(int length) && {
+    closer = length;
+    return std::move(*this);
+  }
+  // Left out altogether on a device that does not fulfil a condition.
+  Row When(bool condition) && {
+    present = condition;
+    return std::move(*this);
+  }
+
+  RowKind kind = RowKind::kCheck;
+  Stored stored = Stored::kNothing;
+  int labelId = 0;
+  int controlId = 0;
+  int clearId = 0;
+  int browseId = 0;
+  int textId = 0;
+  DwordSetting* number = nullptr;
+  StringSetting* text = nullptr;
+  Choices choices;
+  int otherwise = kNoChoice;       // the line shown when none has the stored data
+  std::uint32_t ofNoChoice = ~0u;  // the data stored when no line is chosen
+  int closer = 0;
+  bool present = true;
+};
+
+Row Check(int id, int textId, DwordSetting& setting);
+Row List(int labelId, int listId, int textId, DwordSetting& setting, Choices choices);
+Row DataList(int labelId, int listId, int textId, DwordSetting& setting, Choices choices,
+             int otherwise = kNoChoice, std::uint32_t ofNoChoice = ~0u);
+// The first line stands for no name; the others are literal.
+Row NameList(int labelId, int listId, int textId, StringSetting& setting, Choices choices);
+Row Number(int labelId, int listId, int textId, DwordSetting& setting, Choices choices);
+Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringSetting& setting);
+// Begins at its first line and is not stored.
+Row Selector(int labelId, int listId, int textId, Choices choices);
+Row FilledByPage(int labelId, int listId, int textId, StringSetting& setting);
+
+struct PageTab {
+  int titleId;
+  int firstId;  // the ids of all its controls, both ends included
+  int lastId;
+  std::vector<Row> rows;  // those that this device has
+};
+PageTab Tab(int titleId, int firstId, int lastId, std::initializer_list<Row> rows);
+
+using PageTable = std::vector<PageTab>;
+
+// "80", "100", ... "600" is Numbers(80, 600, 20); each line's data is its number.
+Choices Numbers(int first, int last, int step);
+
+// What a row's control shows, and what is left in it when the page closes.
+struct ControlState {
+  bool checked = false;
+  int selection = kNoChoice;
+  std::wstring text;
+
+  bool operator==(const ControlState&) const = default;
+};
+
+// A value that no line stands for shows none.
+ControlState StateOf(const Row& row);
+// Sets the row's setting, whether or not it differs.
+void Store(const Row& row, const ControlState& state);
+
+// A control and whether it can be used now.
+struct Enabling {
+  int id;
+  bool enabled;
+
+  bool operator==(const Enabling&) const = default;
+};
+
+}  // namespace tidewell

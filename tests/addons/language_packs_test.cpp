@@ -1,0 +1,76 @@
+#include "addons/language_packs.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/memory/memory_machine.h"
+#include "platform/text.h"
+#include "resources/text/text_ids.h"
+
+namespace tidewell {
+namespace {
+
+class Packs : public testing::Test {
+ protected:
+  // A file that is a library with a name, with texts but no name (null), or none at all.
+  void PutPack(const std::wstring& file, const wchar_t* name) {
+    const std::wstring path = L"\\Tidewell\\LangRes\\" + file;
+    machine.files.Put(path, "MZ");
+    machine.libraries.Put(path, name ? MemoryLibraries::Texts{{IDS_LANGUAGE_NAME, name}}
+                                     : MemoryLibraries::Texts{{IDS_LANGUAGE, L"Language"}});
+  }
+  LanguagePacks Scan(const std::wstring& present = L"") {
+    Machine door = machine.Door();
+    return ScanLanguagePacks(door, L"\\Tidewell", present);
+  }
+
+  MemoryMachine machine;
+};
+
+TEST_F(Packs, NoFolderOffersNothing) {
+  const LanguagePacks packs = Scan();
+  EXPECT_TRUE(packs.names.empty());
+  EXPECT_EQ(packs.selection, 0);
+  EXPECT_EQ(packs.PathOf(0), nullptr);
+  EXPECT_EQ(packs.PathOf(-1), nullptr);
+}
+
+TEST_F(Packs, TheOneInUseIsSelectedByItsExactPath) {
+  PutPack(L"TWEngRc.dll", L"English");
+  PutPack(L"TWGerRc.dll", L"Deutsch");
+  const LanguagePacks packs = Scan(L"\\Tidewell\\LangRes\\TWGerRc.dll");
+  EXPECT_EQ(packs.names, (std::vector<std::wstring>{L"English", L"Deutsch"}));
+  EXPECT_EQ(packs.selection, 1);
+  ASSERT_NE(packs.PathOf(1), nullptr);
+  EXPECT_EQ(*packs.PathOf(1), L"\\Tidewell\\LangRes\\TWGerRc.dll");
+  EXPECT_EQ(Scan(L"\\Tidewell\\LangRes\\twgerrc.dll").selection, 0);
+  EXPECT_EQ(machine.libraries.LoadedCount(), 0);
+}
+
+TEST_F(Packs, WhatIsNoLibraryTakesNoSlotButALibraryWithoutANameDoes) {
+  machine.files.Put(L"\\Tidewell\\LangRes\\Aaa.dll", "not a library");
+  machine.files.Put(L"\\Tidewell\\LangRes\\Folder.dll\\");
+  PutPack(L"Bbb.dll", nullptr);
+  PutPack(L"TWEngRc.dll", L"English");
+  const LanguagePacks packs = Scan(L"\\Tidewell\\LangRes\\TWEngRc.dll");
+  EXPECT_EQ(packs.names, std::vector<std::wstring>{L"English"});
+  EXPECT_EQ(packs.selection, 1);
+  EXPECT_EQ(packs.PathOf(0), nullptr);
+  ASSERT_NE(packs.PathOf(1), nullptr);
+}
+
+TEST_F(Packs, TwoPacksOfOneNameAreTwoChoices) {
+  PutPack(L"One.dll", L"English");
+  PutPack(L"Two.dll", L"English");
+  EXPECT_EQ(Scan().names.size(), 2u);
+}
+
+TEST_F(Packs, TheFirstTwentyAreOffered) {
+  for (int i = 0; i < 25; ++i) PutPack(FormatDecimal(100 + i) + L".dll", L"Pack");
+  const LanguagePacks packs = Scan(L"\\Tidewell\\LangRes\\119.dll");
+  EXPECT_EQ(packs.names.size(), kLanguageSlots);
+  EXPECT_EQ(packs.selection, 19);
+  EXPECT_EQ(packs.PathOf(20), nullptr);
+}
+
+}  // namespace
+}  // namespace tidewell
