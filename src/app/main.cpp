@@ -1,0 +1,68 @@
+// The program's entry: the command line, one instance, the message loop.
+#include <windows.h>
+
+#include <string_view>
+
+#include "app/main_window.h"
+#include "app/resource.h"
+#include "app/single_instance.h"
+#include "platform/desktop/device_shell.h"
+#include "platform/windows/windows_machine.h"
+
+namespace tidewell {
+
+namespace {
+
+enum class StartMode { kNormal, kAbout };
+
+StartMode StartModeOf(std::wstring_view commandLine) {
+  return commandLine == L"About" ? StartMode::kAbout : StartMode::kNormal;
+}
+
+int AskInMessageBox(HWND owner, const std::wstring& text, const std::wstring& caption,
+                    UINT buttons) {
+  return MessageBoxW(owner, text.c_str(), caption.c_str(), buttons);
+}
+
+std::unique_ptr<SettingsPage> NoPage(int, HWND, const PageContext&) {
+  return nullptr;
+}
+
+// True when the program has a window now and goes on.
+bool StartInstance(MainWindow& window, StartMode mode, int showCommand) {
+  StartTurn turn;
+  if (!turn.IsOurs() || BringRunningInstanceForward()) return false;
+  if (!window.Create()) return false;
+  turn.End();
+  if (mode == StartMode::kAbout) window.ShowAbout();
+  ShowWindow(window.Window(), showCommand);
+  UpdateWindow(window.Window());
+  return true;
+}
+
+int RunMessageLoop(HINSTANCE instance) {
+  const HACCEL accelerators = LoadAcceleratorsW(instance, kMainWindowClass);
+  MSG message{};
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (TranslateAcceleratorW(message.hwnd, accelerators, &message)) continue;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return static_cast<int>(message.wParam);
+}
+
+int Run(HINSTANCE instance, std::wstring_view commandLine, int showCommand) {
+  InstallDeviceShell();
+  WindowsMachine machine;
+  MainWindow window(instance, machine.Door(), NoPage, AskInMessageBox);
+  if (!StartInstance(window, StartModeOf(commandLine), showCommand)) return 0;
+  return RunMessageLoop(instance);
+}
+
+}  // namespace
+
+}  // namespace tidewell
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t* commandLine, int showCommand) {
+  return tidewell::Run(instance, commandLine, showCommand);
+}

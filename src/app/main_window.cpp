@@ -1,0 +1,342 @@
+#include "app/main_window.h"
+
+#include <windowsx.h>
+
+#include <utility>
+#include <vector>
+
+#include "app/about_box.h"
+#include "app/resource.h"
+#include "app/settings_changed.h"
+#include "app/single_instance.h"
+#include "platform/text.h"
+#include "resources/art/bitmap_ids.h"
+#include "resources/text/text_ids.h"
+#include "ui/look.h"
+
+namespace tidewell {
+
+namespace {
+
+POINT PointOf(LPARAM lParam) {
+  return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+HMODULE ModuleOf(const ResourceLibrary* library) {
+  return library ? static_cast<HMODULE>(library->Handle()) : nullptr;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(HINSTANCE instance, const Machine& machine, PageFactory createPage, Ask ask)
+    : instance_(instance),
+      machine_(machine),
+      createPage_(std::move(createPage)),
+      ask_(std::move(ask)) {}
+
+MainWindow::~MainWindow() {
+  if (window_) DestroyWindow(window_);
+}
+
+bool MainWindow::Create() {
+  WNDCLASSW windowClass{};
+  windowClass.lpfnWndProc = WindowProc;
+  windowClass.hInstance = instance_;
+  windowClass.hIcon = LoadIconW(instance_, MAKEINTRESOURCEW(IDI_TIDEWELL));
+  windowClass.lpszClassName = kMainWindowClass;
+  RegisterClassW(&windowClass);
+  return CreateWindowExW(static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kMainWindowClass,
+                         kMainWindowCaption, 0x14000800, CW_USEDEFAULT, CW_USEDEFAULT,
+                         CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, instance_,
+                         this) != nullptr;
+}
+
+LRESULT CALLBACK MainWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    auto* created =
+        static_cast<MainWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+    created->window_ = window;
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+  }
+  auto* mainWindow = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return mainWindow ? mainWindow->Handle(message, wParam, lParam)
+                    : DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CREATE:
+      return OnCreate();
+    case WM_DESTROY:
+      return OnDestroy();
+    case WM_SIZE:
+      return OnSize(LOWORD(lParam), HIWORD(lParam));
+    case WM_ACTIVATE:
+      return OnActivate(wParam, lParam);
+    case WM_SETTINGCHANGE:
+      SHHandleWMSettingChange(window_, wParam, lParam, &activation_);
+      return 0;
+    case WM_PAINT:
+      return OnPaint();
+    case WM_ERASEBKGND:
+      list_.Paint(reinterpret_cast<HDC>(wParam));
+      return 1;
+    case WM_KEYDOWN:
+      return OnKeyDown(wParam);
+    case WM_TIMER:
+      list_.Pointer().Timer(wParam);
+      return 0;
+    case WM_MOUSEMOVE:
+      list_.Pointer().PointerMove(PointOf(lParam));
+      return 0;
+    case WM_LBUTTONDOWN:
+      return OnPointerDown(PointOf(lParam));
+    case WM_LBUTTONUP:
+      return OnPointerUp(PointOf(lParam));
+    case WM_CAPTURECHANGED:
+      list_.Pointer().PointerLost();
+      return 0;
+    case WM_COMMAND:
+      return OnCommand(LOWORD(wParam));
+    case kClosePageMessage:
+      ClosePage();
+      return 0;
+    case WM_NCDESTROY:
+      SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+      return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+    default:
+      return DefWindowProcW(window_, message, wParam, lParam);
+  }
+}
+
+LRESULT MainWindow::OnCreate() {
+  imaging_.emplace();
+  activation_ = {};
+  activation_.cbSize = sizeof activation_;
+  FixScale();
+  settings_.Load(machine_, scale_, language_);
+  LoadPictures();
+  // The preview's icons belong here: after the pictures, before the fonts.
+  CreateFonts();
+  // The PIM's categories belong here: after the settings, before the list.
+  ShowMainEntries();
+  return 0;
+}
+
+LRESULT MainWindow::OnDestroy() {
+  page_.reset();
+  regular_.Reset();
+  bold_.Reset();
+  language_.reset();
+  pictures_.reset();
+  imaging_.reset();
+  PostQuitMessage(0);
+  return 0;
+}
+
+void MainWindow::FixScale() {
+  settings_.root.MyVgaMode.LoadAlone(machine_.registry, {});
+  const ScreenFacts screen = machine_.system.Screen();
+  scale_ = ScreenScale(screen.dpiX, screen.dpiY, settings_.root.MyVgaMode.Value() != 0);
+}
+
+void MainWindow::LoadPictures() {
+  const wchar_t* file = scale_.ScaleX(1) < 2 ? L"\\LowDpiRes.dll" : L"\\HighDpiRes.dll";
+  pictures_ = machine_.libraries.Load(settings_.installFolder + file);
+}
+
+void MainWindow::CreateFonts() {
+  regular_ = TahomaFont(scale_.ScaleX(12), FW_DONTCARE);
+  bold_ = TahomaFont(scale_.ScaleX(12), FW_BOLD);
+  list_.Create(window_, scale_, regular_.Get(), bold_.Get(),
+               [this](int command) { RunListCommand(command); });
+}
+
+void MainWindow::ShowEntries(std::span<const MainEntry> entries) {
+  std::vector<CommandEntry> rows;
+  for (const MainEntry& entry : entries) {
+    rows.push_back({entry.textId ? TextOf(language_.get(), entry.textId) : entry.text,
+                    entry.picture ? LoadPicture(entry.picture) : Picture(), entry.command});
+  }
+  RECT client;
+  GetClientRect(window_, &client);
+  list_.Show(std::move(rows), client.right, ListHeight(client.bottom));
+  InvalidateRect(window_, nullptr, FALSE);
+  UpdateWindow(window_);
+}
+
+void MainWindow::ShowMainEntries() {
+  commandBar_.SetButton(CommandBar::kLeftSlot, LoadPicture(IDB_DONE), kDoneCommand);
+  commandBar_.SetButton(CommandBar::kRightSlot, LoadPicture(IDB_TOOLS), kShowToolsCommand);
+  ShowEntries(MainEntries());
+}
+
+void MainWindow::ShowTools() {
+  commandBar_.RemoveButton(CommandBar::kLeftSlot);
+  commandBar_.SetButton(CommandBar::kRightSlot, LoadPicture(IDB_EXIT), kShowMainCommand);
+  ShowEntries(ToolEntries());
+}
+
+void MainWindow::RunListCommand(int command) {
+  if (command < kGroupCount) {
+    OpenPage(command);
+    return;
+  }
+  switch (command) {
+    case kAboutCommand:
+      ShowAbout();
+      return;
+    case kExportCommand:
+    case kImportCommand:
+      return;
+    case kExitCommand:
+      AskToExit();
+      return;
+  }
+}
+
+void MainWindow::RunBarCommand(std::optional<int> command) {
+  if (!command) return;
+  switch (*command) {
+    case kDoneCommand:
+      Done();
+      return;
+    case kShowToolsCommand:
+      ShowTools();
+      return;
+    case kShowMainCommand:
+      ShowMainEntries();
+      return;
+  }
+}
+
+void MainWindow::ShowAbout() {
+  ShowAboutBox(window_, AboutTidewell(instance_, ModuleOf(pictures_.get())), scale_);
+}
+
+void MainWindow::OpenPage(int group) {
+  SetWindowTextW(window_, L"");
+  page_ =
+      createPage_(group, window_, {machine_, settings_, scale_, language_.get(), pictures_.get()});
+  if (page_) {
+    BringWindowToTop(page_->Window());
+  } else {
+    SetWindowTextW(window_, kMainWindowCaption);
+  }
+}
+
+void MainWindow::ClosePage() {
+  if (!page_) return;
+  // Otherwise the page's going might hand the activation to another program.
+  SetActiveWindow(window_);
+  DestroyWindow(page_->Window());
+  page_.reset();
+  SetWindowTextW(window_, kMainWindowCaption);
+}
+
+void MainWindow::Done() {
+  if (page_) {
+    ClosePage();
+    return;
+  }
+  settings_.Save(machine_.registry, scale_);
+  // The categories' values and then the filters file belong here: saved before the message tells
+  // of them.
+  BroadcastSettingsChanged();
+  DestroyWindow(window_);
+}
+
+void MainWindow::AskToExit() {
+  const std::wstring question = TextOf(language_.get(), IDS_EXIT_QUESTION);
+  const std::wstring caption = TextOf(language_.get(), IDS_EXIT_CAPTION);
+  if (ask_(window_, question, caption, MB_YESNO) == IDYES) DestroyWindow(window_);
+}
+
+LRESULT MainWindow::OnSize(int width, int height) {
+  list_.Resize(width, ListHeight(height));
+  InvalidateRect(window_, nullptr, FALSE);
+  return 1;
+}
+
+LRESULT MainWindow::OnActivate(WPARAM wParam, LPARAM lParam) {
+  SHFullScreen(window_, SHFS_HIDESIPBUTTON);
+  SHHandleWMActivate(window_, wParam, lParam, &activation_, 0);
+  return 0;
+}
+
+LRESULT MainWindow::OnPaint() {
+  const BufferedPaint paint(window_);
+  list_.Paint(paint.Dc());
+  commandBar_.Paint(paint.Dc(), BarArea(), scale_);
+  return 0;
+}
+
+LRESULT MainWindow::OnKeyDown(WPARAM key) {
+  switch (key) {
+    case VK_RETURN:
+      list_.RunSelected();
+      break;
+    case VK_UP:
+      list_.MoveSelection(-1);
+      break;
+    case VK_DOWN:
+      list_.MoveSelection(1);
+      break;
+  }
+  return 0;
+}
+
+LRESULT MainWindow::OnPointerDown(POINT point) {
+  if (commandBar_.CommandAt(BarArea(), point)) {
+    PressBar(point);
+  } else {
+    list_.Pointer().PointerDown(point);
+  }
+  return 0;
+}
+
+LRESULT MainWindow::OnPointerUp(POINT point) {
+  PressBar(std::nullopt);
+  // A drag of the list may end over a button of the bar; that is no tap on the button.
+  if (!list_.Pointer().PointerUp(point)) {
+    RunBarCommand(commandBar_.CommandAt(BarArea(), point));
+  }
+  return 0;
+}
+
+LRESULT MainWindow::OnCommand(int id) {
+  switch (id) {
+    case IDOK:
+      Done();
+      break;
+    case ID_LEFT_BUTTON:
+      RunBarCommand(commandBar_.Command(CommandBar::kLeftSlot));
+      break;
+    case ID_RIGHT_BUTTON:
+      RunBarCommand(commandBar_.Command(CommandBar::kRightSlot));
+      break;
+  }
+  return 0;
+}
+
+void MainWindow::PressBar(std::optional<POINT> point) {
+  const RECT area = BarArea();
+  if (commandBar_.ShowPressed(area, point)) InvalidateRect(window_, &area, FALSE);
+}
+
+Picture MainWindow::LoadPicture(WORD id) const {
+  return Picture(ModuleOf(pictures_.get()), id);
+}
+
+int MainWindow::ListHeight(int clientHeight) const {
+  return clientHeight - CommandBar::Height(scale_);
+}
+
+RECT MainWindow::BarArea() const {
+  RECT area;
+  GetClientRect(window_, &area);
+  area.top = ListHeight(area.bottom);
+  return area;
+}
+
+}  // namespace tidewell

@@ -1,0 +1,97 @@
+// The program's one window: the list of settings groups or of tools, the command bar, and the page
+// that covers them while a group is open.
+#pragma once
+
+#include <windows.h>
+
+#include <aygshell.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "app/main_entries.h"
+#include "pages/settings_page.h"
+#include "platform/desktop/imaging.h"
+#include "platform/gdi.h"
+#include "platform/libraries.h"
+#include "platform/machine.h"
+#include "platform/scale.h"
+#include "settings/settings_store.h"
+#include "ui/command_bar.h"
+#include "ui/command_list.h"
+
+namespace tidewell {
+
+class MainWindow {
+ public:
+  // MessageBoxW, or a test's answer in its place.
+  using Ask = std::function<int(HWND owner, const std::wstring& text, const std::wstring& caption,
+                                UINT buttons)>;
+
+  MainWindow(HINSTANCE instance, const Machine& machine, PageFactory createPage, Ask ask);
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+  ~MainWindow();
+
+  // Loads everything and shows the main entries. False when the window could not be made.
+  bool Create();
+  void ShowAbout();
+
+  HWND Window() const { return window_; }
+  const CommandList& List() const { return list_; }
+  const CommandBar& Bar() const { return commandBar_; }
+  SettingsStore& Settings() { return settings_; }
+
+ private:
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+  LRESULT OnCreate();
+  LRESULT OnDestroy();
+  LRESULT OnSize(int width, int height);
+  LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
+  LRESULT OnPaint();
+  LRESULT OnKeyDown(WPARAM key);
+  LRESULT OnPointerDown(POINT point);
+  LRESULT OnPointerUp(POINT point);
+  LRESULT OnCommand(int id);
+
+  void FixScale();
+  void LoadPictures();
+  void CreateFonts();
+  void ShowEntries(std::span<const MainEntry> entries);
+  void ShowMainEntries();
+  void ShowTools();
+  void RunListCommand(int command);
+  void RunBarCommand(std::optional<int> command);
+  void OpenPage(int group);
+  void ClosePage();
+  void Done();
+  void AskToExit();
+  void PressBar(std::optional<POINT> point);
+  Picture LoadPicture(WORD id) const;
+  int ListHeight(int clientHeight) const;
+  RECT BarArea() const;
+
+  HINSTANCE instance_;
+  Machine machine_;
+  PageFactory createPage_;
+  Ask ask_;
+  HWND window_ = nullptr;
+  SHACTIVATEINFO activation_{};
+  ScreenScale scale_;
+  SettingsStore settings_;
+  std::optional<Imaging> imaging_;
+  std::unique_ptr<ResourceLibrary> language_;
+  std::unique_ptr<ResourceLibrary> pictures_;
+  Font regular_;
+  Font bold_;
+  CommandList list_;
+  CommandBar commandBar_;
+  std::unique_ptr<SettingsPage> page_;  // null while the list is shown
+};
+
+}  // namespace tidewell

@@ -1,0 +1,162 @@
+// Owner types for drawing objects, and the few drawing steps that shell and stand-in share. Windows
+// only; the core never includes this.
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+
+namespace tidewell {
+
+// Owns a font, brush, pen or bitmap; empty when its creation failed.
+template <typename Handle>
+class GdiObject {
+ public:
+  GdiObject() = default;
+  explicit GdiObject(Handle handle) : handle_(handle) {}
+  GdiObject(GdiObject&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+  GdiObject& operator=(GdiObject&& other) noexcept {
+    if (this != &other) {
+      Reset();
+      handle_ = std::exchange(other.handle_, nullptr);
+    }
+    return *this;
+  }
+  ~GdiObject() { Reset(); }
+
+  Handle Get() const { return handle_; }
+  explicit operator bool() const { return handle_ != nullptr; }
+  void Reset() {
+    if (handle_) DeleteObject(handle_);
+    handle_ = nullptr;
+  }
+
+ private:
+  Handle handle_ = nullptr;
+};
+
+using Font = GdiObject<HFONT>;
+using Brush = GdiObject<HBRUSH>;
+using Pen = GdiObject<HPEN>;
+using Bitmap = GdiObject<HBITMAP>;
+
+// Selects an object into a device context for the length of a scope.
+class Selected {
+ public:
+  Selected(HDC dc, HGDIOBJ object) : dc_(dc), previous_(SelectObject(dc, object)) {}
+  Selected(const Selected&) = delete;
+  Selected& operator=(const Selected&) = delete;
+  ~Selected() { SelectObject(dc_, previous_); }
+
+ private:
+  HDC dc_;
+  HGDIOBJ previous_;
+};
+
+// A bitmap to draw on, with its device context; copied to the screen in one block.
+class MemoryBitmap {
+ public:
+  MemoryBitmap() = default;
+  MemoryBitmap(HDC like, int width, int height)
+      : dc_(CreateCompatibleDC(like)),
+        bitmap_(CreateCompatibleBitmap(like, width, height)),
+        previous_(SelectObject(dc_, bitmap_.Get())) {}
+  // A memory context for reading from a bitmap that somebody else owns.
+  MemoryBitmap(HDC like, HBITMAP bitmap)
+      : dc_(CreateCompatibleDC(like)), previous_(SelectObject(dc_, bitmap)) {}
+  MemoryBitmap(MemoryBitmap&& other) noexcept
+      : dc_(std::exchange(other.dc_, nullptr)),
+        bitmap_(std::move(other.bitmap_)),
+        previous_(other.previous_) {}
+  MemoryBitmap& operator=(MemoryBitmap&& other) noexcept {
+    if (this != &other) {
+      Release();
+      dc_ = std::exchange(other.dc_, nullptr);
+      bitmap_ = std::move(other.bitmap_);
+      previous_ = other.previous_;
+    }
+    return *this;
+  }
+  ~MemoryBitmap() { Release(); }
+
+  HDC Dc() const { return dc_; }
+
+ private:
+  void Release() {
+    if (!dc_) return;
+    SelectObject(dc_, previous_);
+    DeleteDC(dc_);
+    dc_ = nullptr;
+  }
+
+  HDC dc_ = nullptr;
+  Bitmap bitmap_;
+  HGDIOBJ previous_ = nullptr;
+};
+
+// The device context of a WM_PAINT, with a bitmap of the client's size that reaches the screen in
+// one block when the scope ends.
+class BufferedPaint {
+ public:
+  explicit BufferedPaint(HWND window) : window_(window), screen_(BeginPaint(window, &paint_)) {
+    GetClientRect(window, &client_);
+    buffer_ = MemoryBitmap(screen_, client_.right, client_.bottom);
+  }
+  BufferedPaint(const BufferedPaint&) = delete;
+  BufferedPaint& operator=(const BufferedPaint&) = delete;
+  ~BufferedPaint() {
+    BitBlt(screen_, 0, 0, client_.right, client_.bottom, buffer_.Dc(), 0, 0, SRCCOPY);
+    EndPaint(window_, &paint_);
+  }
+
+  HDC Dc() const { return buffer_.Dc(); }
+  const RECT& Client() const { return client_; }
+
+ private:
+  HWND window_;
+  PAINTSTRUCT paint_;
+  HDC screen_;
+  RECT client_{};
+  MemoryBitmap buffer_;
+};
+
+// A window's device context outside WM_PAINT; null stands for the screen.
+class WindowDc {
+ public:
+  explicit WindowDc(HWND window) : window_(window), dc_(GetDC(window)) {}
+  WindowDc(const WindowDc&) = delete;
+  WindowDc& operator=(const WindowDc&) = delete;
+  ~WindowDc() { ReleaseDC(window_, dc_); }
+
+  HDC Dc() const { return dc_; }
+
+ private:
+  HWND window_;
+  HDC dc_;
+};
+
+inline TRIVERTEX GradientVertex(LONG x, LONG y, COLORREF colour) {
+  const auto channel = [](BYTE value) { return static_cast<COLOR16>(value << 8); };
+  return {x, y, channel(GetRValue(colour)), channel(GetGValue(colour)), channel(GetBValue(colour)),
+          0};
+}
+
+inline void FillVertically(HDC dc, const RECT& area, COLORREF top, COLORREF bottom) {
+  TRIVERTEX corners[] = {GradientVertex(area.left, area.top, top),
+                         GradientVertex(area.right, area.bottom, bottom)};
+  GRADIENT_RECT whole{0, 1};
+  GradientFill(dc, corners, 2, &whole, 1, GRADIENT_FILL_RECT_V);
+}
+
+inline void FillPlain(HDC dc, const RECT& area, COLORREF colour) {
+  FillRect(dc, &area, Brush(CreateSolidBrush(colour)).Get());
+}
+
+// Draws a picture whose colours are multiplied with their transparency already.
+inline void DrawWithAlpha(HDC dc, int x, int y, HBITMAP picture, int width, int height) {
+  const MemoryBitmap source(dc, picture);
+  AlphaBlend(dc, x, y, width, height, source.Dc(), 0, 0, width, height,
+             {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA});
+}
+
+}  // namespace tidewell

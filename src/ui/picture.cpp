@@ -1,0 +1,31 @@
+#include "ui/picture.h"
+
+namespace tidewell {
+
+Picture::Picture(HMODULE module, WORD id) {
+  if (!module) return;
+  bitmap_ = Bitmap(static_cast<HBITMAP>(
+      LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  BITMAP facts{};
+  if (!bitmap_ || !GetObjectW(bitmap_.Get(), sizeof facts, &facts)) return;
+  width_ = facts.bmWidth;
+  height_ = facts.bmHeight;
+  hasAlpha_ = facts.bmBitsPixel == 32;
+}
+
+void Picture::Draw(HDC dc, int x, int y) const {
+  if (!bitmap_) return;
+  if (hasAlpha_) {
+    DrawWithAlpha(dc, x, y, bitmap_.Get(), width_, height_);
+  } else {
+    const MemoryBitmap source(dc, bitmap_.Get());
+    BitBlt(dc, x, y, width_, height_, source.Dc(), 0, 0, SRCCOPY);
+  }
+}
+
+void Picture::DrawCentred(HDC dc, const RECT& area) const {
+  Draw(dc, area.left + (area.right - area.left - width_) / 2,
+       area.top + (area.bottom - area.top - height_) / 2);
+}
+
+}  // namespace tidewell
