@@ -24,7 +24,7 @@ int AskInMessageBox(HWND owner, const std::wstring& text, const std::wstring& ca
   return MessageBoxW(owner, text.c_str(), caption.c_str(), buttons);
 }
 
-std::unique_ptr<SettingsPage> NoPage(int, HWND, const PageContext&) {
+std::unique_ptr<SettingsPage> NoPage(int, HWND, PageContext&) {
   return nullptr;
 }
 

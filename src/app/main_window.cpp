@@ -214,10 +214,10 @@ void MainWindow::ShowAbout() {
   ShowAboutBox(window_, AboutTidewell(instance_, ModuleOf(pictures_.get())), scale_);
 }
 
-void MainWindow::OpenPage(int group) {
+void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
-  page_ =
-      createPage_(group, window_, {machine_, settings_, scale_, language_.get(), pictures_.get()});
+  pageContext_.emplace(PageContext{machine_, settings_, language_.get(), scale_});
+  page_ = createPage_(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());
   } else {

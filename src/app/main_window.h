@@ -67,7 +67,7 @@ class MainWindow {
   void ShowTools();
   void RunListCommand(int command);
   void RunBarCommand(std::optional<int> command);
-  void OpenPage(int group);
+  void OpenPage(int page);
   void ClosePage();
   void Done();
   void AskToExit();
@@ -91,6 +91,7 @@ class MainWindow {
   Font bold_;
   CommandList list_;
   CommandBar commandBar_;
+  std::optional<PageContext> pageContext_;
   std::unique_ptr<SettingsPage> page_;  // null while the list is shown
 };
 
