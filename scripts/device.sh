@@ -152,4 +152,5 @@ end_virtual_display() {
 at_exit end_virtual_display
 
 # The whole display as a PNG file.
-take_picture() { xwd -root -silent | xwdtopnm -quiet | pnmtopng -quiet >"$1"; }
+# Not xwd, which shows a window that lies wholly within another as a black box.
+take_picture() { import -silent -window root "$1"; }
