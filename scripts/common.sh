@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Sourced by run.sh, test.sh and bench.sh: what they print, what they install, what they build.
 
 set -euo pipefail
@@ -30,10 +31,9 @@ trap 'exit 143' TERM HUP
 program_packages=(
   cmake ninja-build                 # the build
   g++-mingw-w64-x86-64-posix        # the compiler for Windows, with real threads
-  librsvg2-bin tango-icon-theme     # the artwork's sources and what draws them
-  imagemagick netpbm                # picture formats
+  librsvg2-bin imagemagick          # drawing the artwork
   wine64 fonts-wine                 # the stand-in for a device
-  xvfb x11-apps                     # a screen where there is none, and its pictures
+  xvfb x11-apps netpbm              # a screen where there is none, and its pictures
 )
 test_packages=(
   g++ googletest                    # the core, native

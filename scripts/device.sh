@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034,SC2154
 # Sourced after common.sh: a device made of Wine. A prefix of the project's own under build/wine, a
 # Wine desktop of a device's screen, the program installed as a device has it, and pictures.
 
@@ -121,6 +122,20 @@ use_screen() {
     </dev/null >/dev/null 2>&1
 }
 
+languages=(en de)
+
+# use_language NAME: the language library that the program finds chosen.
+use_language() {
+  local file
+  case $1 in
+    en) file=TWEngRc.dll ;;
+    de) file=TWGerRc.dll ;;
+    *) fail "There is no language \"$1\"; there are: ${languages[*]}." ;;
+  esac
+  in_wine reg add 'HKCU\Software\Velmont\Tidewell' /v SelectedLangResFile /t REG_SZ \
+    /d "\\Program Files\\Velmont\\Tidewell\\LangRes\\$file" /f </dev/null >/dev/null 2>&1
+}
+
 # on_screen PROGRAM [ARGUMENT...]: runs a program on a Wine desktop that is the chosen screen. Its
 # streams pass through; its exit code does not.
 on_screen() { in_wine explorer "/desktop=$screen,${screen_width}x$screen_height" "$@"; }
@@ -152,5 +167,17 @@ end_virtual_display() {
 at_exit end_virtual_display
 
 # The whole display as a PNG file.
-# Not xwd, which shows a window that lies wholly within another as a black box.
-take_picture() { import -silent -window root "$1"; }
+take_picture() { xwd -root -silent | xwdtopnm -quiet | pnmtopng -quiet >"$1"; }
+
+# The same, once the display has stood still for a while; at the latest after five seconds.
+take_settled_picture() {
+  local now='' before same=0 turns=0
+  while ((same < 3 && turns < 50)); do
+    sleep 0.06
+    before=$now
+    now=$(xwd -root -silent | cksum)
+    same=$([[ $now == "$before" ]] && echo $((same + 1)) || echo 0)
+    turns=$((turns + 1))
+  done
+  take_picture "$1"
+}

@@ -1,0 +1,329 @@
+// The installed program as its owner meets it: started, driven and watched from this process.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "driven_program.h"
+#include "system_registry.h"
+
+namespace tidewell::device {
+
+namespace {
+
+constexpr int kExitRow = 2;  // of the tools list
+
+// A top-level window of this process that hears broadcasts, hidden unless it is asked for.
+class Listener {
+ public:
+  Listener() {
+    WNDCLASSW listenerClass{};
+    listenerClass.lpfnWndProc = WindowProc;
+    listenerClass.lpszClassName = L"DeviceTestListener";
+    RegisterClassW(&listenerClass);
+    window_ = CreateWindowExW(0, L"DeviceTestListener", L"", WS_POPUP, 0, 0, 100, 100, nullptr,
+                              nullptr, nullptr, nullptr);
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  }
+  ~Listener() { DestroyWindow(window_); }
+
+  HWND Window() const { return window_; }
+
+  // Everything that was posted before this call has arrived after it.
+  void HearAllPosted() {
+    const int marker = ++markers_;
+    PostMessageW(window_, kMarker, static_cast<WPARAM>(marker), 0);
+    WaitUntil([this, marker] { return seenMarker_ == marker; });
+  }
+
+  std::vector<std::pair<WPARAM, LPARAM>> heard;
+  std::function<void()> onHeard = [] {};
+
+ private:
+  static constexpr UINT kMarker = WM_APP;
+
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    static const UINT changed = RegisterWindowMessageW(L"VelmontTidewellSettingsChanged");
+    auto* self = reinterpret_cast<Listener*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (self && message == changed) {
+      self->heard.emplace_back(wParam, lParam);
+      self->onHeard();
+      return 0;
+    }
+    if (self && message == kMarker) self->seenMarker_ = static_cast<int>(wParam);
+    return DefWindowProcW(window, message, wParam, lParam);
+  }
+
+  HWND window_ = nullptr;
+  int markers_ = 0;
+  int seenMarker_ = 0;
+};
+
+int CountMainWindows() {
+  int count = 0;
+  for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, kMainClass, nullptr));) {
+    ++count;
+  }
+  return count;
+}
+
+// Renames a file of the installed program and gives it its name back.
+class HiddenFile {
+ public:
+  explicit HiddenFile(const std::wstring& name)
+      : path_(std::wstring(kInstallFolder) + L"\\" + name), hidden_(path_ + L".hidden") {
+    EXPECT_TRUE(MoveFileW(path_.c_str(), hidden_.c_str())) << "not installed";
+  }
+  ~HiddenFile() { MoveFileW(hidden_.c_str(), path_.c_str()); }
+
+ private:
+  std::wstring path_;
+  std::wstring hidden_;
+};
+
+void AskToExit(DrivenProgram& program) {
+  program.TapRightButton();
+  program.Press(VK_DOWN, kExitRow);
+  program.Press(VK_RETURN);
+}
+
+class DeviceTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    ForgetProductKeys();
+    ASSERT_EQ(CountMainWindows(), 0) << "a program is left over from before";
+  }
+  void TearDown() override { ForgetProductKeys(); }
+
+  Listener listener_;
+};
+
+TEST_F(DeviceTest, DoneOnANewDeviceStoresNoValue) {
+  DrivenProgram program;
+  ASSERT_TRUE(program.WaitForMainWindow());
+  program.TapOk();
+  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  EXPECT_EQ(QueryProductTree(), "");
+}
+
+TEST_F(DeviceTest, DoneStoresTheRepairsOfWhatTheRegToolFilledIn) {
+  ASSERT_TRUE(ImportRegistry(R"(
+[HKEY_CURRENT_USER\Software\Velmont\Tidewell]
+"OnClick"=dword:00000003
+"dHeightLimitLandscape"=dword:0000003b
+"ActiveTab"=dword:00000009
+"NotOurs"="kept"
+
+[HKEY_CURRENT_USER\Software\Velmont\Tidewell\Calendar]
+"dNumOfDays"=dword:00000079
+"TimelinesStart"=dword:0000000a
+"TimelinesLength"=dword:00000012
+"CalTitlesOrder0"=dword:00000000
+"CalTitlesOrder1"=dword:00000001
+"CalTitlesOrder2"=dword:00000002
+"CalTitlesOrder3"=dword:00000003
+"CalTitlesOrder4"=dword:00000004
+"CalTitlesOrder5"=dword:00000004
+
+[HKEY_CURRENT_USER\Software\Velmont\Tidewell\TabSettings\Weather]
+"Enabled"=dword:00000001
+"Order"=dword:0000000a
+"DLL"="\\Windows\\weather.dll"
+"Left"="over"
+
+[HKEY_CURRENT_USER\Software\Velmont\Tidewell\TabSettings\Contacts]
+"NotOurs"="kept"
+)"));
+  ASSERT_TRUE(AddValue(L"\\Notes", L"SearchMode", L"REG_DWORD", L"2"));
+
+  DrivenProgram program;
+  ASSERT_TRUE(program.WaitForMainWindow());
+  program.TapLeftButton();
+  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  EXPECT_EQ(QueryProductTree(), R"([]
+    ActiveTab = REG_DWORD 0x9
+    NotOurs = REG_SZ kept
+    OnClick = REG_DWORD 0x3
+[\Calendar]
+    TimelinesLength = REG_DWORD 0x8
+    TimelinesStart = REG_DWORD 0xa
+[\Notes]
+    SearchMode = REG_DWORD 0x2
+[\TabSettings\Contacts]
+    NotOurs = REG_SZ kept
+[\TabSettings\Weather]
+    DLL = REG_SZ \Windows\weather.dll
+    Enabled = REG_DWORD 0x1
+    Order = REG_DWORD 0x7
+    Type = REG_DWORD 0x1
+)");
+}
+
+TEST_F(DeviceTest, ASecondStartBringsTheFirstForwardAndEndsWithZero) {
+  DrivenProgram first;
+  ASSERT_TRUE(first.WaitForMainWindow());
+  ShowWindow(listener_.Window(), SW_SHOW);
+  SetForegroundWindow(listener_.Window());
+  ASSERT_TRUE(WaitUntil([&] { return GetForegroundWindow() == listener_.Window(); }));
+
+  DrivenProgram second;
+  EXPECT_EQ(second.GetProcess().WaitForExit(), 0u);
+  EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == first.Main(); }));
+  EXPECT_EQ(CountMainWindows(), 1);
+}
+
+TEST_F(DeviceTest, FiftyStartsAtOnceLeaveOneWindow) {
+  constexpr std::size_t kStarts = 50;
+  std::vector<DrivenProgram> programs(kStarts);
+  std::size_t ended = 0;
+  const auto countEnded = [&] {
+    ended = 0;
+    for (DrivenProgram& program : programs) {
+      if (const auto code = program.GetProcess().WaitForExit(0)) {
+        EXPECT_EQ(*code, 0u);
+        ++ended;
+      }
+    }
+    return ended >= kStarts - 1;
+  };
+  WaitUntil(countEnded, 120'000);
+  EXPECT_EQ(ended, kStarts - 1);
+  EXPECT_EQ(CountMainWindows(), 1);
+}
+
+TEST_F(DeviceTest, DoneTellsTheTodayItemOnceAndAfterTheRegistryIsWritten) {
+  ASSERT_TRUE(AddValue(L"\\Calendar", L"dNumOfDays", L"REG_DWORD", L"121"));
+  std::string treeWhenHeard = "never heard";
+  listener_.onHeard = [&] { treeWhenHeard = QueryProductTree(); };
+
+  DrivenProgram program;
+  ASSERT_TRUE(program.WaitForMainWindow());
+  program.TapOk();
+  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  listener_.HearAllPosted();
+  EXPECT_EQ(listener_.heard, (std::vector<std::pair<WPARAM, LPARAM>>{{0, 0}}));
+  EXPECT_EQ(treeWhenHeard, "");
+}
+
+TEST_F(DeviceTest, ExitAnsweredYesWritesAndTellsNothing) {
+  ASSERT_TRUE(AddValue(L"\\Calendar", L"dNumOfDays", L"REG_DWORD", L"121"));
+  const std::string before = QueryProductTree();
+
+  DrivenProgram program;
+  ASSERT_TRUE(program.WaitForMainWindow());
+  AskToExit(program);
+  const HWND question = program.WaitForPopup();
+  ASSERT_TRUE(question);
+  PostMessageW(question, WM_COMMAND, IDYES, 0);
+  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  listener_.HearAllPosted();
+  EXPECT_TRUE(listener_.heard.empty());
+  EXPECT_EQ(QueryProductTree(), before);
+  EXPECT_NE(before, "");
+}
+
+TEST_F(DeviceTest, ExitAnsweredNoKeepsTheToolsList) {
+  DrivenProgram program;
+  ASSERT_TRUE(program.WaitForMainWindow());
+  AskToExit(program);
+  const HWND question = program.WaitForPopup();
+  ASSERT_TRUE(question);
+  PostMessageW(question, WM_COMMAND, IDNO, 0);
+  ASSERT_TRUE(program.WaitForPopupToGo());
+  // The selection still stands on the exit entry of the tools.
+  program.Press(VK_RETURN);
+  EXPECT_TRUE(program.WaitForPopup());
+}
+
+TEST_F(DeviceTest, OnlyTheExactWordAboutOpensTheAboutBox) {
+  const std::pair<const wchar_t*, bool> cases[] = {
+      {L"", false},       {L"About", true},      {L"about", false},     {L"ABOUT", false},
+      {L"About ", false}, {L"\"About\"", false}, {L"About box", false}, {L"/About", false},
+  };
+  for (const auto& [commandLine, opens] : cases) {
+    SCOPED_TRACE(testing::PrintToString(std::wstring(commandLine)));
+    DrivenProgram program(commandLine);
+    ASSERT_TRUE(program.WaitForMainWindow());
+    program.Settle();
+    const HWND front = GetLastActivePopup(program.Main());
+    EXPECT_EQ(front != program.Main(), opens);
+    program.TapOk();
+    if (opens) {
+      EXPECT_TRUE(program.WaitForPopupToGo());
+      program.TapOk();
+    }
+    EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  }
+}
+
+TEST_F(DeviceTest, MissingLibrariesLeaveAUsableProgram) {
+  const std::vector<std::wstring> cases[] = {
+      {L"LangRes\\TWEngRc.dll"},
+      {L"LowDpiRes.dll", L"HighDpiRes.dll"},
+      {L"LangRes\\TWEngRc.dll", L"LangRes\\TWGerRc.dll", L"LowDpiRes.dll", L"HighDpiRes.dll"},
+  };
+  for (const std::vector<std::wstring>& names : cases) {
+    SCOPED_TRACE(testing::PrintToString(names));
+    ForgetProductKeys();
+    ASSERT_TRUE(AddValue(L"\\Calendar", L"dNumOfDays", L"REG_DWORD", L"121"));
+    std::vector<std::unique_ptr<HiddenFile>> hidden;
+    for (const std::wstring& name : names) hidden.push_back(std::make_unique<HiddenFile>(name));
+
+    DrivenProgram program;
+    ASSERT_TRUE(program.WaitForMainWindow());
+    AskToExit(program);
+    const HWND question = program.WaitForPopup();
+    ASSERT_TRUE(question);
+    PostMessageW(question, WM_COMMAND, IDNO, 0);
+    ASSERT_TRUE(program.WaitForPopupToGo());
+    program.TapRightButton();  // back to the groups
+    program.TapLeftButton();
+    EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+    EXPECT_EQ(QueryProductTree(), "");
+  }
+}
+
+TEST_F(DeviceTest, TheMainWindowIsWhatADeviceKnows) {
+  DrivenProgram program;
+  const HWND window = program.WaitForMainWindow();
+  ASSERT_TRUE(window);
+  EXPECT_EQ(FindWindowW(kMainClass, kMainCaption), window);
+  constexpr DWORD kStyle = 0x14000800;
+  const auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
+  EXPECT_EQ(style & kStyle, kStyle);
+  EXPECT_EQ(style & (WS_CAPTION | WS_THICKFRAME | WS_DISABLED), 0u);
+  EXPECT_NE(static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE)) & 0x80000000, 0u);
+}
+
+TEST_F(DeviceTest, TheMainWindowFillsTheScreenBelowItsTitleStrip) {
+  DrivenProgram program;
+  const HWND window = program.WaitForMainWindow();
+  ASSERT_TRUE(window);
+  RECT screen;
+  RECT place;
+  RECT client;
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+  GetWindowRect(window, &place);
+  GetClientRect(window, &client);
+  EXPECT_EQ(place.left, screen.left);
+  EXPECT_EQ(place.right, screen.right);
+  EXPECT_EQ(place.bottom, screen.bottom);
+  EXPECT_EQ(client.bottom, place.bottom - place.top) << "no frame of its own";
+  EXPECT_EQ(client.right, place.right - place.left);
+
+  const HWND strip = WindowFromPoint({screen.right / 2, screen.top});
+  RECT above;
+  ASSERT_TRUE(GetWindowRect(strip, &above));
+  EXPECT_EQ(GetWindow(strip, GW_OWNER), window);
+  EXPECT_EQ(above.top, screen.top);
+  EXPECT_EQ(above.left, screen.left);
+  EXPECT_EQ(above.right, screen.right);
+  EXPECT_EQ(above.bottom, place.top);
+}
+
+}  // namespace
+
+}  // namespace tidewell::device
