@@ -1,0 +1,142 @@
+// Loading the settings beside a bare loop that opens the same keys and queries the same names, and
+// what saving asks of the registry. No language library takes part: loading one is the system's.
+#include <windows.h>
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "bench/figures.h"
+#include "bench/recording_registry.h"
+#include "bench/stopwatch.h"
+#include "platform/memory/memory_libraries.h"
+#include "platform/memory/metered_registry.h"
+#include "platform/windows/windows_machine.h"
+#include "settings/settings_store.h"
+
+namespace tidewell::bench {
+
+namespace {
+
+constexpr int kRounds = 200;
+constexpr ScreenScale kScale(192, 192, false);
+
+// The system's registry through a wrapper; the rest of the machine as it is.
+struct BenchMachine {
+  explicit BenchMachine(Registry& registry)
+      : door{registry, machine.files, machine.locale, libraries, machine.system} {}
+
+  WindowsMachine machine;
+  MemoryLibraries libraries;  // none
+  Machine door;
+};
+
+void Load(SettingsStore& store, Registry& registry) {
+  BenchMachine machine(registry);
+  std::unique_ptr<ResourceLibrary> language;
+  store.Load(machine.door, kScale, language);
+}
+
+HKEY RootOf(RegistryRoot root) {
+  return root == RegistryRoot::kLocalMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+}
+
+// The recorded requests, straight to the system with one buffer for all.
+void AskBare(const std::vector<RecordedRequest>& requests) {
+  static BYTE buffer[4096];
+  HKEY key = nullptr;
+  for (const RecordedRequest& request : requests) {
+    switch (request.request) {
+      case Request::kOpen:
+        RegOpenKeyExW(RootOf(request.root), request.name.c_str(), 0, KEY_ALL_ACCESS, &key);
+        break;
+      case Request::kCreate:
+        RegCreateKeyExW(RootOf(request.root), request.name.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                        nullptr, &key, nullptr);
+        break;
+      case Request::kQuery: {
+        DWORD size = request.room;
+        RegQueryValueExW(key, request.name.c_str(), nullptr, nullptr, size ? buffer : nullptr,
+                         &size);
+        break;
+      }
+      case Request::kEnumSubkey: {
+        DWORD length = sizeof buffer / sizeof(wchar_t);
+        RegEnumKeyExW(key, request.room, reinterpret_cast<wchar_t*>(buffer), &length, nullptr,
+                      nullptr, nullptr, nullptr);
+        break;
+      }
+      case Request::kClose:
+        RegCloseKey(key);
+        break;
+    }
+  }
+}
+
+void CompareLoading(const char* name, double aim) {
+  WindowsRegistry registry;
+  RecordingRegistry recording(registry);
+  SettingsStore recorded;
+  Load(recorded, recording);
+  Comparison comparison;
+  for (int round = 0; round < kRounds; ++round) {
+    SettingsStore store;
+    const Stopwatch watch;
+    Load(store, registry);
+    const double ours = watch.Milliseconds();
+    const Stopwatch bare;
+    AskBare(recording.Requests());
+    comparison.Add(ours, bare.Milliseconds());
+  }
+  PrintRatio(name, comparison, aim, "ms");
+}
+
+// Every setting gets a value that is not its default.
+class Changer final : public SettingVisitor {
+ public:
+  void Visit(DwordSetting& setting) override { setting.Set(setting.Value() + 1); }
+  void Visit(StringSetting& setting) override { setting.Set(setting.Value() + L"x"); }
+  void Visit(FlagArraySetting&) override {}
+};
+
+void CountSaving(const char* name, const std::function<void(SettingsStore&)>& change, double aim) {
+  WindowsRegistry registry;
+  SettingsStore store;
+  Load(store, registry);
+  change(store);
+  MeteredRegistry metered(registry);
+  store.Save(metered, kScale);
+  char behind[96];
+  std::snprintf(behind, sizeof behind, "%d keys opened, %d calls to write",
+                metered.Count(RegistryCall::kCreate) + metered.Count(RegistryCall::kOpen),
+                metered.CountWrites());
+  PrintFigure(name, metered.CountWrites(), "", aim, "", behind);
+}
+
+int Run() {
+  CompareLoading("loading, nothing stored / bare loop", 1.15);
+  CountSaving(
+      "saving no change, calls to write", [](SettingsStore&) {}, 0);
+  CountSaving(
+      "saving one change, calls to write",
+      [](SettingsStore& store) { store.calendar.dNumOfDays.Set(14); }, 1);
+
+  WindowsRegistry registry;
+  SettingsStore store;
+  Load(store, registry);
+  Changer changer;
+  for (SettingGroup* group : store.Groups()) group->Accept(changer);
+  store.Save(registry, kScale);
+  CompareLoading("loading, everything stored / bare loop", 1.15);
+  registry.DeleteTree(RegistryRoot::kCurrentUser, L"Software\\Velmont\\Tidewell");
+  return 0;
+}
+
+}  // namespace
+
+}  // namespace tidewell::bench
+
+int main() {
+  return tidewell::bench::Run();
+}
