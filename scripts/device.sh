@@ -120,6 +120,21 @@ use_screen() {
   esac
   in_wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$screen_dpi" /f \
     </dev/null >/dev/null 2>&1
+  use_bold_face
+}
+
+# Wine's own bold Tahoma is bold in its bitmaps for small sizes alone; in large sizes it is as thin
+# as the regular face. Without it Wine thickens the regular face itself, which suits a VGA screen.
+use_bold_face() {
+  local face=$prefix/drive_c/windows/Fonts/tahomabd.ttf
+  if ((screen_dpi > 96)); then
+    [[ -L $face ]] || return 0
+    rm "$face"
+  else
+    [[ ! -L $face ]] || return 0
+    ln -s /usr/share/wine/fonts/tahomabd.ttf "$face"
+  fi
+  in_wine reg delete 'HKCU\Software\Wine\Fonts\Cache' /f </dev/null >/dev/null 2>&1 || true
 }
 
 languages=(en de)
