@@ -31,9 +31,9 @@ trap 'exit 143' TERM HUP
 program_packages=(
   cmake ninja-build                 # the build
   g++-mingw-w64-x86-64-posix        # the compiler for Windows, with real threads
-  librsvg2-bin imagemagick          # drawing the artwork
+  librsvg2-bin imagemagick          # the artwork, and pictures of the screen
   wine64 fonts-wine                 # the stand-in for a device
-  xvfb x11-apps netpbm              # a screen where there is none, and its pictures
+  xvfb                              # a screen where there is none
 )
 test_packages=(
   g++ googletest                    # the core, native

@@ -182,7 +182,8 @@ end_virtual_display() {
 at_exit end_virtual_display
 
 # The whole display as a PNG file.
-take_picture() { xwd -root -silent | xwdtopnm -quiet | pnmtopng -quiet >"$1"; }
+# Not xwd, which shows a window that lies wholly within another as a black box.
+take_picture() { import -silent -window root "$1"; }
 
 # The same, once the display has stood still for a while; at the latest after five seconds.
 take_settled_picture() {
@@ -190,7 +191,7 @@ take_settled_picture() {
   while ((same < 3 && turns < 50)); do
     sleep 0.06
     before=$now
-    now=$(xwd -root -silent | cksum)
+    now=$(import -silent -window root rgb:- | cksum)
     same=$([[ $now == "$before" ]] && echo $((same + 1)) || echo 0)
     turns=$((turns + 1))
   done

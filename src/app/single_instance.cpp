@@ -13,6 +13,15 @@ HWND WithPopups(HWND window) {
   return reinterpret_cast<HWND>(reinterpret_cast<std::uintptr_t>(window) | 1);
 }
 
+// True when a window of the same program has the foreground.
+bool IsInFront(HWND window) {
+  DWORD front = 0;
+  DWORD owner = 0;
+  GetWindowThreadProcessId(GetForegroundWindow(), &front);
+  GetWindowThreadProcessId(window, &owner);
+  return front == owner;
+}
+
 HWND FindMainWindow() {
   const HWND window = FindWindowW(kMainWindowClass, kMainWindowCaption);
   // While a page is open the main window has no caption.
@@ -36,7 +45,9 @@ void StartTurn::End() {
 bool BringRunningInstanceForward() {
   const HWND window = FindMainWindow();
   if (!window) return false;
-  if (!SetForegroundWindow(WithPopups(window))) SetForegroundWindow(window);
+  SetForegroundWindow(WithPopups(window));
+  // A desktop refuses that handle, or takes it and does nothing.
+  if (!IsInFront(window)) SetForegroundWindow(window);
   return true;
 }
 
