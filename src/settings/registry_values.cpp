@@ -42,7 +42,9 @@ std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& nam
   if (status != kStatusMoreData) return std::nullopt;
 
   std::vector<std::byte> bytes(info.size);
-  if (key->Query(name, bytes, info) != kStatusSuccess) return std::nullopt;
+  const RegistryStatus again = key->Query(name, bytes, info);
+  // The value may have grown in between.
+  if (again != kStatusSuccess || info.size > bytes.size()) return std::nullopt;
   return TextUpToZero(std::span(bytes).first(info.size));
 }
 

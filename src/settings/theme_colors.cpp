@@ -40,8 +40,8 @@ const std::vector<std::byte>& ThemeColorLookup::Table() {
   ValueInfo info;
   if (key_->Query(L"SHColor", {}, info) != kStatusSuccess) return table;
   table.resize(info.size);
-  const bool whole = key_->Query(L"SHColor", table, info) == kStatusSuccess;
-  table.resize(whole ? info.size : 0);
+  const bool isRead = key_->Query(L"SHColor", table, info) == kStatusSuccess;
+  if (!isRead || info.size != table.size()) table.clear();
   return table;
 }
 
