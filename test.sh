@@ -11,6 +11,7 @@ native_suites=(
 )
 windows_suites=(
   "core 120 tests/core_tests.exe"
+  "settings 60 tests/settings/settings_tests.exe"
   "resources 60 tests/resources/resource_tests.exe"
 )
 
