@@ -17,10 +17,22 @@ namespace {
 constexpr UINT_PTR kSubclassId = 1;
 constexpr LPARAM kKeyIsUp = LPARAM{1} << 31;
 
+// Of the main screen. Not from SystemParametersInfo, which may still know a screen's former size.
 RECT WorkArea() {
-  RECT area{};
-  SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-  return area;
+  MONITORINFO screen{};
+  screen.cbSize = sizeof screen;
+  GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &screen);
+  return screen.rcWork;
+}
+
+// False where the system knows no screen of the turned size.
+bool TurnRealScreen() {
+  DEVMODEW mode{};
+  mode.dmSize = sizeof mode;
+  mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
+  mode.dmPelsWidth = static_cast<DWORD>(GetSystemMetrics(SM_CYSCREEN));
+  mode.dmPelsHeight = static_cast<DWORD>(GetSystemMetrics(SM_CXSCREEN));
+  return ChangeDisplaySettingsW(&mode, 0) == DISP_CHANGE_SUCCESSFUL;
 }
 
 int StripHeight() {
@@ -215,17 +227,8 @@ RECT ShellWindows::Client() const {
 }
 
 void ShellWindows::Turn() {
-  const RECT area = WorkArea();
-  if (IsDeviceScreen(area)) {
-    DEVMODEW mode{};
-    mode.dmSize = sizeof mode;
-    mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
-    mode.dmPelsWidth = static_cast<DWORD>(GetSystemMetrics(SM_CYSCREEN));
-    mode.dmPelsHeight = static_cast<DWORD>(GetSystemMetrics(SM_CXSCREEN));
-    ChangeDisplaySettingsW(&mode, 0);
-  } else {
-    turned_ = !turned_;
-  }
+  const bool turnScreen = !turned_ && IsDeviceScreen(WorkArea());
+  if (!turnScreen || !TurnRealScreen()) turned_ = !turned_;
   OnScreenChanged();
 }
 
