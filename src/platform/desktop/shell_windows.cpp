@@ -49,6 +49,18 @@ void MoveTo(HWND window, const RECT& place, UINT flags) {
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | flags);
 }
 
+// The topmost window above `window` that belongs to it and can be used; null for none.
+HWND TopPopupOf(HWND window) {
+  HWND above = GetTopWindow(nullptr);
+  while (above && above != window) {
+    const bool usable = IsWindowVisible(above) && IsWindowEnabled(above) &&
+                        !(GetWindowLongPtrW(above, GWL_EXSTYLE) & WS_EX_NOACTIVATE);
+    if (usable && GetAncestor(above, GA_ROOTOWNER) == window) return above;
+    above = GetWindow(above, GW_HWNDNEXT);
+  }
+  return nullptr;
+}
+
 bool HasShellCaption(const CREATESTRUCTW& created) {
   return !(created.style & WS_CHILD) &&
          (created.dwExStyle & static_cast<DWORD>(WS_EX_CAPTIONOKBTN));
@@ -250,11 +262,8 @@ void ShellWindows::OnScreenChanged() {
 // A device brings a window's pop-ups forward with it; a desktop would leave the window active
 // below them.
 void ShellWindows::ActivatePopup(HWND window) {
-  const HWND popup = GetLastActivePopup(window);
-  if (popup != window && GetActiveWindow() == window && IsWindowVisible(popup) &&
-      IsWindowEnabled(popup)) {
-    SetActiveWindow(popup);
-  }
+  if (GetActiveWindow() != window) return;
+  if (const HWND popup = TopPopupOf(window)) SetActiveWindow(popup);
 }
 
 }  // namespace tidewell
