@@ -13,6 +13,7 @@ windows_suites=(
   "core 120 tests/core_tests.exe"
   "settings 60 tests/settings/settings_tests.exe"
   "resources 60 tests/resources/resource_tests.exe"
+  "shell 60 tests/shell_tests.exe"
 )
 
 passed=0
