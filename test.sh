@@ -7,6 +7,7 @@
 
 native_limit=120   # seconds for one suite
 windows_limit=300
+fuzz_time=8        # seconds for one target
 
 passed=0
 failed=0
@@ -133,9 +134,30 @@ run_windows_tests() {
   run_registered windows run_windows_suite
 }
 
+# Each fuzz target begins with its seeds and looks for more for a little while; what it finds stays
+# out of the sources.
+run_fuzz_targets() {
+  try_build fuzz || return 0
+  local program name corpus dictionary seeds log
+  for program in "$build"/fuzz/tests/fuzz/*_fuzz; do
+    name=$(basename "$program" _fuzz)
+    seeds=$root/tests/fuzz/seeds/$name
+    dictionary=$root/tests/fuzz/dictionaries/$name.dict
+    corpus=$build/fuzz/corpus/$name
+    log=$logs/$name-fuzz.log
+    mkdir -p "$corpus"
+    [[ -d $seeds ]] || seeds=
+    [[ -f $dictionary ]] || dictionary=
+    run_timed "$program" -max_total_time="$fuzz_time" -timeout=10 -artifact_prefix="$logs/$name-" \
+      ${dictionary:+"-dict=$dictionary"} "$corpus" ${seeds:+"$seeds"} >"$log" 2>&1 </dev/null
+    record "$name, fuzz" "$((status == 0))" "$((status != 0))" "$seconds" "$log"
+  done
+}
+
 need_packages "${program_packages[@]}" "${test_packages[@]}"
 run_native_tests
 run_windows_tests
+run_fuzz_targets
 
 say "$passed passed, $failed failed"
 ((failed == 0 && passed > 0))

@@ -13,7 +13,7 @@ time_limit=
 start_folder=
 in_wine() {
   (
-    cd "${start_folder:-$prefix/drive_c}"
+    cd "${start_folder:-$prefix/drive_c}" || exit
     exec env "${wine_environment[@]}" \
       ${time_limit:+timeout --foreground --kill-after=5 "$time_limit"} "$wine64" "$@" {device_lock}>&-
   )
