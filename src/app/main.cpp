@@ -6,6 +6,7 @@
 #include "app/main_window.h"
 #include "app/resource.h"
 #include "app/single_instance.h"
+#include "categories/pim_categories.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_machine.h"
 
@@ -26,6 +27,10 @@ int AskInMessageBox(HWND owner, const std::wstring& text, const std::wstring& ca
 
 std::unique_ptr<SettingsPage> NoPage(int, HWND, PageContext&) {
   return nullptr;
+}
+
+std::unique_ptr<CategorySource> OpenPimCategories(const std::wstring& iconsFolder) {
+  return std::make_unique<PimCategorySource>(iconsFolder);
 }
 
 // True when the program has a window now and goes on.
@@ -54,7 +59,7 @@ int RunMessageLoop(HINSTANCE instance) {
 int Run(HINSTANCE instance, std::wstring_view commandLine, int showCommand) {
   InstallDeviceShell();
   WindowsMachine machine;
-  MainWindow window(instance, machine.Door(), NoPage, AskInMessageBox);
+  MainWindow window(instance, machine.Door(), {NoPage, OpenPimCategories, AskInMessageBox});
   if (!StartInstance(window, StartModeOf(commandLine), showCommand)) return 0;
   return RunMessageLoop(instance);
 }

@@ -126,6 +126,18 @@ TEST_F(DoneTest, SavesTellsTheItemAndEnds) {
   }
 }
 
+TEST_F(DoneTest, KeepsTheCategoriesAndTheFiltersFile) {
+  constexpr wchar_t kFiltersFile[] = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
+  categories = {{L"Work", 1, false}, {L"Home", 2, false}};
+  device.files.Put(kFiltersFile, "an older one");
+  Start();
+  program->Categories().FindCategory(L"Work")->color = 0x0000FF;
+  SendMessageW(Window(), WM_COMMAND, IDOK, 0);
+  EXPECT_TRUE(HasValue(L"CatColor.Work", L"\\Categories"));
+  EXPECT_FALSE(HasValue(L"CatColor.Home", L"\\Categories"));
+  EXPECT_GT(device.files.Contents(kFiltersFile)->size(), 1000u);
+}
+
 TEST_F(DoneTest, WritesNothingWhenNothingWasChanged) {
   Start();
   registry.Meter().Reset();

@@ -11,6 +11,7 @@
 #include "app/main_window.h"
 #include "platform/memory/memory_machine.h"
 #include "platform/memory/metered_registry.h"
+#include "tests/support/catalog_support.h"
 #include "tests/support/window_support.h"
 
 namespace tidewell {
@@ -38,23 +39,28 @@ class ProgramTest : public testing::Test {
   void Start() {
     program = std::make_unique<MainWindow>(
         GetModuleHandleW(nullptr),
-        Machine{registry, device.files, device.locale, device.libraries, device.system},
-        [this](int page, HWND host, PageContext&) { return MakePage(page, host); },
-        [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
-          asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
-          return answer;
-        });
+        Machine{registry, device.files, device.locale, device.libraries, device.system}, Parts());
     ASSERT_TRUE(program->Create());
     PumpMessages();
+  }
+
+  MainWindowParts Parts() {
+    return {[this](int page, HWND host, PageContext&) { return MakePage(page, host); },
+            [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
+            [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
+              asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
+              return answer;
+            }};
   }
 
   void SetDword(const std::wstring& name, std::uint32_t value) {
     const auto key = device.registry.Create(RegistryRoot::kCurrentUser, kRootKey);
     key->Set(name, kTypeDword, std::as_bytes(std::span(&value, 1)));
   }
-  bool HasValue(const std::wstring& name) {
+  bool HasValue(const std::wstring& name, const wchar_t* subkey = L"") {
     ValueInfo info;
-    const auto key = device.registry.Open(RegistryRoot::kCurrentUser, kRootKey);
+    const auto key =
+        device.registry.Open(RegistryRoot::kCurrentUser, std::wstring(kRootKey) + subkey);
     return key && key->Query(name, {}, info) == kStatusSuccess;
   }
 
@@ -104,6 +110,7 @@ class ProgramTest : public testing::Test {
   MemoryMachine device;
   MeteredRegistry registry{device.registry};
   std::unique_ptr<MainWindow> program;
+  std::vector<PimCategory> categories;
   std::vector<std::wstring> asked;
   int answer = IDNO;
   bool hasPages = false;

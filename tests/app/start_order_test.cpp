@@ -80,8 +80,13 @@ class StartOrderTest : public testing::Test {
     auto program = std::make_unique<MainWindow>(
         GetModuleHandleW(nullptr),
         Machine{registry_, device_.files, device_.locale, libraries_, system},
-        [](int, HWND, PageContext&) { return nullptr; },
-        [](HWND, const std::wstring&, const std::wstring&, UINT) { return IDYES; });
+        MainWindowParts{
+            [](int, HWND, PageContext&) { return nullptr; },
+            [this](const std::wstring& icons) {
+              journal.push_back(L"categories " + icons);
+              return std::make_unique<ListedCategories>(std::vector<PimCategory>{});
+            },
+            [](HWND, const std::wstring&, const std::wstring&, UINT) { return IDYES; }});
     EXPECT_TRUE(program->Create());
     return program;
   }
@@ -115,7 +120,11 @@ TEST_F(StartOrderTest, ScaleThenSettingsThenLibrariesAndEverythingIsFreedInOrder
   EXPECT_EQ(std::count(journal.begin(), journal.end(), L"screen"), 1);
   EXPECT_EQ(Loads(), (Journal{std::wstring(L"load ") + kEnglishLibrary,
                               L"load \\Program Files\\Velmont\\Tidewell\\LowDpiRes.dll"}));
-  EXPECT_EQ(journal.back(), Loads().back()) << "the pictures come after every setting";
+  const auto pictures = std::find(journal.begin(), journal.end(), Loads().back());
+  EXPECT_EQ(Journal(pictures + 1, journal.end()),
+            (Journal{L"categories \\Program Files\\Velmont\\Tidewell\\CategoryIcons",
+                     std::wstring(L"key ") + kRootKey + L"\\Categories"}))
+      << "the pictures come after every setting, the categories after the pictures";
 
   journal.clear();
   DestroyWindow(program->Window());
