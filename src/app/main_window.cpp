@@ -28,11 +28,11 @@ HMODULE ModuleOf(const ResourceLibrary* library) {
 
 }  // namespace
 
-MainWindow::MainWindow(HINSTANCE instance, const Machine& machine, MainWindowParts parts)
+MainWindow::MainWindow(HINSTANCE instance, const Machine& machine, PageFactory createPage, Ask ask)
     : instance_(instance),
       machine_(machine),
-      parts_(std::move(parts)),
-      categories_(machine, settings_) {}
+      createPage_(std::move(createPage)),
+      ask_(std::move(ask)) {}
 
 MainWindow::~MainWindow() {
   if (window_) DestroyWindow(window_);
@@ -118,7 +118,7 @@ LRESULT MainWindow::OnCreate() {
   LoadPictures();
   // The preview's icons belong here: after the pictures, before the fonts.
   CreateFonts();
-  LoadCategories();
+  // The PIM's categories belong here: after the settings, before the list.
   ShowMainEntries();
   return 0;
 }
@@ -150,11 +150,6 @@ void MainWindow::CreateFonts() {
   bold_ = TahomaFont(scale_.ScaleX(12), FW_BOLD);
   list_.Create(window_, scale_, regular_.Get(), bold_.Get(),
                [this](int command) { RunListCommand(command); });
-}
-
-void MainWindow::LoadCategories() {
-  const auto source = parts_.openCategories(settings_.root.TWIconsFolder.Value());
-  categories_.Rebuild(*source, TextOf(language_.get(), IDS_ALL_CATEGORIES));
 }
 
 void MainWindow::ShowEntries(std::span<const MainEntry> entries) {
@@ -221,8 +216,9 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
-  pageContext_.emplace(PageContext{machine_, settings_, language_.get(), scale_});
-  page_ = parts_.createPage(page, window_, *pageContext_);
+  pageContext_.emplace(
+      PageContext{machine_, settings_, language_.get(), scale_, {}, &pageDialogs_});
+  page_ = createPage_(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());
   } else {
@@ -245,8 +241,8 @@ void MainWindow::Done() {
     return;
   }
   settings_.Save(machine_.registry, scale_);
-  categories_.SaveCategoryValues();
-  categories_.SaveFiltersFile();
+  // The categories' values and then the filters file belong here: saved before the message tells
+  // of them.
   BroadcastSettingsChanged();
   DestroyWindow(window_);
 }
@@ -254,7 +250,7 @@ void MainWindow::Done() {
 void MainWindow::AskToExit() {
   const std::wstring question = TextOf(language_.get(), IDS_EXIT_QUESTION);
   const std::wstring caption = TextOf(language_.get(), IDS_EXIT_CAPTION);
-  if (parts_.ask(window_, question, caption, MB_YESNO) == IDYES) DestroyWindow(window_);
+  if (ask_(window_, question, caption, MB_YESNO) == IDYES) DestroyWindow(window_);
 }
 
 LRESULT MainWindow::OnSize(int width, int height) {

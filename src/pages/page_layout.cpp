@@ -10,7 +10,6 @@ namespace {
 constexpr int kMargin = 10;
 constexpr int kControlHeight = 20;
 constexpr int kRowHeight = 24;
-constexpr int kFirstRow = 8;
 constexpr int kLabelDrop = 3;      // a label's text stands level with the text of its control
 constexpr int kLabelRight = 140;   // the caption column ends this far from the right
 constexpr int kControlLeft = 135;  // and the controls begin here
@@ -119,19 +118,15 @@ std::vector<ControlPlace> PlacePathEdit(const PageMetrics& metrics, int editId, 
           {browseId, {right - scale.ScaleX(kBrowseLeft), y, button, height}}};
 }
 
-Rect PlaceList(const PageMetrics& metrics, int yOffset) {
-  const ScreenScale& scale = metrics.scale;
+Rect PlaceList(const ScreenScale& scale, int clientWidth, int clientHeight, int yOffset) {
   const int offset = scale.ScaleY(yOffset);
-  return {scale.ScaleX(kMargin), scale.ScaleY(68) + offset,
-          metrics.clientWidth - scale.ScaleX(2 * kMargin),
-          metrics.clientHeight - scale.ScaleY(96) - offset};
+  return {scale.ScaleX(kMargin), scale.ScaleY(68) + offset, clientWidth - scale.ScaleX(2 * kMargin),
+          clientHeight - scale.ScaleY(96) - offset};
 }
 
-Rect PlaceTabRow(const PageMetrics& metrics) {
-  const ScreenScale& scale = metrics.scale;
+Rect PlaceTabRow(const ScreenScale& scale, int clientWidth, int clientHeight) {
   const int height = scale.ScaleX(kTabRowHeight);
-  return {scale.ScaleX(-2), metrics.clientHeight - height + 1,
-          metrics.clientWidth + scale.ScaleX(2), height - 1};
+  return {scale.ScaleX(-2), clientHeight - height + 1, clientWidth + scale.ScaleX(2), height - 1};
 }
 
 RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring& caption, int y) {
@@ -151,10 +146,6 @@ RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring
   }
   place.height -= metrics.scale.ScaleY(row.closer);
   return place;
-}
-
-int FirstRowTop(const PageMetrics& metrics) {
-  return metrics.scale.ScaleY(kFirstRow);
 }
 
 }  // namespace tidewell

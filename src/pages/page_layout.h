@@ -62,14 +62,13 @@ RowPlace PlacePathRow(const PageMetrics& metrics, int labelId, int editId, int c
 std::vector<ControlPlace> PlacePathEdit(const PageMetrics& metrics, int editId, int clearId,
                                         int browseId, int y);
 // A list that fills the page below `yOffset`, a length at 96 dots per inch.
-Rect PlaceList(const PageMetrics& metrics, int yOffset);
-Rect PlaceTabRow(const PageMetrics& metrics);
+Rect PlaceList(const ScreenScale& scale, int clientWidth, int clientHeight, int yOffset);
+Rect PlaceTabRow(const ScreenScale& scale, int clientWidth, int clientHeight);
 
 // A row of a table, its spacing included.
 RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring& caption, int y);
 
-// Where the first row of a tab stands.
-int FirstRowTop(const PageMetrics& metrics);
+inline constexpr int kFirstRowTop = 8;  // at 96 dots per inch
 
 // The words of a text that are wider than `width`, each cut short with an ellipsis.
 std::wstring ShortenWords(TextMeasure& measure, const std::wstring& text, int width);

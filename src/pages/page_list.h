@@ -10,16 +10,26 @@ namespace tidewell {
 
 inline constexpr int kPageCount = 12;
 
-enum class PageIndex : int { kGeneral = 0, kMessages = 5, kSpecialEvents = 6, kPim = 9 };
+enum class PageIndex : int {
+  kGeneral,
+  kCalendar,
+  kTasks,
+  kNotes,
+  kContacts,
+  kMessages,
+  kSpecialEvents,
+  kFonts,
+  kColors,
+  kPim,
+  kTabs,
+  kCategories,
+};
 
 struct PageEntry {
   const wchar_t* className;
+  int captionId;
   PageTable (*table)(PageContext& context);  // null until the page exists
 };
-
-inline constexpr std::size_t IndexOf(PageIndex page) {
-  return static_cast<std::size_t>(page);
-}
 
 extern const std::array<PageEntry, kPageCount> kPages;
 

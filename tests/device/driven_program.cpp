@@ -98,10 +98,11 @@ bool DrivenProgram::WaitForPopupToGo() {
 
 void DrivenProgram::Press(WPARAM key, int times) {
   for (; times > 0; --times) {
-    PostMessageW(Front(), WM_KEYDOWN, key, 1);
-    PostMessageW(Front(), WM_KEYUP, key, 1);
+    const HWND focus = Focus();
+    PostMessageW(focus, WM_KEYDOWN, key, 1);
+    PostMessageW(focus, WM_KEYUP, key, 1);
+    Settle();
   }
-  Settle();
 }
 
 void DrivenProgram::Tap(POINT point) {
@@ -144,6 +145,14 @@ void DrivenProgram::Settle() {
 
 HWND DrivenProgram::Front() const {
   return GetLastActivePopup(main_);
+}
+
+// Keys go to the control that has the focus, if a control has it.
+HWND DrivenProgram::Focus() const {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(GetWindowThreadProcessId(main_, nullptr), &info);
+  return info.hwndFocus && IsChild(Front(), info.hwndFocus) ? info.hwndFocus : Front();
 }
 
 POINT DrivenProgram::BarButton(bool right) const {

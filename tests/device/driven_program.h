@@ -51,7 +51,8 @@ class DrivenProgram {
   bool WaitForPopupToGo();
   HWND Main() const { return main_; }
 
-  // Input goes to whatever window of the program is in front.
+  // Input goes to whatever window of the program is in front, keys to the control in it that has
+  // the focus.
   void Press(WPARAM key, int times = 1);
   void Tap(POINT point);
   // Leaves the finger on the screen.
@@ -66,6 +67,7 @@ class DrivenProgram {
 
  private:
   HWND Front() const;
+  HWND Focus() const;
   POINT BarButton(bool right) const;
 
   Process process_;

@@ -4,7 +4,9 @@
 
 #include <cstdio>
 #include <functional>
+#include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "driven_program.h"
@@ -36,7 +38,7 @@ void Popup(DrivenProgram& program) {
 }
 
 struct View {
-  const char* name;
+  std::string name;
   std::vector<Step> steps;  // from the main list as it opens
   const wchar_t* commandLine = L"";
 };
@@ -54,8 +56,39 @@ const View kViews[] = {
     {"about", {Press(VK_DOWN, kAboutRow), Press(VK_RETURN), Popup}},
 };
 
-void Say(const char* word, const char* name) {
-  std::printf("%s %s\n", word, name);
+// A settings page: its row in the list of groups, and how many tabs it has.
+struct Page {
+  const char* name;
+  int row;
+  int tabs;
+};
+
+const Page kPages[] = {
+    {"general", 0, 4}, {"messages", 5, 2}, {"special-events", 6, 3}, {"pim", 9, 2}};
+
+// Every tab: from the page's first control, Up leads to the row of tabs, and Right turns it.
+std::vector<View> ViewsOf(const Page& page) {
+  std::vector<View> views;
+  for (int tab = 0; tab < page.tabs; ++tab) {
+    View view{page.name + std::string("-") + std::to_string(tab + 1), {}};
+    if (page.row > 0) view.steps.push_back(Press(VK_DOWN, page.row));
+    view.steps.insert(view.steps.end(), {Press(VK_RETURN), Popup});
+    if (tab > 0) view.steps.insert(view.steps.end(), {Press(VK_UP), Press(VK_RIGHT, tab)});
+    views.push_back(std::move(view));
+  }
+  return views;
+}
+
+std::vector<View> AllViews() {
+  std::vector<View> views(std::begin(kViews), std::end(kViews));
+  for (const Page& page : kPages) {
+    for (View& view : ViewsOf(page)) views.push_back(std::move(view));
+  }
+  return views;
+}
+
+void Say(const char* word, const std::string& name) {
+  std::printf("%s %s\n", word, name.c_str());
   std::fflush(stdout);
 }
 
@@ -69,7 +102,7 @@ bool Show(const View& view) {
 }
 
 int TakeTour() {
-  for (const View& view : kViews) {
+  for (const View& view : AllViews()) {
     if (!Show(view)) {
       Say("trouble", view.name);
       return 1;

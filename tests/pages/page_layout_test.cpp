@@ -55,8 +55,8 @@ TEST_F(Layout, RowsStandWhereTheyAreExpected) {
   EXPECT_EQ(path.height, 48);
   EXPECT_EQ(PlacePathEdit(qvga, 1, 2, 3, 8),
             (Places{{1, {10, 8, 120, 20}}, {2, {135, 8, 45, 20}}, {3, {185, 8, 45, 20}}}));
-  EXPECT_EQ(PlaceList(qvga, 8), (Rect{10, 76, 220, 164}));
-  EXPECT_EQ(PlaceTabRow(qvga), (Rect{-2, 247, 242, 21}));
+  EXPECT_EQ(PlaceList(qvga.scale, 240, 268, 8), (Rect{10, 76, 220, 164}));
+  EXPECT_EQ(PlaceTabRow(qvga.scale, 240, 268), (Rect{-2, 247, 242, 21}));
 }
 
 TEST_F(Layout, TwiceTheResolutionIsTwiceTheSize) {
@@ -64,7 +64,7 @@ TEST_F(Layout, TwiceTheResolutionIsTwiceTheSize) {
     const RowPlace combo = PlaceComboRow(metrics, 1, 2, L"Label", 64);
     EXPECT_EQ(combo.controls, (Places{{1, {0, 70, 200, 40}}, {2, {210, 64, 250, 200}}}));
     EXPECT_EQ(combo.height, 48);
-    EXPECT_EQ(PlaceTabRow(metrics), (Rect{-4, 493, 484, 43}));
+    EXPECT_EQ(PlaceTabRow(metrics.scale, 480, 536), (Rect{-4, 493, 484, 43}));
   }
 }
 

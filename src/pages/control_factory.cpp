@@ -1,0 +1,243 @@
+// The controls of a settings page: how each kind is made, and what is done with them by id.
+#include <array>
+
+#include "pages/page_dialogs.h"
+#include "pages/settings_page.h"
+#include "resources/text/text_ids.h"
+#include "ui/look.h"
+
+// Known to a device's list views only.
+#ifndef LVS_EX_NOHSCROLL
+#define LVS_EX_NOHSCROLL 0x10000000
+#endif
+
+namespace tidewell {
+
+namespace {
+
+constexpr DWORD kCheckStyle = BS_AUTOCHECKBOX | BS_LEFTTEXT | BS_RIGHT;
+constexpr DWORD kEditStyle = WS_BORDER | ES_AUTOHSCROLL;
+constexpr DWORD kComboStyle = WS_VSCROLL | WS_TABSTOP;
+constexpr DWORD kListStyle = WS_BORDER | WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE |
+                             LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER;
+constexpr int kListColumnWidth = 300;
+constexpr int kRowTextCapacity = 256;
+
+// What moves with a row of a list.
+struct ListRow {
+  std::array<wchar_t, kRowTextCapacity> text{};
+  LVITEMW item{};
+};
+
+void ReadRow(HWND list, int index, ListRow& row) {
+  row.item.mask = LVIF_TEXT | LVIF_PARAM | LVIF_STATE;
+  row.item.iItem = index;
+  row.item.stateMask = LVIS_STATEIMAGEMASK;
+  row.item.pszText = row.text.data();
+  row.item.cchTextMax = kRowTextCapacity;
+  ListView_GetItem(list, &row.item);
+}
+
+void WriteRow(HWND list, int index, ListRow& row) {
+  row.item.iItem = index;
+  ListView_SetItem(list, &row.item);
+}
+
+}  // namespace
+
+int FontMeasure::Width(const std::wstring& text) {
+  SIZE size{};
+  GetTextExtentExPointW(dc_.Dc(), text.c_str(), static_cast<int>(text.size()), 0, nullptr, nullptr,
+                        &size);
+  return size.cx;
+}
+
+int FontMeasure::Height(const std::wstring& text, int width) {
+  RECT area{0, 0, width, 0};
+  return DrawTextW(dc_.Dc(), text.c_str(), static_cast<int>(text.size()), &area,
+                   DT_CALCRECT | DT_WORDBREAK);
+}
+
+// A device's sibling windows keep out of each other without being asked: the tab row stays above
+// what is scrolled below it.
+HWND SettingsPage::MakeControl(const wchar_t* windowClass, DWORD style, int id,
+                               const std::wstring& text, const Rect& place) {
+  const HWND control =
+      CreateWindowExW(0, windowClass, text.c_str(), WS_CHILD | WS_CLIPSIBLINGS | style, place.left,
+                      place.top, place.width, place.height, window_,
+                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance_, nullptr);
+  SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
+  return control;
+}
+
+void SettingsPage::MakeReadOnlyEdit(int id, const std::wstring& text, const Rect& place) {
+  controls_.Add(MakeControl(WC_EDITW, kEditStyle | ES_READONLY, id, text, place),
+                ControlKind::kEdit);
+}
+
+void SettingsPage::MakeButton(int id, int textId, const Rect& place) {
+  controls_.Add(MakeControl(WC_BUTTONW, BS_PUSHBUTTON, id, Text(textId), place),
+                ControlKind::kButton);
+}
+
+void SettingsPage::AddLabel(int id, int textId, int x, int y, int width, int height, DWORD style) {
+  MakeControl(WC_STATICW, style, id, Text(textId), {x, y, width, height});
+}
+
+void SettingsPage::AddEdit(int id, const std::wstring& text, int x, int y, int width, int height) {
+  controls_.Add(MakeControl(WC_EDITW, kEditStyle, id, text, {x, y, width, height}),
+                ControlKind::kEdit);
+}
+
+void SettingsPage::AddButton(int id, int textId, int x, int y, int width, int height) {
+  MakeButton(id, textId, {x, y, width, height});
+}
+
+RowPlace SettingsPage::AddCheckBox(int id, int textId, bool checked, int y) {
+  FontMeasure measure(window_, TextFont());
+  RowPlace row = PlaceCheckRow(Metrics(measure), id, Text(textId), y);
+  const HWND box = MakeControl(WC_BUTTONW, kCheckStyle | (row.wraps ? BS_MULTILINE : 0), id,
+                               row.caption, row.controls[0].rect);
+  SendMessageW(box, BM_SETCHECK, checked, 0);
+  controls_.Add(box, ControlKind::kCheck);
+  return row;
+}
+
+RowPlace SettingsPage::AddComboRow(int labelId, int comboId, int textId,
+                                   std::span<const Choice> items, int selection, int y,
+                                   bool editable) {
+  FontMeasure measure(window_, TextFont());
+  RowPlace row = PlaceComboRow(Metrics(measure), labelId, comboId, Text(textId), y);
+  MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
+  const HWND combo =
+      MakeControl(WC_COMBOBOXW, kComboStyle | (editable ? CBS_DROPDOWN : CBS_DROPDOWNLIST), comboId,
+                  {}, row.controls[1].rect);
+  for (const Choice& item : items) {
+    const std::wstring text = item.TextIn(Context().language);
+    const LRESULT line =
+        SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    SendMessageW(combo, CB_SETITEMDATA, static_cast<WPARAM>(line), item.data);
+  }
+  if (std::ssize(items) > selection) {
+    SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(selection), 0);
+  }
+  controls_.Add(combo, editable ? ControlKind::kNumber : ControlKind::kList);
+  return row;
+}
+
+RowPlace SettingsPage::AddPathRow(int labelId, int editId, int clearId, int browseId, int textId,
+                                  const std::wstring& path, int y) {
+  FontMeasure measure(window_, TextFont());
+  RowPlace row =
+      PlacePathRow(Metrics(measure), labelId, editId, clearId, browseId, Text(textId), y);
+  MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
+  MakeReadOnlyEdit(editId, path, row.controls[1].rect);
+  MakeButton(clearId, IDS_CLEAR, row.controls[2].rect);
+  MakeButton(browseId, IDS_BROWSE, row.controls[3].rect);
+  return row;
+}
+
+void SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path,
+                               int y) {
+  FontMeasure measure(window_, TextFont());
+  const auto places = PlacePathEdit(Metrics(measure), editId, clearId, browseId, y);
+  MakeReadOnlyEdit(editId, path, places[0].rect);
+  MakeButton(clearId, IDS_CLEAR, places[1].rect);
+  MakeButton(browseId, IDS_BROWSE, places[2].rect);
+}
+
+void SettingsPage::AddList(int id, std::span<const int> itemIds, int yOffset) {
+  RECT client;
+  GetClientRect(window_, &client);
+  const HWND list = MakeControl(WC_LISTVIEWW, kListStyle, id, {},
+                                PlaceList(Scale(), client.right, client.bottom, yOffset));
+  ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_NOHSCROLL);
+  std::wstring title = L"List Column";
+  LVCOLUMNW column{};
+  column.mask = LVCF_TEXT | LVCF_WIDTH;
+  column.pszText = title.data();
+  column.cx = Scale().ScaleX(kListColumnWidth);
+  ListView_InsertColumn(list, 0, &column);
+  for (std::size_t i = 0; i < itemIds.size(); ++i) {
+    std::wstring text = Text(itemIds[i]);
+    LVITEMW item{};
+    item.mask = LVIF_TEXT;
+    item.iItem = static_cast<int>(i);
+    item.pszText = text.data();
+    ListView_InsertItem(list, &item);
+  }
+  controls_.Add(list, ControlKind::kRows);
+}
+
+void SettingsPage::DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const {
+  const bool automatic = color == kNoColor;
+  RECT area{x, y, x + Scale().ScaleX(44), y + Scale().ScaleX(20)};
+  FillPlain(dc, area, RGB(0, 0, 0));
+  InflateRect(&area, -Scale().ScaleX(1), -Scale().ScaleX(1));
+  FillPlain(dc, area, automatic ? kPaper : color);
+  if (!automatic) return;
+  const Selected font(dc, TextFont());
+  SetBkMode(dc, TRANSPARENT);
+  DrawTextW(dc, Text(IDS_COLOR_AUTOMATIC).c_str(), -1, &area,
+            DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+void SettingsPage::ShowControlRange(HWND window, int firstId, int lastId, int showCommand) const {
+  for (int id = firstId; id <= lastId; ++id) {
+    if (const HWND control = GetDlgItem(window, id)) ShowWindow(control, showCommand);
+  }
+}
+
+void SettingsPage::MoveListItem(HWND window, int listId, bool up) {
+  const HWND list = GetDlgItem(window, listId);
+  const int row = ListView_GetNextItem(list, -1, LVNI_SELECTED);
+  if (row < 0) {
+    ShowMessage(IDS_SELECT_ENTRY, IDS_SELECT_ENTRY_CAPTION);
+    return;
+  }
+  const int target = up ? row - 1 : row + 1;
+  if (target < 0 || target >= ListView_GetItemCount(list)) return;
+  ListRow moved;
+  ListRow displaced;
+  ReadRow(list, row, moved);
+  ReadRow(list, target, displaced);
+  WriteRow(list, row, displaced);
+  WriteRow(list, target, moved);
+  ListView_SetItemState(list, target, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+  SetFocus(list);
+}
+
+void SettingsPage::Enable(std::span<const Enabling> rule) const {
+  for (const Enabling& each : rule) {
+    if (const HWND control = Control(each.id)) EnableWindow(control, each.enabled);
+  }
+}
+
+LRESULT SettingsPage::Send(int id, UINT message, WPARAM wParam, LPARAM lParam) const {
+  return SendMessageW(Control(id), message, wParam, lParam);
+}
+
+std::wstring SettingsPage::TextOfControl(int id) const {
+  const HWND control = Control(id);
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control)), L'\0');
+  GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1);
+  return text;
+}
+
+void SettingsPage::SetTextOfControl(int id, const std::wstring& text) const {
+  SetWindowTextW(Control(id), text.c_str());
+}
+
+bool SettingsPage::IsChecked(int id) const {
+  return (Send(id, BM_GETCHECK) & 1) != 0;
+}
+
+std::wstring SettingsPage::Text(int textId) const {
+  return TextOf(context_.language, static_cast<std::uint32_t>(textId));
+}
+
+void SettingsPage::ShowMessage(int textId, int captionId) const {
+  if (context_.dialogs) context_.dialogs->ShowMessage(window_, Text(textId), Text(captionId));
+}
+
+}  // namespace tidewell

@@ -1,0 +1,58 @@
+// The focusable controls of a page: keys walk through them and work them. A device has four
+// directions and an action key (Enter); a keyboard adds Tab, Space and the rest.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <deque>
+
+namespace tidewell {
+
+enum class ControlKind : std::uint8_t { kButton, kCheck, kList, kNumber, kEdit, kRows, kTabs };
+
+// What the controls tell their page.
+class ControlsOwner {
+ public:
+  virtual ~ControlsOwner() = default;
+  // Null when the focus has left the page's controls.
+  virtual void OnFocusMoved(HWND control) = 0;
+  // Up (-1) or down (1) by what is in view; true when there is more to see at all.
+  virtual bool OnPageKey(int direction) = 0;
+  virtual void OnWheel(int distance) = 0;
+};
+
+class PageControls {
+ public:
+  explicit PageControls(ControlsOwner& owner) : owner_(owner) {}
+  PageControls(const PageControls&) = delete;
+  PageControls& operator=(const PageControls&) = delete;
+
+  // Takes the control's user data. The order of the calls is the order of the walk.
+  void Add(HWND control, ControlKind kind);
+
+  // The focus goes to the first usable control, to `preferred` when that is one.
+  void FocusFirst(HWND preferred = nullptr);
+  bool CanFocus(HWND control) const;
+
+ private:
+  struct Entry {
+    PageControls* controls;
+    HWND control;  // the list itself, also for the edit inside of it
+    ControlKind kind;
+    WNDPROC next;
+  };
+
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void Hook(HWND window, HWND control, ControlKind kind);
+  bool OnKey(const Entry& entry, WPARAM key);
+  bool OnArrow(const Entry& entry, int direction, bool vertical);
+  bool OnAction(const Entry& entry, bool isSpace);
+  bool Swallows(const Entry& entry, WPARAM character) const;
+  void Walk(HWND from, int direction);
+
+  ControlsOwner& owner_;
+  std::deque<Entry> entries_;  // their addresses stay
+};
+
+}  // namespace tidewell

@@ -1,0 +1,287 @@
+#include "pages/settings_page.h"
+
+#include "ui/look.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr DWORD kPageStyle = 0x90000800;  // a visible pop-up; the lowest bit is the shell's
+constexpr int kTextHeight = 12;           // design height of the letters
+constexpr int kFocusRoom = 2;             // design width of the room around a focused control
+constexpr COLORREF kFocusInk = RGB(74, 132, 196);
+
+// The tab row is told so once, as soon as it is made.
+constexpr UINT kTabRowMessage = 0x2007;
+constexpr WPARAM kTabRowVersion = 526;
+
+Rect ToRect(const RECT& rect) {
+  return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
+
+void Move(HWND window, const Rect& place) {
+  MoveWindow(window, place.left, place.top, place.width, place.height, TRUE);
+}
+
+}  // namespace
+
+SettingsPage::SettingsPage(PageContext& context)
+    : context_(context), font_(TahomaFont(context.scale.ScaleX(kTextHeight), FW_NORMAL)) {
+  activation_.cbSize = sizeof activation_;
+}
+
+SettingsPage::~SettingsPage() {
+  if (window_) {
+    // Nothing of the page is left to hear of it.
+    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+    DestroyWindow(window_);
+  }
+  UnregisterClassW(className_.c_str(), instance_);
+}
+
+bool SettingsPage::Create(HWND host, const wchar_t* className, const std::wstring& caption) {
+  className_ = className;
+  instance_ = GetModuleHandleW(nullptr);
+  WNDCLASSW windowClass{};
+  windowClass.lpfnWndProc = WindowProc;
+  windowClass.hInstance = instance_;
+  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  windowClass.lpszClassName = className;
+  RegisterClassW(&windowClass);
+
+  RECT place;
+  GetWindowRect(host, &place);
+  CreateWindowExW(static_cast<DWORD>(WS_EX_CAPTIONOKBTN), className, caption.c_str(), kPageStyle,
+                  place.left, place.top, place.right - place.left, place.bottom - place.top, host,
+                  nullptr, instance_, this);
+  if (!window_) return false;
+  ShowWindow(window_, SW_SHOW);
+  UpdateWindow(window_);
+  controls_.FocusFirst();
+  return true;
+}
+
+LRESULT CALLBACK SettingsPage::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_CREATE) {
+    auto* created =
+        static_cast<SettingsPage*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+    created->window_ = window;
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+  }
+  auto* page = reinterpret_cast<SettingsPage*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return page ? page->Handle(message, wParam, lParam)
+              : DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CREATE:
+      return Build();
+    case WM_DESTROY:
+      return TakeDown();
+    case WM_MOVE:
+    case WM_SIZE:
+      LayOutTabRow();
+      OnLayout(window_);
+      return 0;
+    case WM_ACTIVATE:
+      SHHandleWMActivate(window_, wParam, lParam, &activation_, 0);
+      return 0;
+    case WM_SETTINGCHANGE:
+      SHHandleWMSettingChange(window_, wParam, lParam, &activation_);
+      return 0;
+    case WM_SETFOCUS:
+      controls_.FocusFirst(lastFocused_);
+      return 0;
+    case WM_ERASEBKGND:
+      OnEraseBackground(window_, reinterpret_cast<HDC>(wParam));
+      return 1;
+    case WM_PAINT:
+      OnPaint(window_);
+      return 0;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+      SetBkColor(reinterpret_cast<HDC>(wParam), kPaper);
+      return reinterpret_cast<LRESULT>(GetStockObject(WHITE_BRUSH));
+    case WM_LBUTTONDOWN:
+      return OnLButtonDown(window_, wParam, lParam);
+    case WM_DRAWITEM:
+      return OnDrawItem(window_, wParam, lParam);
+    case WM_MEASUREITEM:
+      return OnMeasureItem(window_, wParam, lParam);
+    case WM_NOTIFY:
+      return Turn(reinterpret_cast<NMHDR*>(lParam));
+    case WM_COMMAND:
+      // The host deletes the page before this returns.
+      if (LOWORD(wParam) == IDOK) return SendMessageW(GetParent(window_), kClosePageMessage, 0, 0);
+      return OnCommand(window_, wParam, lParam);
+    case kPreviewMessage1:
+      return OnPreviewMessage1(window_, wParam, lParam);
+    case kPreviewMessage2:
+      return OnPreviewMessage2(window_, wParam, lParam);
+    case WM_NCDESTROY:
+      SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+      return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+    default:
+      return OnOther(window_, message, wParam, lParam);
+  }
+}
+
+LRESULT SettingsPage::Build() {
+  // A device spares its child windows from its own painting without being asked.
+  SetWindowLongPtrW(window_, GWL_STYLE, GetWindowLongPtrW(window_, GWL_STYLE) | WS_CLIPCHILDREN);
+  MakeMenuBar();
+  MakeTabRow();
+  OnCreate(window_);
+  if (tabs_) controls_.Add(tabs_, ControlKind::kTabs);
+  ShowTab(window_, SW_SHOW);
+  return 0;
+}
+
+LRESULT SettingsPage::TakeDown() {
+  OnDestroy(window_);
+  if (tabs_) DestroyWindow(std::exchange(tabs_, nullptr));
+  if (menuBar_) DestroyWindow(std::exchange(menuBar_, nullptr));
+  if (imageList_) ImageList_Destroy(std::exchange(imageList_, nullptr));
+  extra_.reset();
+  return 0;
+}
+
+void SettingsPage::MakeMenuBar() {
+  SHMENUBARINFO bar{};
+  bar.cbSize = sizeof bar;
+  bar.hwndParent = window_;
+  bar.dwFlags = SHCMBF_EMPTYBAR;
+  if (!SHCreateMenuBar(&bar)) return;
+  menuBar_ = bar.hwndMB;
+  RECT barPlace;
+  RECT place;
+  GetWindowRect(menuBar_, &barPlace);
+  GetWindowRect(window_, &place);
+  place.bottom -= barPlace.bottom - barPlace.top;
+  Move(window_, ToRect(place));
+}
+
+void SettingsPage::MakeTabRow() {
+  const int count = GetTabCount();
+  if (count < 1) return;
+  tabs_ = MakeControl(WC_TABCONTROLW, WS_VISIBLE | TCS_BOTTOM, 0, {}, {});
+  SendMessageW(tabs_, kTabRowMessage, kTabRowVersion, 0);
+  for (int i = 0; i < count; ++i) {
+    std::wstring title = Text(GetTabTitleId(i));
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = title.data();
+    SendMessageW(tabs_, TCM_INSERTITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+  }
+  LayOutTabRow();
+}
+
+void SettingsPage::LayOutTabRow() {
+  if (!tabs_) return;
+  RECT client;
+  GetClientRect(window_, &client);
+  Move(tabs_, tidewell::PlaceTabRow(Scale(), client.right, client.bottom));
+}
+
+LRESULT SettingsPage::Turn(NMHDR* header) {
+  if (header->hwndFrom != tabs_) return OnNotify(window_, header);
+  switch (header->code) {
+    case TCN_SELCHANGING:
+      // A hidden control must not keep the focus.
+      if (focused_ && focused_ != tabs_) SetFocus(tabs_);
+      ShowTab(window_, SW_HIDE);
+      return 0;
+    case TCN_SELCHANGE:
+      ShowTab(window_, SW_SHOW);
+      return 0;
+    default:
+      return OnNotify(window_, header);
+  }
+}
+
+void SettingsPage::OnFocusMoved(HWND control) {
+  InvalidateFocus(focused_);
+  focused_ = control;
+  if (control) lastFocused_ = control;
+  InvalidateFocus(focused_);
+}
+
+// The frame lies in the room between a control and its neighbours.
+void SettingsPage::InvalidateFocus(HWND control) const {
+  if (!control || control == tabs_) return;
+  const RECT frame = FocusFrame(control);
+  InvalidateRect(window_, &frame, TRUE);
+}
+
+RECT SettingsPage::FocusFrame(HWND control) const {
+  RECT frame;
+  GetWindowRect(control, &frame);
+  MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&frame), 2);
+  const int room = Scale().ScaleX(kFocusRoom);
+  InflateRect(&frame, room, room);
+  return frame;
+}
+
+void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
+  RECT client;
+  GetClientRect(window, &client);
+  FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  if (!focused_ || focused_ == tabs_) return;
+  RECT frame = FocusFrame(focused_);
+  const Brush ink(CreateSolidBrush(kFocusInk));
+  FillRect(dc, &frame, ink.Get());
+  const int width = Scale().ScaleX(1);
+  InflateRect(&frame, -width, -width);
+  FillRect(dc, &frame, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+}
+
+bool SettingsPage::OnPageKey(int) {
+  return false;
+}
+
+void SettingsPage::OnWheel(int) {}
+
+void SettingsPage::OnPaint(HWND window) {
+  PAINTSTRUCT paint;
+  BeginPaint(window, &paint);
+  EndPaint(window, &paint);
+}
+
+LRESULT SettingsPage::OnLButtonDown(HWND, WPARAM, LPARAM) {
+  return 0;
+}
+LRESULT SettingsPage::OnDrawItem(HWND, WPARAM, LPARAM) {
+  return 0;
+}
+LRESULT SettingsPage::OnMeasureItem(HWND, WPARAM, LPARAM) {
+  return 0;
+}
+LRESULT SettingsPage::OnPreviewMessage2(HWND, WPARAM, LPARAM) {
+  return 0;
+}
+LRESULT SettingsPage::OnPreviewMessage1(HWND, WPARAM, LPARAM) {
+  return 0;
+}
+LRESULT SettingsPage::OnCommand(HWND, WPARAM, LPARAM) {
+  return 0;
+}
+void SettingsPage::OnLayout(HWND) {}
+LRESULT SettingsPage::OnNotify(HWND, NMHDR*) {
+  return 0;
+}
+LRESULT SettingsPage::OnOther(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+int SettingsPage::SelectedTab() const {
+  return tabs_ ? static_cast<int>(SendMessageW(tabs_, TCM_GETCURSEL, 0, 0)) : 0;
+}
+
+PageMetrics SettingsPage::Metrics(TextMeasure& measure) const {
+  RECT client;
+  GetClientRect(window_, &client);
+  return {Scale(), client.right, client.bottom, measure};
+}
+
+}  // namespace tidewell
