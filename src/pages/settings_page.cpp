@@ -11,6 +11,8 @@ constexpr int kTextHeight = 12;           // design height of the letters
 constexpr int kFocusRoom = 2;             // design width of the room around a focused control
 constexpr COLORREF kFocusInk = RGB(74, 132, 196);
 
+constexpr int kTabPadding = 3;  // design width beside a tab's title
+
 // The tab row is told so once, as soon as it is made.
 constexpr UINT kTabRowMessage = 0x2007;
 constexpr WPARAM kTabRowVersion = 526;
@@ -167,6 +169,8 @@ void SettingsPage::MakeTabRow() {
   if (count < 1) return;
   tabs_ = MakeControl(WC_TABCONTROLW, WS_VISIBLE | TCS_BOTTOM, 0, {}, {});
   SendMessageW(tabs_, kTabRowMessage, kTabRowVersion, 0);
+  SendMessageW(tabs_, TCM_SETPADDING, 0,
+               MAKELPARAM(Scale().ScaleX(kTabPadding), Scale().ScaleY(kTabPadding)));
   for (int i = 0; i < count; ++i) {
     std::wstring title = Text(GetTabTitleId(i));
     TCITEMW item{};

@@ -138,9 +138,7 @@ class Languages : public GeneralPage {
  protected:
   static constexpr const wchar_t* kFolder = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\";
 
-  Languages() {
-    door_ = {registry_, machine_.files, machine_.locale, machine_.libraries, machine_.system};
-  }
+  Languages() { installed_ = &machine_.libraries; }
   void Put(const std::wstring& file, std::optional<std::wstring> name) {
     machine_.files.Put(kFolder + file, "MZ");
     MemoryLibraries::Texts texts;

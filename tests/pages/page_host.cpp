@@ -51,10 +51,11 @@ void PageHost::UseLanguage(const std::wstring& library) {
 void PageHost::Load() {
   const ScreenFacts& screen = machine_.system.screen;
   const ScreenScale scale(screen.dpiX, screen.dpiY, false);
+  door_.emplace(Machine{registry_, machine_.files, machine_.locale, *installed_, machine_.system});
   std::unique_ptr<ResourceLibrary> unused;
-  store_.Load(door_, scale, unused);
+  store_.Load(*door_, scale, unused);
   context_ = std::make_unique<PageContext>(PageContext{
-      door_, store_, language_.get(), scale, {L"Business", L"Holiday", L"family"}, &dialogs_});
+      *door_, store_, language_.get(), scale, {L"Business", L"Holiday", L"family"}, &dialogs_});
 }
 
 void PageHost::Open(PageIndex page) {

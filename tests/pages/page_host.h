@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -74,7 +75,8 @@ class PageHost : public testing::Test {
   MemoryMachine machine_;
   MeteredRegistry registry_{machine_.registry};
   WindowsLibraries libraries_;
-  Machine door_{registry_, machine_.files, machine_.locale, machine_.libraries, machine_.system};
+  ResourceLibraries* installed_ = &libraries_;  // what a scan for language packs meets
+  std::optional<Machine> door_;
   FakeDialogs dialogs_;
   SettingsStore store_;
   std::unique_ptr<ResourceLibrary> language_;

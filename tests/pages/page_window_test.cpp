@@ -1,7 +1,9 @@
 // What every page does beyond its rows: keys, scrolling, turning, and that it fits its screen in
 // every language.
-#include <commctrl.h>
 #include <gmock/gmock.h>
+#include <windows.h>
+
+#include <commctrl.h>
 
 #include "pages/general_table.h"
 #include "pages/pim_table.h"
@@ -26,6 +28,7 @@ class PageWindow : public PageHost {
     }
     return controls;
   }
+  void OpenOnLowScreen();
   void TurnScreen() {
     RECT place;
     GetWindowRect(page_->Window(), &place);
@@ -109,10 +112,15 @@ TEST_F(PageWindow, TheFocusComesBackWithTheWindow) {
   EXPECT_EQ(FocusedId(), 1202);
 }
 
-TEST_F(PageWindow, ASquareScreenScrollsToTheRowThatHasTheFocus) {
-  UseScreen(240, 240, 96);
+// So low that the D-pad's rows do not fit.
+void PageWindow::OpenOnLowScreen() {
+  UseScreen(240, 190, 96);
   Open(PageIndex::kGeneral);
   Turn(2);
+}
+
+TEST_F(PageWindow, ALowScreenScrollsToTheRowThatHasTheFocus) {
+  OpenOnLowScreen();
   const int bottom = static_cast<int>(Place(Tabs()).top);
   ASSERT_GT(Place(Control(1228)).bottom, bottom) << "it does not fit";
   Press(VK_UP);
@@ -125,9 +133,7 @@ TEST_F(PageWindow, ASquareScreenScrollsToTheRowThatHasTheFocus) {
 }
 
 TEST_F(PageWindow, AFingerDragsWhatDoesNotFitAndAWheelTurnsIt) {
-  UseScreen(240, 240, 96);
-  Open(PageIndex::kGeneral);
-  Turn(2);
+  OpenOnLowScreen();
   const HWND window = page_->Window();
   const int room = static_cast<int>(Place(Control(1228)).bottom - Place(Tabs()).top);
   const auto top = [this] { return static_cast<int>(Place(Control(1220)).top); };
@@ -217,10 +223,12 @@ class PageOnScreens : public PageWindow {
   void CheckText(HWND control, const RECT& place, int dpi) {
     wchar_t kind[32];
     GetClassNameW(control, kind, 32);
-    const int id = GetDlgCtrlID(control);
-    int width = place.right - place.left;
-    if (lstrcmpiW(kind, WC_BUTTONW) == 0) width -= 16 * dpi / 96;
     if (lstrcmpiW(kind, WC_EDITW) == 0 || lstrcmpiW(kind, WC_COMBOBOXW) == 0) return;
+    const int id = GetDlgCtrlID(control);
+    const bool isCheckBox = GetWindowLongW(control, GWL_STYLE) & BS_LEFTTEXT;
+    const bool isLabel = lstrcmpiW(kind, WC_STATICW) == 0;
+    const int reserved = isLabel ? 0 : isCheckBox ? 16 : 3;
+    const int width = place.right - place.left - reserved * dpi / 96;
     const std::wstring text = TextOfControl(id);
     EXPECT_FALSE(text.empty()) << id;
     const SIZE size = SizeOf(control, text, width);
