@@ -5,16 +5,9 @@
 . "$(dirname "$0")/scripts/common.sh"
 . "$root/scripts/device.sh"
 
-# The suites, each a GoogleTest program below a preset's folder, with its time limit in seconds.
-native_suites=(
-  "core 60 tests/core_tests"
-)
-windows_suites=(
-  "core 120 tests/core_tests.exe"
-  "settings 60 tests/settings/settings_tests.exe"
-  "resources 60 tests/resources/resource_tests.exe"
-  "pages 120 tests/pages/page_tests.exe"
-)
+native_limit=120   # seconds for one suite
+windows_limit=300
+fuzz_time=8        # seconds for one target
 
 passed=0
 failed=0
@@ -60,44 +53,62 @@ record_report() {
   fi
 }
 
-# The suites' words: NAME SECONDS PROGRAM.
+# A GoogleTest program on this machine: run_native_suite NAME PROGRAM.
 run_native_suite() {
-  local name="$1, native" limit=$2 program=$build/host/$3
-  local log=$logs/$1-native.log report=$logs/$1-native.xml
+  local name=$1 program=$2
+  local log=$logs/$name-native.log report=$logs/$name-native.xml
   rm -f "$report"
-  run_timed timeout --foreground --kill-after=5 "$limit" \
+  run_timed timeout --foreground --kill-after=5 "$native_limit" \
     "$program" "--gtest_output=xml:$report" >"$log" 2>&1 </dev/null
-  record_report "$name" "$report" "$log"
+  record_report "$name, native" "$report" "$log"
 }
 
-# The exit code of a program on the Wine desktop does not come back; its report tells all.
+# A GoogleTest program on the device. Its exit code does not come back from there; its report tells
+# all.
 run_windows_suite() {
-  local name="$1, Windows" limit=$2 program=$build/windows/$3
-  local log=$logs/$1-windows.log report=$logs/$1-windows.xml
+  local name=$1 program=$2
+  local log=$logs/$name-windows.log report=$logs/$name-windows.xml
   rm -f "$report"
-  if [[ ! -f $program ]]; then
-    say "$program was not built." >"$log"
-    record "$name" 0 1 0 "$log"
-    return
-  fi
-  time_limit=$limit
+  time_limit=$windows_limit
   start_folder=$(dirname "$program")
   run_timed on_screen "Z:$program" "--gtest_output=xml:Z:$report" >"$log" 2>&1 </dev/null
   time_limit=
   start_folder=
   if ((status == 124 || status == 137)); then
-    say "No end after $limit seconds." >>"$log"
+    say "No end after $windows_limit seconds." >>"$log"
     restart_device
   fi
-  record_report "$name" "$report" "$log"
+  record_report "$name, Windows" "$report" "$log"
 }
 
-# run_check NAME COMMAND...: a command that passes or fails as a whole.
+# Any other command that the build has registered passes or fails as a whole.
 run_check() {
-  local name=$1 log=$logs/${1// /-}.log
-  shift
-  run_timed "$@" >"$log" 2>&1 </dev/null
+  local name=$1 preset=$2
+  local log=$logs/$name-$preset.log
+  run_timed ctest --test-dir "$build/$preset" --output-on-failure --no-tests=error --timeout 300 \
+    -R "^$name\$" >"$log" 2>&1 </dev/null
   record "$name" "$((status == 0))" "$((status != 0))" "$seconds" "$log"
+}
+
+# registered_tests PRESET: one line "NAME COMMAND" for each test that the build has registered.
+registered_tests() {
+  ctest --test-dir "$build/$1" -N -V | awk '
+    sub(/^[0-9]+: Test command: /, "") { command = $0 }
+    sub(/^ *Test +#[0-9]+: /, "") { print $0, command }'
+}
+
+# run_registered PRESET SUITE_RUNNER: the programs that are suites, and the other commands.
+run_registered() {
+  local preset=$1 runner=$2 tests name command
+  mapfile -t tests < <(registered_tests "$preset")
+  for name in "${tests[@]}"; do
+    command=${name#* }
+    name=${name%% *}
+    case $command in
+      *_tests | *_tests.exe | *_tests\" | *_tests.exe\") "$runner" "$name" "${command//\"/}" ;;
+      *) run_check "$name" "$preset" ;;
+    esac
+  done
 }
 
 # try_build PRESET: a build that fails is a suite that failed.
@@ -110,29 +121,43 @@ try_build() {
 
 run_native_tests() {
   try_build host || return 0
-  local suite words
-  for suite in "${native_suites[@]}"; do
-    read -ra words <<<"$suite"
-    run_native_suite "${words[@]}"
-  done
+  run_registered host run_native_suite
 }
 
 run_windows_tests() {
   try_build windows || return 0
   forget_device test
   use_device test
+  install_program
   use_screen vga
   use_virtual_display
-  local suite words
-  for suite in "${windows_suites[@]}"; do
-    read -ra words <<<"$suite"
-    run_windows_suite "${words[@]}"
+  run_registered windows run_windows_suite
+}
+
+# Each fuzz target begins with its seeds and looks for more for a little while; what it finds stays
+# out of the sources.
+run_fuzz_targets() {
+  try_build fuzz || return 0
+  local program name corpus dictionary seeds log
+  for program in "$build"/fuzz/tests/fuzz/*_fuzz; do
+    name=$(basename "$program" _fuzz)
+    seeds=$root/tests/fuzz/seeds/$name
+    dictionary=$root/tests/fuzz/dictionaries/$name.dict
+    corpus=$build/fuzz/corpus/$name
+    log=$logs/$name-fuzz.log
+    mkdir -p "$corpus"
+    [[ -d $seeds ]] || seeds=
+    [[ -f $dictionary ]] || dictionary=
+    run_timed "$program" -max_total_time="$fuzz_time" -timeout=10 -artifact_prefix="$logs/$name-" \
+      ${dictionary:+"-dict=$dictionary"} "$corpus" ${seeds:+"$seeds"} >"$log" 2>&1 </dev/null
+    record "$name, fuzz" "$((status == 0))" "$((status != 0))" "$seconds" "$log"
   done
 }
 
 need_packages "${program_packages[@]}" "${test_packages[@]}"
 run_native_tests
 run_windows_tests
+run_fuzz_targets
 
 say "$passed passed, $failed failed"
 ((failed == 0 && passed > 0))

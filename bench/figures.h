@@ -45,7 +45,7 @@ inline void PrintFigure(const char* name, double figure, const std::string& spre
                         const char* unit, const std::string& behind) {
   char aimText[64] = "";
   if (aim != kNoAim) std::snprintf(aimText, sizeof aimText, "%.4g%s", aim, unit);
-  std::printf("%-46s %8.2f%-4s %-15s %-8s %s\n", name, figure, unit, spread.c_str(), aimText,
+  std::printf("%-52s %8.2f%-4s %-16s %-8s %s\n", name, figure, unit, spread.c_str(), aimText,
               behind.c_str());
   std::fflush(stdout);
 }

@@ -13,7 +13,7 @@ time_limit=
 start_folder=
 in_wine() {
   (
-    cd "${start_folder:-$prefix/drive_c}"
+    cd "${start_folder:-$prefix/drive_c}" || exit
     exec env "${wine_environment[@]}" \
       ${time_limit:+timeout --foreground --kill-after=5 "$time_limit"} "$wine64" "$@" {device_lock}>&-
   )
@@ -67,7 +67,7 @@ forget_device() { rm -rf "$build/wine/$1"; }
 # registry and what may be written in place are not.
 copy_template() {
   local template=$build/wine/template
-  [[ -d $template ]] || make_template
+  [[ $template/device.reg -nt $root/scripts/device.reg ]] || make_template
   rm -rf "$prefix.new"
   cp -al "$template" "$prefix.new"
   cp -a --remove-destination "$template"/*.reg "$template/.update-timestamp" "$prefix.new/"
@@ -89,11 +89,11 @@ make_template() {
     fail "Wine could not make a prefix; build/logs/wineboot.log tells why."
   # Wine does not look into Debian's package of its own fonts; without them Tahoma is another face.
   ln -sf /usr/share/wine/fonts/*.ttf "$prefix/drive_c/windows/Fonts/"
-  cp "$root/scripts/device.reg" "$prefix/drive_c/"
-  in_wine reg import 'C:\device.reg' </dev/null >/dev/null 2>&1 ||
+  cp "$root/scripts/device.reg" "$prefix/"
+  in_wine reg import "Z:$prefix/device.reg" </dev/null >/dev/null 2>&1 ||
     fail "Wine's registry does not take scripts/device.reg."
-  rm "$prefix/drive_c/device.reg"
   stop_device
+  rm -rf "$build/wine/template"
   mv "$prefix" "$build/wine/template"
   prefix=$wanted
   wine_environment+=("WINEPREFIX=$prefix")

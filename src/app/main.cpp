@@ -6,6 +6,7 @@
 #include "app/main_window.h"
 #include "app/resource.h"
 #include "app/single_instance.h"
+#include "categories/pim_categories.h"
 #include "pages/create_page.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_machine.h"
@@ -23,6 +24,10 @@ StartMode StartModeOf(std::wstring_view commandLine) {
 int AskInMessageBox(HWND owner, const std::wstring& text, const std::wstring& caption,
                     UINT buttons) {
   return MessageBoxW(owner, text.c_str(), caption.c_str(), buttons);
+}
+
+std::unique_ptr<CategorySource> OpenPimCategories(const std::wstring& iconsFolder) {
+  return std::make_unique<PimCategorySource>(iconsFolder);
 }
 
 // True when the program has a window now and goes on.
@@ -51,7 +56,7 @@ int RunMessageLoop(HINSTANCE instance) {
 int Run(HINSTANCE instance, std::wstring_view commandLine, int showCommand) {
   InstallDeviceShell();
   WindowsMachine machine;
-  MainWindow window(instance, machine.Door(), CreatePage, AskInMessageBox);
+  MainWindow window(instance, machine.Door(), {CreatePage, OpenPimCategories, AskInMessageBox});
   if (!StartInstance(window, StartModeOf(commandLine), showCommand)) return 0;
   return RunMessageLoop(instance);
 }

@@ -28,11 +28,11 @@ HMODULE ModuleOf(const ResourceLibrary* library) {
 
 }  // namespace
 
-MainWindow::MainWindow(HINSTANCE instance, const Machine& machine, PageFactory createPage, Ask ask)
+MainWindow::MainWindow(HINSTANCE instance, const Machine& machine, MainWindowParts parts)
     : instance_(instance),
       machine_(machine),
-      createPage_(std::move(createPage)),
-      ask_(std::move(ask)) {}
+      parts_(std::move(parts)),
+      categories_(machine, settings_) {}
 
 MainWindow::~MainWindow() {
   if (window_) DestroyWindow(window_);
@@ -118,7 +118,7 @@ LRESULT MainWindow::OnCreate() {
   LoadPictures();
   // The preview's icons belong here: after the pictures, before the fonts.
   CreateFonts();
-  // The PIM's categories belong here: after the settings, before the list.
+  LoadCategories();
   ShowMainEntries();
   return 0;
 }
@@ -150,6 +150,11 @@ void MainWindow::CreateFonts() {
   bold_ = TahomaFont(scale_.ScaleX(12), FW_BOLD);
   list_.Create(window_, scale_, regular_.Get(), bold_.Get(),
                [this](int command) { RunListCommand(command); });
+}
+
+void MainWindow::LoadCategories() {
+  const auto source = parts_.openCategories(settings_.root.TWIconsFolder.Value());
+  categories_.Rebuild(*source, TextOf(language_.get(), IDS_ALL_CATEGORIES));
 }
 
 void MainWindow::ShowEntries(std::span<const MainEntry> entries) {
@@ -216,9 +221,11 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
-  pageContext_.emplace(
-      PageContext{machine_, settings_, language_.get(), scale_, {}, &pageDialogs_});
-  page_ = createPage_(page, window_, *pageContext_);
+  std::vector<std::wstring> categoryNames;
+  for (const auto& category : categories_.Categories()) categoryNames.push_back(category->name);
+  pageContext_.emplace(PageContext{machine_, settings_, language_.get(), scale_,
+                                   std::move(categoryNames), &pageDialogs_});
+  page_ = parts_.createPage(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());
   } else {
@@ -241,8 +248,8 @@ void MainWindow::Done() {
     return;
   }
   settings_.Save(machine_.registry, scale_);
-  // The categories' values and then the filters file belong here: saved before the message tells
-  // of them.
+  categories_.SaveCategoryValues();
+  categories_.SaveFiltersFile();
   BroadcastSettingsChanged();
   DestroyWindow(window_);
 }
@@ -250,7 +257,7 @@ void MainWindow::Done() {
 void MainWindow::AskToExit() {
   const std::wstring question = TextOf(language_.get(), IDS_EXIT_QUESTION);
   const std::wstring caption = TextOf(language_.get(), IDS_EXIT_CAPTION);
-  if (ask_(window_, question, caption, MB_YESNO) == IDYES) DestroyWindow(window_);
+  if (parts_.ask(window_, question, caption, MB_YESNO) == IDYES) DestroyWindow(window_);
 }
 
 LRESULT MainWindow::OnSize(int width, int height) {

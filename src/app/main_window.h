@@ -13,6 +13,7 @@
 #include <string>
 
 #include "app/main_entries.h"
+#include "categories/category_catalog.h"
 #include "pages/page_dialogs.h"
 #include "pages/settings_page.h"
 #include "platform/desktop/imaging.h"
@@ -26,13 +27,23 @@
 
 namespace tidewell {
 
+// MessageBoxW, or a test's answer in its place.
+using Ask = std::function<int(HWND owner, const std::wstring& text, const std::wstring& caption,
+                              UINT buttons)>;
+// Opens the device's categories, whose icons lie in a folder. Closed when destroyed.
+using CategorySourceFactory =
+    std::function<std::unique_ptr<CategorySource>(const std::wstring& iconsFolder)>;
+
+// What the main window works with beside the machine.
+struct MainWindowParts {
+  PageFactory createPage;
+  CategorySourceFactory openCategories;
+  Ask ask;
+};
+
 class MainWindow {
  public:
-  // MessageBoxW, or a test's answer in its place.
-  using Ask = std::function<int(HWND owner, const std::wstring& text, const std::wstring& caption,
-                                UINT buttons)>;
-
-  MainWindow(HINSTANCE instance, const Machine& machine, PageFactory createPage, Ask ask);
+  MainWindow(HINSTANCE instance, const Machine& machine, MainWindowParts parts);
   MainWindow(const MainWindow&) = delete;
   MainWindow& operator=(const MainWindow&) = delete;
   ~MainWindow();
@@ -45,6 +56,7 @@ class MainWindow {
   const CommandList& List() const { return list_; }
   const CommandBar& Bar() const { return commandBar_; }
   SettingsStore& Settings() { return settings_; }
+  CategoryCatalog& Categories() { return categories_; }
 
  private:
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -63,6 +75,7 @@ class MainWindow {
   void FixScale();
   void LoadPictures();
   void CreateFonts();
+  void LoadCategories();
   void ShowEntries(std::span<const MainEntry> entries);
   void ShowMainEntries();
   void ShowTools();
@@ -79,12 +92,12 @@ class MainWindow {
 
   HINSTANCE instance_;
   Machine machine_;
-  PageFactory createPage_;
-  Ask ask_;
+  MainWindowParts parts_;
   HWND window_ = nullptr;
   SHACTIVATEINFO activation_{};
   ScreenScale scale_;
   SettingsStore settings_;
+  CategoryCatalog categories_;
   std::optional<Imaging> imaging_;
   std::unique_ptr<ResourceLibrary> language_;
   std::unique_ptr<ResourceLibrary> pictures_;

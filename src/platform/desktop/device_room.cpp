@@ -47,9 +47,15 @@ bool IsDeviceScreen(const RECT& workArea) {
 }
 
 RECT DeviceRoom(const RECT& workArea, bool turned) {
-  if (IsDeviceScreen(workArea)) return workArea;
-  return Joined(Centred(Across(workArea), turned ? kLongSide : kShortSide),
-                Centred(Down(workArea), turned ? kShortSide : kLongSide));
+  const LONG width = Across(workArea).Length();
+  const LONG height = Down(workArea).Length();
+  SIZE size{turned ? kLongSide : kShortSide, turned ? kShortSide : kLongSide};
+  if (IsDeviceScreen(workArea)) {
+    size = {width, height};
+    if (turned && width < height) size.cy = width * width / height;
+    if (turned && width > height) size.cx = height * height / width;
+  }
+  return Joined(Centred(Across(workArea), size.cx), Centred(Down(workArea), size.cy));
 }
 
 RECT PlaceInNewRoom(const RECT& window, const RECT& oldRoom, const RECT& newRoom) {

@@ -5,12 +5,13 @@
 
 namespace tidewell {
 
-// The device's screen within a desktop's work area: all of it where the desktop is no larger than
-// a device's screen, else a 480x640 room in its middle, 640x480 when `turned`.
-RECT DeviceRoom(const RECT& workArea, bool turned);
-
-// True when a desktop of this work area is a device's screen, so that turning is the screen's own.
+// True when a desktop of this work area is no larger than a device's screen.
 bool IsDeviceScreen(const RECT& workArea);
+
+// The device's screen within a desktop's work area: a device screen is all of it, a larger desktop
+// has a room of 480x640 in its middle. When `turned`, the room is 640x480, and on a device screen,
+// which has no space for that, the largest one of the turned proportions.
+RECT DeviceRoom(const RECT& workArea, bool turned);
 
 // A window of the old room as it lies in the new one: one that spans most of the room keeps its
 // distance from both edges, any other keeps its size and stays inside.

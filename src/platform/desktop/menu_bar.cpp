@@ -60,6 +60,7 @@ std::span<const ButtonRecord> FindButtons(HINSTANCE module, UINT id, UINT& menuI
 MenuBar::MenuBar(const SHMENUBARINFO& info)
     : parent_(info.hwndParent), hidden_((info.dwFlags & SHCMBF_HIDDEN) != 0) {
   WNDCLASSW windowClass{};
+  windowClass.style = CS_HREDRAW | CS_VREDRAW;
   windowClass.lpfnWndProc = WindowProc;
   windowClass.hInstance = GetModuleHandleW(nullptr);
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);

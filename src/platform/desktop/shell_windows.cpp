@@ -17,10 +17,22 @@ namespace {
 constexpr UINT_PTR kSubclassId = 1;
 constexpr LPARAM kKeyIsUp = LPARAM{1} << 31;
 
+// Of the main screen. Not from SystemParametersInfo, which may still know a screen's former size.
 RECT WorkArea() {
-  RECT area{};
-  SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-  return area;
+  MONITORINFO screen{};
+  screen.cbSize = sizeof screen;
+  GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &screen);
+  return screen.rcWork;
+}
+
+// False where the system knows no screen of the turned size.
+bool TurnRealScreen() {
+  DEVMODEW mode{};
+  mode.dmSize = sizeof mode;
+  mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
+  mode.dmPelsWidth = static_cast<DWORD>(GetSystemMetrics(SM_CYSCREEN));
+  mode.dmPelsHeight = static_cast<DWORD>(GetSystemMetrics(SM_CXSCREEN));
+  return ChangeDisplaySettingsW(&mode, 0) == DISP_CHANGE_SUCCESSFUL;
 }
 
 int StripHeight() {
@@ -35,6 +47,18 @@ void RemoveFrame(HWND window) {
 void MoveTo(HWND window, const RECT& place, UINT flags) {
   SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | flags);
+}
+
+// The topmost window above `window` that belongs to it and can be used; null for none.
+HWND TopPopupOf(HWND window) {
+  HWND above = GetTopWindow(nullptr);
+  while (above && above != window) {
+    const bool usable = IsWindowVisible(above) && IsWindowEnabled(above) &&
+                        !(GetWindowLongPtrW(above, GWL_EXSTYLE) & WS_EX_NOACTIVATE);
+    if (usable && GetAncestor(above, GA_ROOTOWNER) == window) return above;
+    above = GetWindow(above, GW_HWNDNEXT);
+  }
+  return nullptr;
 }
 
 bool HasShellCaption(const CREATESTRUCTW& created) {
@@ -215,17 +239,8 @@ RECT ShellWindows::Client() const {
 }
 
 void ShellWindows::Turn() {
-  const RECT area = WorkArea();
-  if (IsDeviceScreen(area)) {
-    DEVMODEW mode{};
-    mode.dmSize = sizeof mode;
-    mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
-    mode.dmPelsWidth = static_cast<DWORD>(GetSystemMetrics(SM_CYSCREEN));
-    mode.dmPelsHeight = static_cast<DWORD>(GetSystemMetrics(SM_CXSCREEN));
-    ChangeDisplaySettingsW(&mode, 0);
-  } else {
-    turned_ = !turned_;
-  }
+  const bool turnScreen = !turned_ && IsDeviceScreen(WorkArea());
+  if (!turnScreen || !TurnRealScreen()) turned_ = !turned_;
   OnScreenChanged();
 }
 
@@ -247,11 +262,8 @@ void ShellWindows::OnScreenChanged() {
 // A device brings a window's pop-ups forward with it; a desktop would leave the window active
 // below them.
 void ShellWindows::ActivatePopup(HWND window) {
-  const HWND popup = GetLastActivePopup(window);
-  if (popup != window && GetActiveWindow() == window && IsWindowVisible(popup) &&
-      IsWindowEnabled(popup)) {
-    SetActiveWindow(popup);
-  }
+  if (GetActiveWindow() != window) return;
+  if (const HWND popup = TopPopupOf(window)) SetActiveWindow(popup);
 }
 
 }  // namespace tidewell

@@ -28,6 +28,7 @@ std::wstring CaptionOf(HWND window) {
 
 TitleStrip::TitleStrip(HWND owner, TitleButton button) : owner_(owner), button_(button) {
   WNDCLASSW windowClass{};
+  windowClass.style = CS_HREDRAW | CS_VREDRAW;
   windowClass.lpfnWndProc = WindowProc;
   windowClass.hInstance = GetModuleHandleW(nullptr);
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);

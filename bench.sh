@@ -1,0 +1,41 @@
+#!/bin/bash
+# Measures every figure that the project promises and prints one table: the median, its quartiles,
+# its aim, and what stands behind it. Ratios are to a floor or a peer measured in turns in the same
+# run; times alone say more about the machine than about the program. Let nothing else run.
+
+. "$(dirname "$0")/scripts/common.sh"
+. "$root/scripts/device.sh"
+
+# Each program prints its own lines: SCREEN PROGRAM.
+programs=(
+  "vga start_bench"
+  "vga store_bench"
+  "qvga list_bench"
+  "vga list_bench"
+)
+
+print_size() {
+  local stripped=$build/bench/TidewellSettings.exe size
+  mkdir -p "$build/bench"
+  x86_64-w64-mingw32-strip -o "$stripped" \
+    "$build/windows/device/Program Files/Velmont/Tidewell/TidewellSettings.exe"
+  size=$(stat -c %s "$stripped")
+  printf '%-52s %8.2f%-4s %-16s %-8s\n' "size of the stripped program" \
+    "$(awk "BEGIN { print $size / 1000 }")" " kB" "" "700 kB"
+}
+
+need_packages "${program_packages[@]}" googletest
+say "Building the programs"
+build_preset windows || exit
+forget_device bench
+use_device bench
+install_program
+
+printf '\n%-52s %8s%-4s %-16s %-8s %s\n' "" median "" "from to" aim "behind it"
+for words in "${programs[@]}"; do
+  read -r wanted program <<<"$words"
+  use_screen "$wanted"
+  use_virtual_display
+  on_screen "Z:$build/windows/bench/$program.exe" | tr -d '\r'
+done
+print_size

@@ -1,0 +1,223 @@
+#include "app/main_window.h"
+
+#include "app/resource.h"
+#include "program_fixture.h"
+
+namespace tidewell {
+
+namespace {
+
+TEST_F(ProgramTest, ListsTheGroupsInOrder) {
+  Start();
+  const struct {
+    int command;
+    const wchar_t* caption;
+  } expected[] = {{0, L"text 617"},       {1, L"text 618"},  {2, L"text 619"},  {3, L"text 1259"},
+                  {4, L"text 1432"},      {5, L"text 1260"}, {6, L"text 620"},  {7, L"text 621"},
+                  {8, L"text 622"},       {9, L"text 624"},  {10, L"text 625"}, {11, L"text 626"},
+                  {12, L"About Tidewell"}};
+  const auto& entries = program->List().Entries();
+  ASSERT_EQ(entries.size(), std::size(expected));
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    EXPECT_EQ(entries[i].command, expected[i].command);
+    EXPECT_EQ(entries[i].caption, expected[i].caption);
+  }
+  EXPECT_EQ(program->List().Selected(), 0u);
+  EXPECT_EQ(program->Bar().Command(CommandBar::kLeftSlot), 0);
+  EXPECT_EQ(program->Bar().Command(CommandBar::kRightSlot), 1);
+}
+
+TEST_F(ProgramTest, IsFoundByItsClassAndCaptionAndHasADevicesStyle) {
+  Start();
+  EXPECT_EQ(FindWindowW(L"TW_OPTIONS", L"TW Options"), Window());
+  EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(Window(), GWL_STYLE)), 0x14000800u);
+  EXPECT_NE(static_cast<DWORD>(GetWindowLongW(Window(), GWL_EXSTYLE)) & 0x80000000u, 0u);
+}
+
+TEST_F(ProgramTest, WithoutLibrariesTheListStillWorks) {
+  SetDword(L"MyVgaMode", 0);
+  device.libraries = MemoryLibraries();
+  Start();
+  EXPECT_EQ(program->List().Entries()[0].caption, L"");
+  EXPECT_EQ(program->List().Entries()[12].caption, L"About Tidewell");
+  TapBar(true);
+  EXPECT_EQ(Commands(), (std::vector{21, 22, 23}));
+  answer = IDYES;
+  RunRow(2);
+  EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(ProgramTest, TheListFillsTheWindowAboveTheBar) {
+  for (const std::uint32_t vgaMode : {0u, 1u}) {
+    SetDword(L"MyVgaMode", vgaMode);
+    Start();
+    const auto height = [&] {
+      return ClientRect(Window()).bottom -
+             const_cast<CommandList&>(program->List()).Pointer().Scroller().View().height;
+    };
+    EXPECT_EQ(height(), vgaMode ? 80 : 40);
+    EXPECT_EQ(SendMessageW(Window(), WM_SIZE, 0, MAKELPARAM(200, 180)), 1);
+    MoveWindow(Window(), 0, 60, 220, 190, TRUE);
+    EXPECT_EQ(height(), vgaMode ? 80 : 40);
+    program.reset();
+    PumpMessages();
+  }
+}
+
+TEST_F(ProgramTest, ToolsComeAndGoByTheBar) {
+  Start();
+  TapBar(true);
+  const auto& entries = program->List().Entries();
+  ASSERT_EQ(Commands(), (std::vector{21, 22, 23}));
+  EXPECT_EQ(entries[0].caption, L"Export Settings");
+  EXPECT_EQ(entries[1].caption, L"Import Settings");
+  EXPECT_EQ(entries[2].caption, L"Exit Settings");
+  EXPECT_EQ(program->Bar().Command(CommandBar::kLeftSlot), std::nullopt);
+  EXPECT_EQ(program->Bar().Command(CommandBar::kRightSlot), 2);
+  TapBar(false);
+  ASSERT_TRUE(IsOpen()) << "the left button is gone";
+  TapBar(true);
+  EXPECT_EQ(Commands().size(), 13u);
+}
+
+TEST_F(ProgramTest, TheSoftKeysPressTheBar) {
+  Start();
+  SendMessageW(Window(), WM_COMMAND, ID_RIGHT_BUTTON, 0);
+  EXPECT_EQ(Commands().size(), 3u);
+  SendMessageW(Window(), WM_COMMAND, ID_LEFT_BUTTON, 0);
+  ASSERT_TRUE(IsOpen());
+  SendMessageW(Window(), WM_COMMAND, ID_RIGHT_BUTTON, 0);
+  SendMessageW(Window(), WM_COMMAND, ID_LEFT_BUTTON, 0);
+  EXPECT_FALSE(IsOpen());
+}
+
+// The broadcast, as a listening window meets it.
+class DoneTest : public ProgramTest {
+ protected:
+  DoneTest() {
+    listener.onMessage = [this](const TestWindow::Message& message) {
+      if (message.id != changed) return;
+      heard.emplace_back(message.wParam, message.lParam);
+      savedWhenHeard = HasValue(L"OnClick");
+    };
+  }
+
+  TestWindow listener{WS_POPUP, 0};
+  const UINT changed = RegisterWindowMessageW(L"VelmontTidewellSettingsChanged");
+  std::vector<std::pair<WPARAM, LPARAM>> heard;
+  bool savedWhenHeard = false;
+};
+
+TEST_F(DoneTest, SavesTellsTheItemAndEnds) {
+  const auto done = [](ProgramTest&, HWND window) { SendMessageW(window, WM_COMMAND, IDOK, 0); };
+  const auto tap = [](ProgramTest&, HWND window) {
+    Tap(window, {5, ClientRect(window).bottom - 5});
+  };
+  for (const auto& way : {std::function<void(ProgramTest&, HWND)>(done),
+                          std::function<void(ProgramTest&, HWND)>(tap)}) {
+    heard.clear();
+    Start();
+    program->Settings().root.OnClick.Set(program->Settings().root.OnClick.Value() + 1);
+    way(*this, Window());
+    EXPECT_FALSE(IsOpen());
+    PumpMessages();
+    EXPECT_EQ(heard, (std::vector<std::pair<WPARAM, LPARAM>>{{0, 0}}));
+    EXPECT_TRUE(savedWhenHeard);
+  }
+}
+
+TEST_F(DoneTest, KeepsTheCategoriesAndTheFiltersFile) {
+  constexpr wchar_t kFiltersFile[] = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
+  categories = {{L"Work", 1, false}, {L"Home", 2, false}};
+  device.files.Put(kFiltersFile, "an older one");
+  Start();
+  program->Categories().FindCategory(L"Work")->color = 0x0000FF;
+  SendMessageW(Window(), WM_COMMAND, IDOK, 0);
+  EXPECT_TRUE(HasValue(L"CatColor.Work", L"\\Categories"));
+  EXPECT_FALSE(HasValue(L"CatColor.Home", L"\\Categories"));
+  EXPECT_GT(device.files.Contents(kFiltersFile)->size(), 1000u);
+}
+
+TEST_F(DoneTest, WritesNothingWhenNothingWasChanged) {
+  Start();
+  registry.Meter().Reset();
+  SendMessageW(Window(), WM_COMMAND, IDOK, 0);
+  EXPECT_EQ(registry.CountWrites(), 0);
+}
+
+TEST_F(DoneTest, ExitAsksAndYesLeavesWithoutSaving) {
+  Start();
+  program->Settings().root.OnClick.Set(1);
+  registry.Meter().Reset();
+  TapBar(true);
+  RunRow(2);
+  EXPECT_EQ(asked, std::vector<std::wstring>{L"text 613|text 614|4"});
+  ASSERT_TRUE(IsOpen());
+  EXPECT_EQ(Commands(), (std::vector{21, 22, 23})) << "No keeps the tools";
+  answer = IDYES;
+  RunRow(2);
+  EXPECT_FALSE(IsOpen());
+  PumpMessages();
+  EXPECT_EQ(registry.CountWrites(), 0);
+  EXPECT_TRUE(heard.empty());
+}
+
+TEST_F(DoneTest, ADragThatEndsOverTheBarIsNoTapOnIt) {
+  Start();
+  const LONG bottom = ClientRect(Window()).bottom;
+  PostMessageW(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 100));
+  PostMessageW(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, bottom - 5));
+  PostMessageW(Window(), WM_LBUTTONUP, 0, MAKELPARAM(5, bottom - 5));
+  PumpMessages();
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(ProgramTest, AGroupWithoutAPageLeavesTheListAsItIs) {
+  Start();
+  RunRow(3);
+  EXPECT_EQ(pagesAsked, std::vector{3});
+  EXPECT_EQ(CaptionOf(Window()), L"TW Options");
+  EXPECT_EQ(Commands().size(), 13u);
+}
+
+TEST_F(ProgramTest, EachGroupOpensItsPage) {
+  hasPages = true;
+  Start();
+  for (int row = 0; row < 12; ++row) {
+    SelectRow(row);
+    PressKey(Window(), VK_RETURN);
+    ASSERT_EQ(pagesAsked.back(), row);
+    EXPECT_EQ(captionsSeen.back(), L"") << "the host's caption is empty before the page is made";
+    EXPECT_EQ(CaptionOf(Window()), L"");
+    const HWND page = pageWindow;
+    SendMessageW(Window(), kClosePageMessage, 0, 0);
+    EXPECT_FALSE(IsWindow(page));
+    EXPECT_EQ(pagesDestroyed, row + 1);
+    EXPECT_EQ(CaptionOf(Window()), L"TW Options");
+  }
+}
+
+TEST_F(DoneTest, DoneClosesAPageFirst) {
+  hasPages = true;
+  Start();
+  RunRow(0);
+  SendMessageW(Window(), WM_COMMAND, IDOK, 0);
+  ASSERT_TRUE(IsOpen());
+  EXPECT_EQ(pagesDestroyed, 1);
+  SendMessageW(Window(), WM_COMMAND, IDOK, 0);
+  EXPECT_FALSE(IsOpen());
+  PumpMessages();
+  EXPECT_EQ(heard.size(), 1u);
+}
+
+TEST_F(ProgramTest, APageStillOpenGoesWithTheWindow) {
+  hasPages = true;
+  Start();
+  RunRow(0);
+  DestroyWindow(Window());
+  EXPECT_EQ(pagesDestroyed, 1);
+}
+
+}  // namespace
+
+}  // namespace tidewell

@@ -1,0 +1,127 @@
+// The program's main window on a machine in memory, driven by messages.
+#pragma once
+
+#include <aygshell.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/main_window.h"
+#include "platform/memory/memory_machine.h"
+#include "platform/memory/metered_registry.h"
+#include "tests/support/catalog_support.h"
+#include "tests/support/window_support.h"
+
+namespace tidewell {
+
+inline constexpr wchar_t kRootKey[] = L"Software\\Velmont\\Tidewell";
+inline constexpr wchar_t kEnglishLibrary[] =
+    L"\\Program Files\\Velmont\\Tidewell\\LangRes\\TWEngRc.dll";
+
+class ProgramTest : public testing::Test {
+ protected:
+  ProgramTest() {
+    MemoryLibraries::Texts texts;
+    for (const std::uint32_t id :
+         {613, 614, 617, 618, 619, 620, 621, 622, 624, 625, 626, 1259, 1260, 1432}) {
+      texts[id] = L"text " + std::to_wstring(id);
+    }
+    device.libraries.Put(kEnglishLibrary, std::move(texts));
+  }
+  // What a test leaves of the end of the loop must not end the next one.
+  ~ProgramTest() override {
+    program.reset();
+    PumpMessages();
+  }
+
+  void Start() {
+    program = std::make_unique<MainWindow>(
+        GetModuleHandleW(nullptr),
+        Machine{registry, device.files, device.locale, device.libraries, device.system}, Parts());
+    ASSERT_TRUE(program->Create());
+    PumpMessages();
+  }
+
+  MainWindowParts Parts() {
+    return {
+        [this](int page, HWND host, PageContext& context) { return MakePage(page, host, context); },
+        [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
+        [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
+          asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
+          return answer;
+        }};
+  }
+
+  void SetDword(const std::wstring& name, std::uint32_t value) {
+    const auto key = device.registry.Create(RegistryRoot::kCurrentUser, kRootKey);
+    key->Set(name, kTypeDword, std::as_bytes(std::span(&value, 1)));
+  }
+  bool HasValue(const std::wstring& name, const wchar_t* subkey = L"") {
+    ValueInfo info;
+    const auto key =
+        device.registry.Open(RegistryRoot::kCurrentUser, std::wstring(kRootKey) + subkey);
+    return key && key->Query(name, {}, info) == kStatusSuccess;
+  }
+
+  HWND Window() const { return program->Window(); }
+  bool IsOpen() const { return program->Window() != nullptr; }
+  void TapBar(bool right) {
+    const RECT client = ClientRect(Window());
+    Tap(Window(), {right ? client.right - 5 : 5, client.bottom - 5});
+  }
+  void SelectRow(int row) {
+    for (int i = 0; i < 13; ++i) PressKey(Window(), VK_UP);
+    for (int i = 0; i < row; ++i) PressKey(Window(), VK_DOWN);
+  }
+  void RunRow(int row) {
+    SelectRow(row);
+    PressKey(Window(), VK_RETURN);
+  }
+  std::vector<int> Commands() const {
+    std::vector<int> commands;
+    for (const auto& entry : program->List().Entries()) commands.push_back(entry.command);
+    return commands;
+  }
+
+  // A page without tabs or controls; none unless a test wants pages.
+  class Page final : public SettingsPage {
+   public:
+    Page(PageContext& context, int& destroyed) : SettingsPage(context), destroyed_(destroyed) {}
+    ~Page() override { ++destroyed_; }
+
+   private:
+    int GetTabCount() const override { return 0; }
+    int GetTabTitleId(int) const override { return 0; }
+    void OnCreate(HWND) override {}
+    void ShowTab(HWND, int) override {}
+    void OnDestroy(HWND) override {}
+
+    int& destroyed_;
+  };
+
+  std::unique_ptr<SettingsPage> MakePage(int page, HWND host, PageContext& context) {
+    pagesAsked.push_back(page);
+    captionsSeen.push_back(CaptionOf(host));
+    if (!hasPages) return nullptr;
+    auto made = std::make_unique<Page>(context, pagesDestroyed);
+    EXPECT_TRUE(made->Create(host, L"BarePageWin", L""));
+    pageWindow = made->Window();
+    return made;
+  }
+
+  MemoryMachine device;
+  MeteredRegistry registry{device.registry};
+  std::unique_ptr<MainWindow> program;
+  std::vector<PimCategory> categories;
+  std::vector<std::wstring> asked;
+  int answer = IDNO;
+  bool hasPages = false;
+  std::vector<int> pagesAsked;
+  std::vector<std::wstring> captionsSeen;
+  int pagesDestroyed = 0;
+  HWND pageWindow = nullptr;
+};
+
+}  // namespace tidewell

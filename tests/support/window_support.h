@@ -1,0 +1,84 @@
+// Helpers for tests with real windows: messages are pumped by hand, fingers are posted.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tidewell {
+
+// Dispatches every waiting message of this thread. True when one of them was the end of the
+// program's loop.
+bool PumpMessages();
+
+// The window of a class that this thread shows, or null.
+HWND FindOwnWindow(const wchar_t* className);
+// A window's strip of a class, such as its title strip; null where it has none.
+HWND FindStrip(HWND owner, const wchar_t* className);
+
+void Tap(HWND window, POINT point);
+void PressKey(HWND window, WPARAM key);
+
+RECT WindowRect(HWND window);
+RECT ClientRect(HWND window);
+std::wstring CaptionOf(HWND window);
+
+// What the window shows, row by row from the top, as the screen has it.
+class Screenshot {
+ public:
+  explicit Screenshot(HWND window);
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+  COLORREF At(int x, int y) const;
+  // The first row from `top` on that is not of one colour; the height where there is none.
+  int FirstDrawnRow(int top) const;
+
+ private:
+  int width_;
+  int height_;
+  std::vector<DWORD> pixels_;
+};
+
+// A plain window of a test's own that keeps the messages it was sent or posted.
+class TestWindow {
+ public:
+  struct Message {
+    UINT id;
+    WPARAM wParam;
+    LPARAM lParam;
+  };
+
+  TestWindow(DWORD style, DWORD extendedStyle, const RECT& place = {0, 0, 100, 100},
+             HWND owner = nullptr);
+  TestWindow(const TestWindow&) = delete;
+  TestWindow& operator=(const TestWindow&) = delete;
+  ~TestWindow();
+
+  HWND Get() const { return window_; }
+  int Count(UINT id) const;
+  std::vector<Message> messages;
+  // Called for every message before the system's own answer.
+  std::function<void(const Message&)> onMessage = [](const Message&) {};
+
+ private:
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  HWND window_;
+};
+
+// Runs an action inside the next modal loop of this thread.
+class InModalLoop {
+ public:
+  explicit InModalLoop(std::function<void()> action);
+  InModalLoop(const InModalLoop&) = delete;
+  InModalLoop& operator=(const InModalLoop&) = delete;
+  ~InModalLoop();
+
+ private:
+  static void CALLBACK OnTimer(HWND, UINT, UINT_PTR id, DWORD);
+  UINT_PTR timer_;
+};
+
+}  // namespace tidewell
