@@ -55,8 +55,12 @@ std::uint32_t ReadDword(RegistryKey* key, const std::wstring& name, std::uint32_
 bool ReadString(RegistryKey* key, const std::wstring& name, const std::wstring& defaultText,
                 std::wstring& text) {
   std::optional<std::wstring> found = FindString(key, name);
-  text = found ? *std::move(found) : defaultText;
-  return found.has_value();
+  if (!found) {
+    text = defaultText;
+    return false;
+  }
+  text = *std::move(found);
+  return true;
 }
 
 void WriteDword(RegistryKey* key, const std::wstring& name, std::uint32_t value) {

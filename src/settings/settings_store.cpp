@@ -46,6 +46,9 @@ bool IsPermutation(std::span<DwordSetting* const> settings) {
 
 }  // namespace
 
+SettingsStore::SettingsStore() = default;
+SettingsStore::~SettingsStore() = default;
+
 std::array<SettingGroup*, 15> SettingsStore::Groups() {
   return {&today, &pocketInformant, &agendaFusion, &root,        &calendar,
           &tasks, &notes,           &contacts,     &messages,    &specialEvents,

@@ -29,6 +29,12 @@ namespace tidewell {
 
 class SettingsStore {
  public:
+  // Out of line: the catalogue's many members are constructed in one place.
+  SettingsStore();
+  ~SettingsStore();
+  SettingsStore(const SettingsStore&) = delete;
+  SettingsStore& operator=(const SettingsStore&) = delete;
+
   // Reads everything anew, repairs what cannot be, and replaces the language library by the chosen
   // one, else by the English one; null when neither loads. What cannot be read is its default.
   void Load(Machine& machine, const ScreenScale& scale, std::unique_ptr<ResourceLibrary>& language);

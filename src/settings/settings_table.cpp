@@ -168,7 +168,7 @@ class TableWriter final : public SettingVisitor {
 }  // namespace
 
 std::wstring DescribeDefault(const DwordDefault& rule) {
-  const std::wstring number = FormatDecimal(static_cast<std::int32_t>(rule.number));
+  std::wstring number = FormatDecimal(static_cast<std::int32_t>(rule.number));
   switch (rule.rule) {
     case DwordDefault::Rule::kScaledX:
       return L"ScaleX(" + number + L")";

@@ -87,44 +87,20 @@ TEST_P(SettingTest, ATextIsItsBytesUpToTheFirstZeroWhateverTheirType) {
   }
 }
 
-TEST_P(SettingTest, SavingAnUnchangedSettingWritesNothingThoughTheRegistryDiffers) {
+TEST_P(SettingTest, ASaveWritesChangesAloneAndDeletesWhatIsTheDefaultAgain) {
   DwordSetting number(kKey, L"Number", 1);
-  StringSetting text(kKey, L"Text", L"a");
+  StringSetting text(kKey, L"Text", L"Tahoma");
   Loaded(number);
   Loaded(text);
   Put(kKey, L"Number", 5);
-  Put(kKey, L"Text", L"other");
-  for (Setting* setting : {static_cast<Setting*>(&number), static_cast<Setting*>(&text)}) {
-    SaveCounted(*setting);
-    EXPECT_EQ(metered.CountWrites(), 0);
-  }
-  EXPECT_EQ(Stored(kKey, L"Number"), 5u);
-}
-
-TEST_P(SettingTest, EverySetCountsAsAChangeAndOutlivesTheSave) {
-  DwordSetting number(kKey, L"Number", 1);
-  EXPECT_FALSE(Loaded(number).IsChanged());
-  EXPECT_EQ(number.Set(1), 1u) << "the previous value";
-  EXPECT_TRUE(number.IsChanged()) << "though it is the same";
-  EXPECT_EQ(number.Set(9), 1u);
-
-  for (int save = 1; save <= 2; ++save) {
-    SaveCounted(number);
-    EXPECT_EQ(Sets(), 1) << "save " << save;
-    EXPECT_TRUE(number.IsChanged());
-  }
-  EXPECT_FALSE(Loaded(number).IsChanged());
-  EXPECT_EQ(number.Value(), 9u);
-}
-
-TEST_P(SettingTest, AValueSetToItsDefaultIsDeleted) {
-  DwordSetting number(kKey, L"Number", 1);
-  StringSetting text(kKey, L"Text", L"Tahoma");
-  Put(kKey, L"Number", 5);
   Put(kKey, L"Text", L"Courier");
+  SaveCounted(number);
+  SaveCounted(text);
+  EXPECT_EQ(metered.CountWrites(), 0) << "unchanged, though the registry differs";
+
   Loaded(number).Set(1);
   Loaded(text).Set(L"Tahoma");
-  for (Setting* setting : {static_cast<Setting*>(&number), static_cast<Setting*>(&text)}) {
+  for (Setting* setting : std::vector<Setting*>{&number, &text}) {
     SaveCounted(*setting);
     EXPECT_EQ(Deletes(), 1);
     EXPECT_EQ(Sets(), 0);
@@ -133,37 +109,36 @@ TEST_P(SettingTest, AValueSetToItsDefaultIsDeleted) {
   EXPECT_EQ(StoredText(kKey, L"Text"), std::nullopt);
 }
 
-TEST_P(SettingTest, ATextThatDiffersFromItsDefaultOnlyInLetterCaseIsWrittenWithItsTerminator) {
+TEST_P(SettingTest, EverySetCountsAsAChangeAndOutlivesTheSave) {
+  DwordSetting number(kKey, L"Number", 1);
+  EXPECT_FALSE(Loaded(number).IsChanged());
+  EXPECT_EQ(number.Set(1), 1u) << "the previous value";
+  EXPECT_TRUE(number.IsChanged()) << "though it is the same";
+  EXPECT_EQ(number.Set(9), 1u);
+  for (int save = 1; save <= 2; ++save) {
+    SaveCounted(number);
+    EXPECT_EQ(Sets(), 1) << "save " << save;
+    EXPECT_TRUE(number.IsChanged());
+  }
+  EXPECT_FALSE(Loaded(number).IsChanged());
+}
+
+TEST_P(SettingTest, NumbersAreWrittenAsFourBytesAndTextsWithTheirTerminator) {
+  DwordSetting number(kKey, L"Number", 1);
   StringSetting text(kKey, L"Text", L"Tahoma");
-  Loaded(text).Set(L"tahoma");
+  Loaded(number).Set(static_cast<std::uint32_t>(-2));
+  Loaded(text).Set(L"tahoma");  // not the default: letter case counts
+  SaveCounted(number);
   SaveCounted(text);
+  const FlushedKey key = KeyOf(kKey);
   std::array<std::byte, 64> bytes{};
   ValueInfo info;
-  ASSERT_EQ(KeyOf(kKey).Get()->Query(L"Text", bytes, info), kStatusSuccess);
-  EXPECT_EQ(info.type, kTypeString);
-  EXPECT_EQ(info.size, 14u);
-  EXPECT_EQ(TextOfBytes(std::span(bytes).first(14)), std::wstring(L"tahoma\0", 7));
-}
-
-TEST_P(SettingTest, ANumberIsWrittenAsFourBytes) {
-  DwordSetting number(kKey, L"Number", 1);
-  Loaded(number).Set(static_cast<std::uint32_t>(-2));
-  SaveCounted(number);
-  ValueInfo info;
-  ASSERT_EQ(KeyOf(kKey).Get()->Query(L"Number", {}, info), kStatusSuccess);
+  ASSERT_EQ(key.Get()->Query(L"Number", {}, info), kStatusSuccess);
   EXPECT_EQ(info.type, kTypeDword);
-  EXPECT_EQ(info.size, 4u);
   EXPECT_EQ(Stored(kKey, L"Number"), 0xFFFFFFFEu);
-}
-
-TEST_P(SettingTest, ReadOnlySettingsAreNeverSaved) {
-  DwordSetting number(kKey, L"Number", 1, kReadOnly);
-  StringSetting text(kKey, L"Text", L"", kReadOnly);
-  number.Set(4);
-  text.Set(L"x");
-  number.SaveAlone(metered);
-  text.SaveAlone(metered);
-  EXPECT_EQ(metered.CountWrites(), 0);
+  ASSERT_EQ(key.Get()->Query(L"Text", bytes, info), kStatusSuccess);
+  EXPECT_EQ(info.type, kTypeString);
+  EXPECT_EQ(TextOfBytes(std::span(bytes).first(info.size)), std::wstring(L"tahoma\0", 7));
 }
 
 TEST_P(SettingTest, FlagsAreTakenOnlyAsBinaryOfTheirExactSize) {

@@ -1,8 +1,11 @@
 // The theme's colours and the other calendar programs: what is read beside the settings.
 #include "settings/theme_colors.h"
 
+#include <numeric>
+
 #include "settings/calendar_programs.h"
 #include "tests/settings/store_fixture.h"
+#include "tests/support/registry_support.h"
 
 namespace tidewell {
 namespace {
@@ -11,19 +14,14 @@ constexpr std::uint32_t kDefault = 0x123456;
 
 class DeviceProbeTest : public StoreFixture {
  protected:
-  FlushedKey ColorKey() {
-    return FlushedKey(registry->Create(RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color"));
-  }
-  void PutColor(const std::wstring& name, std::vector<int> bytes) {
-    std::vector<std::byte> data;
-    for (const int byte : bytes) data.push_back(std::byte(byte));
-    ColorKey().Get()->Set(name, kTypeBinary, data);
+  void PutColor(const std::wstring& name, const std::vector<unsigned char>& bytes) {
+    SetBinary(*registry, RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color", name, bytes);
   }
   // A table whose bytes count up from 0.
   void PutTable(std::size_t size) {
-    std::vector<std::byte> table(size);
-    for (std::size_t i = 0; i < size; ++i) table[i] = std::byte(i & 0xFF);
-    ColorKey().Get()->Set(L"SHColor", kTypeBinary, table);
+    std::vector<unsigned char> table(size);
+    std::iota(table.begin(), table.end(), static_cast<unsigned char>(0));
+    PutColor(L"SHColor", table);
   }
   std::uint32_t Find(std::uint32_t index) {
     return ThemeColorLookup(*registry).Find(index, kDefault);
