@@ -221,10 +221,8 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
-  std::vector<std::wstring> categoryNames;
-  for (const auto& category : categories_.Categories()) categoryNames.push_back(category->name);
-  pageContext_.emplace(PageContext{machine_, settings_, language_.get(), scale_,
-                                   std::move(categoryNames), &pageDialogs_});
+  pageContext_.emplace(
+      PageContext{machine_, settings_, categories_, language_.get(), scale_, &pageDialogs_});
   page_ = parts_.createPage(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());

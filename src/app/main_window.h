@@ -14,8 +14,8 @@
 
 #include "app/main_entries.h"
 #include "categories/category_catalog.h"
+#include "pages/hosted_page.h"
 #include "pages/page_dialogs.h"
-#include "pages/settings_page.h"
 #include "platform/desktop/imaging.h"
 #include "platform/gdi.h"
 #include "platform/libraries.h"
@@ -107,7 +107,7 @@ class MainWindow {
   CommandBar commandBar_;
   DevicePageDialogs pageDialogs_;
   std::optional<PageContext> pageContext_;
-  std::unique_ptr<SettingsPage> page_;  // null while the list is shown
+  std::unique_ptr<HostedPage> page_;  // null while the list is shown
 };
 
 }  // namespace tidewell

@@ -24,7 +24,7 @@ std::unique_ptr<SettingsPage> MakePage(int index, PageContext& context) {
 
 }  // namespace
 
-std::unique_ptr<SettingsPage> CreatePage(int index, HWND host, PageContext& context) {
+std::unique_ptr<HostedPage> CreatePage(int index, HWND host, PageContext& context) {
   if (index < 0 || index >= kPageCount) return nullptr;
   std::unique_ptr<SettingsPage> page = MakePage(index, context);
   const PageEntry& entry = kPages[static_cast<std::size_t>(index)];

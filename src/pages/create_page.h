@@ -1,11 +1,11 @@
 // Makes the settings pages. Windows only.
 #pragma once
 
-#include "pages/settings_page.h"
+#include "pages/hosted_page.h"
 
 namespace tidewell {
 
 // The page of an index, open over its host's window; null for an index that has no page.
-std::unique_ptr<SettingsPage> CreatePage(int index, HWND host, PageContext& context);
+std::unique_ptr<HostedPage> CreatePage(int index, HWND host, PageContext& context);
 
 }  // namespace tidewell

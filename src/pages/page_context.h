@@ -1,9 +1,7 @@
 // What a settings page works on. The host puts it together; everything in it outlives the page.
 #pragma once
 
-#include <string>
-#include <vector>
-
+#include "categories/category_catalog.h"
 #include "platform/machine.h"
 #include "platform/scale.h"
 #include "settings/settings_store.h"
@@ -15,10 +13,10 @@ class PageDialogs;
 struct PageContext {
   Machine& machine;
   SettingsStore& settings;
+  CategoryCatalog& categories;
   const ResourceLibrary* language;  // null: every text is empty
   ScreenScale scale;
-  std::vector<std::wstring> categoryNames{};  // in the category list's order
-  PageDialogs* dialogs = nullptr;
+  PageDialogs* dialogs = nullptr;  // null: nothing is asked or told
 };
 
 }  // namespace tidewell

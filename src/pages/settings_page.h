@@ -7,21 +7,18 @@
 #include <aygshell.h>
 #include <commctrl.h>
 
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 #include <utility>
 
-#include "pages/page_context.h"
+#include "pages/hosted_page.h"
 #include "pages/page_controls.h"
 #include "pages/page_layout.h"
 #include "platform/gdi.h"
 
 namespace tidewell {
 
-// Closes the page that sends it to its host, without arguments.
-inline constexpr UINT kClosePageMessage = WM_USER + 1;
 // Sent to a page by the preview controls in it.
 inline constexpr UINT kPreviewMessage1 = 1788;
 inline constexpr UINT kPreviewMessage2 = 1789;
@@ -32,7 +29,7 @@ class PageExtra {
   virtual ~PageExtra() = default;
 };
 
-class SettingsPage : private ControlsOwner {
+class SettingsPage : public HostedPage, private ControlsOwner {
  public:
   explicit SettingsPage(PageContext& context);
   SettingsPage(const SettingsPage&) = delete;
@@ -41,8 +38,7 @@ class SettingsPage : private ControlsOwner {
 
   // Makes the window over its host's, fills and shows it. False when there is no window.
   bool Create(HWND host, const wchar_t* className, const std::wstring& caption);
-  // The page has written its controls into the settings when this window is gone.
-  HWND Window() const { return window_; }
+  HWND Window() const override { return window_; }
 
  protected:
   virtual int GetTabCount() const = 0;
@@ -154,9 +150,5 @@ class FontMeasure final : public TextMeasure {
   WindowDc dc_;
   Selected font_;
 };
-
-// Makes the page of an index over its host's window; null when there is no such page.
-using PageFactory =
-    std::function<std::unique_ptr<SettingsPage>(int page, HWND host, PageContext& context)>;
 
 }  // namespace tidewell

@@ -16,9 +16,9 @@ Choices DateFormats(Locale& locale) {
   return choices;
 }
 
-Choices Categories(const std::vector<std::wstring>& names) {
+Choices Categories(const CategoryCatalog& catalog) {
   Choices choices{IDS_NONE_SELECTED};
-  for (const std::wstring& name : names) choices.emplace_back(name);
+  for (const auto& category : catalog.Categories()) choices.emplace_back(category->name);
   return choices;
 }
 
@@ -31,7 +31,7 @@ constexpr int kThirtyDays = 1;
 
 PageTable SpecialEventsTable(PageContext& context) {
   SpecialEventsSettings& s = context.settings.specialEvents;
-  const Choices categories = Categories(context.categoryNames);
+  const Choices categories = Categories(context.categories);
   return {
       Tab(IDS_EVENTS_TAB_EVENTS, 1200, 1207,
           {

@@ -45,13 +45,12 @@ class ProgramTest : public testing::Test {
   }
 
   MainWindowParts Parts() {
-    return {
-        [this](int page, HWND host, PageContext& context) { return MakePage(page, host, context); },
-        [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
-        [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
-          asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
-          return answer;
-        }};
+    return {[this](int page, HWND host, PageContext&) { return MakePage(page, host); },
+            [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
+            [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
+              asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
+              return answer;
+            }};
   }
 
   void SetDword(const std::wstring& name, std::uint32_t value) {
@@ -85,28 +84,25 @@ class ProgramTest : public testing::Test {
     return commands;
   }
 
-  // A page without tabs or controls; none unless a test wants pages.
-  class Page final : public SettingsPage {
+  // A page is a bare window over its host; none unless a test wants pages.
+  class Page final : public HostedPage {
    public:
-    Page(PageContext& context, int& destroyed) : SettingsPage(context), destroyed_(destroyed) {}
+    Page(HWND host, int& destroyed)
+        : window_(0x90000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), WindowRect(host), host),
+          destroyed_(destroyed) {}
     ~Page() override { ++destroyed_; }
+    HWND Window() const override { return window_.Get(); }
 
    private:
-    int GetTabCount() const override { return 0; }
-    int GetTabTitleId(int) const override { return 0; }
-    void OnCreate(HWND) override {}
-    void ShowTab(HWND, int) override {}
-    void OnDestroy(HWND) override {}
-
+    TestWindow window_;
     int& destroyed_;
   };
 
-  std::unique_ptr<SettingsPage> MakePage(int page, HWND host, PageContext& context) {
+  std::unique_ptr<HostedPage> MakePage(int page, HWND host) {
     pagesAsked.push_back(page);
     captionsSeen.push_back(CaptionOf(host));
     if (!hasPages) return nullptr;
-    auto made = std::make_unique<Page>(context, pagesDestroyed);
-    EXPECT_TRUE(made->Create(host, L"BarePageWin", L""));
+    auto made = std::make_unique<Page>(host, pagesDestroyed);
     pageWindow = made->Window();
     return made;
   }

@@ -12,7 +12,10 @@ namespace tidewell {
 class PageFixture : public testing::Test {
  protected:
   // A VGA device, which has every row.
-  PageFixture() { machine.system.screen = {480, 640, 192, 192}; }
+  PageFixture() {
+    machine.system.screen = {480, 640, 192, 192};
+    for (const wchar_t* name : {L"Business", L"Family"}) categories.Add({name, 1});
+  }
   void Load() {
     store.Load(door, scale, language);
     context.language = language.get();
@@ -26,7 +29,8 @@ class PageFixture : public testing::Test {
   ScreenScale scale{192, 192, false};
   SettingsStore store;
   std::unique_ptr<ResourceLibrary> language;
-  PageContext context{door, store, nullptr, scale, {L"Business", L"Family"}};
+  CategoryCatalog categories{door, store};
+  PageContext context{door, store, categories, nullptr, scale};
 };
 
 // The row that has a control of that id.

@@ -54,8 +54,9 @@ void PageHost::Load() {
   door_.emplace(Machine{registry_, machine_.files, machine_.locale, *installed_, machine_.system});
   std::unique_ptr<ResourceLibrary> unused;
   store_.Load(*door_, scale, unused);
-  context_ = std::make_unique<PageContext>(PageContext{
-      *door_, store_, language_.get(), scale, {L"Business", L"Holiday", L"family"}, &dialogs_});
+  categories_.emplace(*door_, store_);
+  for (const wchar_t* name : {L"Business", L"Holiday", L"family"}) categories_->Add({name, 1});
+  context_.emplace(PageContext{*door_, store_, *categories_, language_.get(), scale, &dialogs_});
 }
 
 void PageHost::Open(PageIndex page) {

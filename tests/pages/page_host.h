@@ -79,9 +79,10 @@ class PageHost : public testing::Test {
   std::optional<Machine> door_;
   FakeDialogs dialogs_;
   SettingsStore store_;
+  std::optional<CategoryCatalog> categories_;
   std::unique_ptr<ResourceLibrary> language_;
-  std::unique_ptr<PageContext> context_;
-  std::unique_ptr<SettingsPage> page_;
+  std::optional<PageContext> context_;
+  std::unique_ptr<HostedPage> page_;
   HWND host_ = nullptr;
   bool askedToClose_ = false;
 };

@@ -128,7 +128,7 @@ TEST_F(PimPage, RemindersReadAsTheUserReadsThem) {
   for (const Case& c : cases) {
     WindowsLocale locale(c.locale);
     Machine door{registry_, machine_.files, locale, libraries_, machine_.system};
-    PageContext context{door, store_, language_.get(), context_->scale};
+    PageContext context{door, store_, *categories_, language_.get(), context_->scale};
     page_ = CreatePage(static_cast<int>(PageIndex::kPim), host_, context);
     EXPECT_EQ(Line(kTaskReminder, 17), c.eight) << c.locale;
     EXPECT_EQ(Line(kTaskReminder, 32), c.halfPastThree) << c.locale;

@@ -45,9 +45,9 @@ TEST_F(SpecialEventsPage, OffersTheCategoriesByName) {
   Turn(1);
   EXPECT_EQ(Count(1213), 4);
   EXPECT_EQ(Line(1213, 0), L"None");
-  EXPECT_EQ(Selection(1213), 3);
+  EXPECT_EQ(Selection(1213), 2);
   EXPECT_EQ(Selection(1215), 0);
-  Choose(1217, 2);
+  Choose(1217, 3);
   Close();
   EXPECT_EQ(events().AdditionalFilterCat1.Value(), L"family");
   EXPECT_EQ(events().AdditionalFilterCat2.Value(), L"");
@@ -68,7 +68,7 @@ TEST_F(SpecialEventsPage, ShowsTodayInEachFormatInEveryLocale) {
     WindowsLocale locale(id);
     Load();
     Machine door{registry_, machine_.files, locale, libraries_, machine_.system};
-    PageContext context{door, store_, language_.get(), context_->scale};
+    PageContext context{door, store_, *categories_, language_.get(), context_->scale};
     const LocalTime today = locale.Now();
     const auto two = [](int number) {
       return std::wstring{static_cast<wchar_t>(L'0' + number / 10 % 10),
