@@ -11,7 +11,7 @@ constexpr int kTextHeight = 12;           // design height of the letters
 constexpr int kFocusRoom = 2;             // design width of the room around a focused control
 constexpr COLORREF kFocusInk = RGB(74, 132, 196);
 
-constexpr int kTabPadding = 3;  // design width beside a tab's title
+constexpr int kTabPadding = 4;  // design width beside a tab's title
 
 // The tab row is told so once, as soon as it is made.
 constexpr UINT kTabRowMessage = 0x2007;
