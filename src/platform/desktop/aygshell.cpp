@@ -115,3 +115,11 @@ BOOL TransparentImage(HDC hdcDest, LONG DstX, LONG DstY, LONG DstCx, LONG DstCy,
   const tidewell::MemoryBitmap source(hdcDest, static_cast<HBITMAP>(hSrc));
   return copy(source.Dc());
 }
+
+DWORD_PTR SHGetFileInfo(LPCTSTR pszPath, DWORD dwFileAttributes, SHFILEINFOW* psfi, UINT cbFileInfo,
+                        UINT uFlags) {
+  wchar_t path[MAX_PATH] = {};
+  const DWORD length = GetFullPathNameW(pszPath, MAX_PATH, path, nullptr);
+  if (length == 0 || length >= MAX_PATH) return 0;
+  return SHGetFileInfoW(path, dwFileAttributes, psfi, cbFileInfo, uFlags);
+}

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -129,6 +131,11 @@ HBITMAP SHLoadDIBitmap(LPCTSTR szFileName);
 // Copies a picture (an HBITMAP, or the HDC that holds one) but for its pixels of one colour.
 BOOL TransparentImage(HDC hdcDest, LONG DstX, LONG DstY, LONG DstCx, LONG DstCy, HANDLE hSrc,
                       LONG SrcX, LONG SrcY, LONG SrcCx, LONG SrcCy, COLORREF TransparentColor);
+
+// The icon of a file or folder. A desktop's own knows no path without a drive.
+#undef SHGetFileInfo
+DWORD_PTR SHGetFileInfo(LPCTSTR pszPath, DWORD dwFileAttributes, SHFILEINFOW* psfi,
+                        UINT cbFileInfo, UINT uFlags);
 
 #ifdef __cplusplus
 }
