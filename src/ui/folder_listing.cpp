@@ -75,15 +75,17 @@ std::wstring NearestFolder(Files& files, std::wstring_view wanted) {
 
 std::wstring ShortenPath(const std::wstring& path,
                          const std::function<bool(const std::wstring&)>& fits) {
+  static constexpr wchar_t kLeftOut[] = L"...";
   if (fits(path)) return path;
-  std::size_t from = path.find(L'\\', 1);
-  if (from == std::wstring::npos) return path;
-  for (;;) {
-    const std::wstring shortened = L"..." + path.substr(from);
-    const std::size_t next = path.find(L'\\', from + 1);
-    if (next == std::wstring::npos || fits(shortened)) return shortened;
-    from = next;
+  std::wstring shown = path;
+  for (std::size_t from = path.find(L'\\', 1); from != std::wstring::npos;
+       from = path.find(L'\\', from + 1)) {
+    shown = kLeftOut + path.substr(from);
+    if (fits(shown)) return shown;
   }
+  const std::size_t shortest = shown.size() - NameInPath(shown).size() + 1;
+  while (shown.size() > shortest && !fits(shown + kLeftOut)) shown.pop_back();
+  return shown + kLeftOut;
 }
 
 }  // namespace tidewell

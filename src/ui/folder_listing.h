@@ -44,7 +44,8 @@ bool FileExists(Files& files, const std::wstring& path);
 // The folder itself, else the nearest one above it that exists, else the root.
 std::wstring NearestFolder(Files& files, std::wstring_view wanted);
 
-// `path` if it fits, else as many of its last names as fit behind "...", at least one.
+// `path` if it fits, else as many of its last names as fit behind "...", at least the beginning of
+// the last one.
 std::wstring ShortenPath(const std::wstring& path,
                          const std::function<bool(const std::wstring&)>& fits);
 

@@ -69,6 +69,10 @@ std::optional<std::wstring> PathDialogModel::Take(Row row) {
   return std::nullopt;
 }
 
+bool PathDialogModel::Opens(Row row) const {
+  return row && *row < rows_.size() && (rows_[*row].IsUp() || rows_[*row].IsFolder());
+}
+
 bool PathDialogModel::Shows(const FileEntry& entry) const {
   return entry.isFolder || (request_.pattern && FitsAnyPattern(entry.name, *request_.pattern));
 }

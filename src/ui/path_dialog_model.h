@@ -51,6 +51,7 @@ class PathDialogModel {
   std::optional<std::wstring> Activate(Row row);
   // The soft key. For a folder: the marked one, or the one shown when none is marked.
   std::optional<std::wstring> Take(Row row);
+  bool Opens(Row row) const;  // whether activating the row leads to another folder
   bool CanTake(Row row) const { return !request_.pattern || row; }
 
  private:

@@ -49,20 +49,20 @@ TEST_F(PathDialogModelTest, StartsAtThePresentValueOrTheNearestFolderThatExists)
     const wchar_t* present;
     const wchar_t* folder;
   };
-  for (const Case& c :
-       std::initializer_list<Case>{{L"\\My Documents\\skins", L"\\My Documents\\skins"},
-                                   {L"\\My Documents\\skins\\", L"\\My Documents\\skins"},
-                                   {L"\\my documents\\SKINS", L"\\my documents\\SKINS"},
-                                   {L"\\My Documents\\skins\\gone\\too", L"\\My Documents\\skins"},
-                                   {L"\\My Documents\\letter.txt", L"\\My Documents"},
-                                   {L"\\My Documents\\letter.txt\\below a file", L"\\My Documents"},
-                                   {L"\\Storage Card\\Skins", L"\\"},
-                                   {L"\\My Documents\\*", L"\\My Documents"},
-                                   {L"\\", L"\\"},
-                                   {L"\\\\", L"\\"},
-                                   {L"", L"\\"},
-                                   {L"My Documents", L"\\"},
-                                   {L"C:\\My Documents", L"\\"}}) {
+  const Case cases[] = {{L"\\My Documents\\skins", L"\\My Documents\\skins"},
+                        {L"\\My Documents\\skins\\", L"\\My Documents\\skins"},
+                        {L"\\my documents\\SKINS", L"\\my documents\\SKINS"},
+                        {L"\\My Documents\\skins\\gone\\too", L"\\My Documents\\skins"},
+                        {L"\\My Documents\\letter.txt", L"\\My Documents"},
+                        {L"\\My Documents\\letter.txt\\below a file", L"\\My Documents"},
+                        {L"\\Storage Card\\Skins", L"\\"},
+                        {L"\\My Documents\\*", L"\\My Documents"},
+                        {L"\\", L"\\"},
+                        {L"\\\\", L"\\"},
+                        {L"", L"\\"},
+                        {L"My Documents", L"\\"},
+                        {L"C:\\My Documents", L"\\"}};
+  for (const Case& c : cases) {
     EXPECT_EQ(ChooseFolder(c.present).Folder(), c.folder);
     EXPECT_EQ(ChooseFile(c.present, L"*").Folder(), c.folder);
   }
@@ -240,18 +240,20 @@ TEST(PathDialogTextsTest, AreBuiltInWithoutALibrary) {
   EXPECT_EQ(texts.root, L"My Device");
 }
 
-TEST(ShortenPathTest, DropsTheFirstNamesUntilItFits) {
+TEST(ShortenPathTest, DropsTheFirstNamesAndThenTheEndUntilItFits) {
   struct Case {
     const wchar_t* path;
     std::size_t room;
     const wchar_t* shown;
   };
-  for (const Case& c : std::initializer_list<Case>{{L"\\One\\Two\\Three", 14, L"\\One\\Two\\Three"},
-                                                   {L"\\One\\Two\\Three", 13, L"...\\Two\\Three"},
-                                                   {L"\\One\\Two\\Three", 12, L"...\\Three"},
-                                                   {L"\\One\\Two\\Three", 1, L"...\\Three"},
-                                                   {L"\\One", 1, L"\\One"},
-                                                   {L"\\", 0, L"\\"}}) {
+  const Case cases[] = {{L"\\One\\Two\\Three", 14, L"\\One\\Two\\Three"},
+                        {L"\\One\\Two\\Three", 13, L"...\\Two\\Three"},
+                        {L"\\One\\Two\\Three", 12, L"...\\Three"},
+                        {L"\\One\\Two\\Three", 9, L"...\\Three"},
+                        {L"\\One\\Two\\Three", 8, L"...\\T..."},
+                        {L"\\One\\Two\\Three", 1, L"...\\T..."},
+                        {L"\\Seventeen", 8, L"\\Seve..."}};
+  for (const Case& c : cases) {
     EXPECT_EQ(
         ShortenPath(c.path, [&](const std::wstring& shown) { return shown.size() <= c.room; }),
         c.shown);

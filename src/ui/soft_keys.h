@@ -1,0 +1,5 @@
+// The two soft keys of dialogs that make a choice, for the resource scripts as well: IDOK on the
+// left, IDCANCEL on the right.
+#pragma once
+
+#define IDR_CHOICE_KEYS 300
