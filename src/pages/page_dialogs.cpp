@@ -1,5 +1,7 @@
 #include "pages/page_dialogs.h"
 
+#include "ui/path_dialog.h"
+
 namespace tidewell {
 
 void DevicePageDialogs::ShowMessage(HWND owner, const std::wstring& text,
@@ -7,10 +9,11 @@ void DevicePageDialogs::ShowMessage(HWND owner, const std::wstring& text,
   MessageBoxW(owner, text.c_str(), caption.c_str(), MB_OK);
 }
 
-std::optional<std::wstring> DevicePageDialogs::ChooseFolder(HWND, const PageContext&,
-                                                            const std::wstring&,
-                                                            const std::wstring&) {
-  return std::nullopt;
+std::optional<std::wstring> DevicePageDialogs::ChooseFolder(HWND owner, const PageContext& context,
+                                                            const std::wstring& title,
+                                                            const std::wstring& present) {
+  return tidewell::ChooseFolder({owner, context.machine, context.language, context.scale}, title,
+                                present);
 }
 
 }  // namespace tidewell
