@@ -45,9 +45,9 @@ std::unique_ptr<CategoryIcon> LoadIconOf(const std::wstring& category,
 
 }  // namespace
 
-void ReadPimCategories(PimDatabase& database, const std::wstring& iconsFolder,
-                       CategoryCatalog& catalog) {
-  if (!database.Open(kCategoryDatabase, true)) return;
+void ReadPimCategories(PimDatabase& database, const std::wstring& volumePath,
+                       const std::wstring& iconsFolder, CategoryCatalog& catalog) {
+  if (!database.Open(kCategoryDatabase, true, nullptr, nullptr, volumePath)) return;
   if (database.Seek(CEDB_SEEK_BEGINNING, 0) == 0) return;
 
   std::array<CEPROPID, 3> ids = {kPimIdProperty, kPimNameProperty, kPimFlagProperty};

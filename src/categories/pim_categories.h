@@ -21,21 +21,23 @@ class BitmapIcon final : public CategoryIcon {
   HBITMAP bitmap_;
 };
 
-// Adds what the device's database holds, icons from `iconsFolder` included. No volume, no database
-// or no record adds nothing.
-void ReadPimCategories(PimDatabase& database, const std::wstring& iconsFolder,
-                       CategoryCatalog& catalog);
+// Adds what the volume holds, the device's own when none is named, with icons from `iconsFolder`.
+// No volume, no database or no record adds nothing.
+void ReadPimCategories(PimDatabase& database, const std::wstring& volumePath,
+                       const std::wstring& iconsFolder, CategoryCatalog& catalog);
 
 // Keeps the database open from the reading to the end of its own life.
 class PimCategorySource final : public CategorySource {
  public:
-  explicit PimCategorySource(std::wstring iconsFolder) : iconsFolder_(std::move(iconsFolder)) {}
+  explicit PimCategorySource(std::wstring iconsFolder, std::wstring volumePath = {})
+      : iconsFolder_(std::move(iconsFolder)), volumePath_(std::move(volumePath)) {}
   void ReadInto(CategoryCatalog& catalog) override {
-    ReadPimCategories(database_, iconsFolder_, catalog);
+    ReadPimCategories(database_, volumePath_, iconsFolder_, catalog);
   }
 
  private:
   std::wstring iconsFolder_;
+  std::wstring volumePath_;
   PimDatabase database_;
 };
 

@@ -1,0 +1,91 @@
+// The same text leaves the same tree in the system's registry as in memory.
+#include <gtest/gtest.h>
+
+#include "backup/settings_backup.h"
+#include "platform/windows/windows_machine.h"
+#include "tests/backup/windows/test_folder.h"
+#include "tests/support/catalog_support.h"
+#include "tests/support/rebased_registry.h"
+#include "tests/support/registry_support.h"
+#include "tests/support/utf8.h"
+
+namespace tidewell {
+namespace {
+
+constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
+const std::wstring kRoot(kProductKey);
+
+class RealBackup : public testing::Test {
+ protected:
+  RealBackup() { machine.Start({L"Home", L"Work"}); }
+
+  bool Import(Registry& target, std::wstring_view text) {
+    const std::vector<std::byte> bytes = BytesOf(text);
+    BytesSource source(bytes);
+    TextReader reader(source);
+    return ImportRegistryText(target, machine.catalog, reader);
+  }
+  std::string Export(Registry& source) {
+    ByteSink sink;
+    TextWriter writer(sink);
+    ExportRegistryText(source, machine.catalog, kRoot, writer);
+    writer.Flush();
+    return Utf8(TextOfBytes(sink.bytes));
+  }
+
+  CatalogMachine machine;
+  WindowsMachine windows;
+  RebasedRegistry real{windows.registry, L"Software\\TidewellBackupTest"};
+  MemoryRegistry memory{MemoryRegistry::Order::kSorted};
+};
+
+TEST_F(RealBackup, AnImportLeavesTheTreeThatTheRulesLeaveInMemory) {
+  using namespace std::string_literals;
+  const std::wstring section = L"\n[Software\\Velmont\\Tidewell\\K]\n";
+  const std::wstring texts[] = {
+      section + L"\"s\"=\"text\"\n\"S\"=\"other\"\n\"\x00C4\"=dword:1\n\"\x00E4\"=dword:-1\n",
+      section + L" \"s\"=\"abc\"\n\"e\"=\"\"\n\"ab\"=\"\"\n\"n\"=\"not_the_same\"\n",
+      section + L"\"back\\slash\"=dword:1\n\"" + std::wstring(900, L'n') + L"\"=\"long name\"\n",
+      section + L"\"zero\0\"=dword:1\n\"z\"=\"ab\0c\"\n"s,
+      section + L"\n[Software\\Velmont\\Tidewell]\n\"a\"=dword:1\n" + section,
+      section + L"\n[Software\\Velmont\\Tidewell\\K\\\\L\\]\n\"a\"=dword:1\n",
+      section + L"\"v\"=\"" + std::wstring(1000, L'v') + L"\"\n",
+  };
+  for (const std::wstring& text : texts) {
+    real.DeleteTree(kUser, L"Software");
+    memory.DeleteTree(kUser, L"Software");
+    EXPECT_EQ(Import(real, text), Import(memory, text)) << Utf8(text);
+    EXPECT_EQ(DumpTree(real, kUser, kRoot), DumpTree(memory, kUser, kRoot)) << Utf8(text);
+    EXPECT_EQ(Export(real), Export(memory)) << Utf8(text);
+  }
+}
+
+TEST_F(RealBackup, ABackupOnTheDiskBringsTheDeviceBack) {
+  TestFolder folder;
+  const Machine door{real, windows.files, windows.locale, windows.libraries, windows.system};
+  SettingsBackup backup(door, machine.store, machine.catalog);
+  SetString(real, kUser, kRoot, L"TWFiltersFileFolder", folder.Path());
+  SetString(real, kUser, kRoot + L"\\Fonts", L"FontFaceToUse", L"Tahoma");
+  SetDword(real, kUser, kRoot + L"\\Colors", L"ClrX", 0xFFFFFFFF);
+  const std::string tree = DumpTree(real, kUser, kRoot);
+  ASSERT_TRUE(backup.ExportTo(folder.Below(L"a.twsb")));
+
+  real.DeleteTree(kUser, kRoot);
+  ASSERT_EQ(backup.ImportFrom(folder.Below(L"a.twsb"), ScreenScale(), machine.language),
+            ImportResult::kDone);
+  // The load creates the keys of all groups; the values are those from before.
+  const auto valuesOf = [](const std::string& dump) {
+    std::string values;
+    for (std::size_t at = 0; at < dump.size();) {
+      const std::size_t end = dump.find('\n', at) + 1;
+      if (dump[at] != '[') values += dump.substr(at, end - at);
+      at = end;
+    }
+    return values;
+  };
+  EXPECT_EQ(valuesOf(DumpTree(real, kUser, kRoot)), valuesOf(tree));
+  EXPECT_EQ(folder.Names(), (std::vector<std::wstring>{L"a.twsb", L"TW_BeforeImport.twsb"}));
+}
+
+}  // namespace
+}  // namespace tidewell
