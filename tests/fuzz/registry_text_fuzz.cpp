@@ -1,0 +1,48 @@
+#include "backup/registry_text.h"
+
+#include <string>
+
+#include "tests/fuzz/fuzz_targets.h"
+#include "tests/support/catalog_support.h"
+
+namespace tidewell::fuzz {
+
+namespace {
+
+// With names that the seeds and the dictionary use.
+std::wstring ExportAfter(Bytes bytes, bool& accepted) {
+  static MemoryMachine machine;
+  static const SettingsStore store;
+  MemoryRegistry registry;
+  CategoryCatalog catalog(machine.Door(), store);
+  catalog.Add({L"Home", 1, false});
+  catalog.Add({L"Work", 2, true});
+  BytesSource text(bytes);
+  TextReader reader(text);
+  accepted = ImportRegistryText(registry, catalog, reader);
+  ByteSink sink;
+  TextWriter writer(sink);
+  ExportRegistryText(registry, catalog, std::wstring(kProductKey), writer);
+  writer.Flush();
+  return TextOfBytes(sink.bytes);
+}
+
+}  // namespace
+
+// Whatever was read, the device has a backup that the reader takes, no line of it too long.
+void registry_text(Bytes bytes) {
+  bool accepted = false;
+  const std::wstring backup = ExportAfter(bytes, accepted);
+  Require(backup.starts_with(L"\n[Software\\Velmont\\Tidewell]\n"));
+  Require(backup.find(L"\n[::Categories::]\n\"Category\"=\"Home\"\n") != std::wstring::npos);
+  for (std::size_t start = 0; start < backup.size();) {
+    const std::size_t end = std::min(backup.find(L'\n', start), backup.size());
+    Require(end - start < kBackupLimits.lineCapacity);
+    start = end + 1;
+  }
+  bool again = false;
+  ExportAfter(BytesOf(backup), again);
+  Require(again);
+}
+
+}  // namespace tidewell::fuzz
