@@ -10,6 +10,7 @@
 programs=(
   "vga start_bench"
   "vga store_bench"
+  "vga backup_bench"
   "qvga list_bench"
   "vga list_bench"
 )

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/text.h"
@@ -21,31 +22,50 @@ struct Value {
   std::vector<std::byte> data;
 };
 
-const std::wstring& NameOf(const Value& value) {
-  return value.name;
-}
-
-template <typename NodePointer>
-const std::wstring& NameOf(const NodePointer& node) {
-  return node->name;
-}
-
-template <typename Item>
-auto FindByName(std::vector<Item>& items, std::wstring_view name) {
-  return std::find_if(items.begin(), items.end(),
-                      [&](const Item& item) { return EqualIgnoringCase(NameOf(item), name); });
-}
-
-template <typename Item>
-Item& Insert(std::vector<Item>& items, Item item, MemoryRegistry::Order order) {
-  auto place = items.end();
-  if (order == MemoryRegistry::Order::kSorted) {
-    place = std::find_if(items.begin(), items.end(), [&](const Item& other) {
-      return CompareFolded(NameOf(item), NameOf(other)) < 0;
-    });
+struct FoldedHash {
+  std::size_t operator()(std::wstring_view name) const {
+    std::size_t hash = 0;
+    for (const wchar_t unit : name) hash = hash * 31 + static_cast<std::size_t>(FoldCase(unit));
+    return hash;
   }
-  return *items.insert(place, std::move(item));
-}
+};
+
+struct FoldedEqual {
+  bool operator()(std::wstring_view left, std::wstring_view right) const {
+    return EqualIgnoringCase(left, right);
+  }
+};
+
+// Values or subkeys in their order of enumeration, found by name however many there are.
+template <typename Pointer>
+class NamedItems {
+ public:
+  std::size_t Size() const { return items_.size(); }
+  const Pointer& At(std::size_t index) const { return items_[index]; }
+  Pointer Find(std::wstring_view name) const {
+    const auto found = byName_.find(name);
+    return found == byName_.end() ? nullptr : found->second;
+  }
+  void Insert(const Pointer& item, MemoryRegistry::Order order) {
+    auto place = items_.end();
+    if (order == MemoryRegistry::Order::kSorted) {
+      place = std::upper_bound(items_.begin(), items_.end(), item,
+                               [](const Pointer& left, const Pointer& right) {
+                                 return CompareFolded(left->name, right->name) < 0;
+                               });
+    }
+    items_.insert(place, item);
+    byName_.emplace(item->name, item);
+  }
+  void Erase(const Pointer& item) {
+    byName_.erase(item->name);
+    items_.erase(std::find(items_.begin(), items_.end(), item));
+  }
+
+ private:
+  std::vector<Pointer> items_;
+  std::unordered_map<std::wstring_view, Pointer, FoldedHash, FoldedEqual> byName_;
+};
 
 // The system takes names up to their first zero.
 std::wstring_view UpToZero(std::wstring_view name) {
@@ -65,8 +85,8 @@ std::wstring_view TakeName(std::wstring_view& path) {
 struct MemoryRegistry::Node {
   std::wstring name;
   bool isDeleted = false;
-  std::vector<Value> values;
-  std::vector<std::shared_ptr<Node>> subkeys;
+  NamedItems<std::shared_ptr<Value>> values;
+  NamedItems<std::shared_ptr<Node>> subkeys;
 
   // The node at the end of `path`, null when a key on the way is absent.
   static std::shared_ptr<Node> Walk(std::shared_ptr<Node> node, std::wstring_view path);
@@ -76,15 +96,14 @@ struct MemoryRegistry::Node {
 std::shared_ptr<MemoryRegistry::Node> MemoryRegistry::Node::Walk(std::shared_ptr<Node> node,
                                                                  std::wstring_view path) {
   while (node && !path.empty()) {
-    const auto found = FindByName(node->subkeys, TakeName(path));
-    node = found == node->subkeys.end() ? nullptr : *found;
+    node = node->subkeys.Find(TakeName(path));
   }
   return node;
 }
 
 void MemoryRegistry::Node::MarkDeleted() {
   isDeleted = true;
-  for (const auto& subkey : subkeys) subkey->MarkDeleted();
+  for (std::size_t i = 0; i < subkeys.Size(); ++i) subkeys.At(i)->MarkDeleted();
 }
 
 // An open key outlives the deletion of what it stands for; every operation then fails.
@@ -95,8 +114,8 @@ class MemoryRegistry::OpenKey final : public RegistryKey {
   RegistryStatus Query(const std::wstring& name, std::span<std::byte> buffer,
                        ValueInfo& info) override {
     if (node_->isDeleted) return kStatusKeyDeleted;
-    const auto found = FindByName(node_->values, UpToZero(name));
-    if (found == node_->values.end()) return kStatusFileNotFound;
+    const auto found = node_->values.Find(UpToZero(name));
+    if (!found) return kStatusFileNotFound;
     info = {found->type, static_cast<std::uint32_t>(found->data.size())};
     if (buffer.empty()) return kStatusSuccess;
     if (buffer.size() < found->data.size()) return kStatusMoreData;
@@ -109,28 +128,30 @@ class MemoryRegistry::OpenKey final : public RegistryKey {
     if (node_->isDeleted) return kStatusKeyDeleted;
     const std::wstring_view key = UpToZero(name);
     if (key.size() > kLongestValueName) return kStatusInvalidParameter;
-    const auto found = FindByName(node_->values, key);
-    Value& value = found != node_->values.end()
-                       ? *found
-                       : Insert(node_->values, Value{std::wstring(key), type, {}}, order_);
-    value.type = type;
-    value.data.assign(data.begin(), data.end());
+    auto value = node_->values.Find(key);
+    if (!value) {
+      value = std::make_shared<Value>();
+      value->name = key;
+      node_->values.Insert(value, order_);
+    }
+    value->type = type;
+    value->data.assign(data.begin(), data.end());
     return kStatusSuccess;
   }
 
   RegistryStatus DeleteValue(const std::wstring& name) override {
     if (node_->isDeleted) return kStatusKeyDeleted;
-    const auto found = FindByName(node_->values, UpToZero(name));
-    if (found == node_->values.end()) return kStatusFileNotFound;
-    node_->values.erase(found);
+    const auto found = node_->values.Find(UpToZero(name));
+    if (!found) return kStatusFileNotFound;
+    node_->values.Erase(found);
     return kStatusSuccess;
   }
 
   RegistryStatus EnumValue(std::uint32_t index, std::uint32_t nameCapacity,
                            std::uint32_t dataCapacity, EnumeratedValue& value) override {
     if (node_->isDeleted) return kStatusKeyDeleted;
-    if (index >= node_->values.size()) return kStatusNoMoreItems;
-    const Value& found = node_->values[index];
+    if (index >= node_->values.Size()) return kStatusNoMoreItems;
+    const Value& found = *node_->values.At(index);
     if (found.name.size() >= nameCapacity || found.data.size() > dataCapacity) {
       return kStatusMoreData;
     }
@@ -143,8 +164,8 @@ class MemoryRegistry::OpenKey final : public RegistryKey {
   RegistryStatus EnumSubkey(std::uint32_t index, std::uint32_t nameCapacity,
                             std::wstring& name) override {
     if (node_->isDeleted) return kStatusKeyDeleted;
-    if (index >= node_->subkeys.size()) return kStatusNoMoreItems;
-    const std::wstring& found = node_->subkeys[index]->name;
+    if (index >= node_->subkeys.Size()) return kStatusNoMoreItems;
+    const std::wstring& found = node_->subkeys.At(index)->name;
     if (found.size() >= nameCapacity) return kStatusMoreData;
     name = found;
     return kStatusSuccess;
@@ -180,14 +201,13 @@ std::unique_ptr<RegistryKey> MemoryRegistry::Create(RegistryRoot root, const std
   while (node && !rest.empty()) {
     const std::wstring_view name = TakeName(rest);
     if (name.empty() || name.size() > kLongestKeyName) return nullptr;
-    const auto found = FindByName(node->subkeys, name);
-    if (found != node->subkeys.end()) {
-      node = *found;
-    } else {
-      const auto subkey = std::make_shared<Node>();
+    auto subkey = node->subkeys.Find(name);
+    if (!subkey) {
+      subkey = std::make_shared<Node>();
       subkey->name = name;
-      node = Insert(node->subkeys, subkey, order_);
+      node->subkeys.Insert(subkey, order_);
     }
+    node = std::move(subkey);
   }
   return node ? std::make_unique<OpenKey>(node, order_) : nullptr;
 }
@@ -199,10 +219,10 @@ RegistryStatus MemoryRegistry::DeleteTree(RegistryRoot root, const std::wstring&
   const bool isNested = split != std::wstring_view::npos;
   const auto parent = Node::Walk(RootOf(root), isNested ? whole.substr(0, split) : L"");
   if (!parent) return kStatusFileNotFound;
-  const auto found = FindByName(parent->subkeys, isNested ? whole.substr(split + 1) : whole);
-  if (found == parent->subkeys.end()) return kStatusFileNotFound;
-  (*found)->MarkDeleted();
-  parent->subkeys.erase(found);
+  const auto found = parent->subkeys.Find(isNested ? whole.substr(split + 1) : whole);
+  if (!found) return kStatusFileNotFound;
+  found->MarkDeleted();
+  parent->subkeys.Erase(found);
   return kStatusSuccess;
 }
 
