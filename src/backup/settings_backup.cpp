@@ -8,7 +8,9 @@ namespace tidewell {
 namespace {
 
 // With the final backslash, empty for a bare name.
-std::wstring FolderOf(const std::wstring& path) { return path.substr(0, path.rfind(L'\\') + 1); }
+std::wstring FolderOf(const std::wstring& path) {
+  return path.substr(0, path.rfind(L'\\') + 1);
+}
 
 }  // namespace
 
@@ -16,7 +18,9 @@ std::wstring SettingsBackup::DefaultExportName() const {
   return L"TW_Backup_" + machine_.locale.FormatDate(machine_.locale.Now(), L"yyyy_MM_dd");
 }
 
-bool SettingsBackup::ExportTo(const std::wstring& path) const { return Write(path, kBackupLimits); }
+bool SettingsBackup::ExportTo(const std::wstring& path) const {
+  return Write(path, kBackupLimits);
+}
 
 bool SettingsBackup::Write(const std::wstring& path, TextLimits limits) const {
   ReplacementFile file(machine_.files, path);
