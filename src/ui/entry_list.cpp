@@ -193,7 +193,8 @@ void EntryList::LoadIconsInView() {
     if (images_[row] != kNotLoaded) continue;
     if (GetTickCount() - begun >= kIconTime) return;
     const ListedEntry& entry = (*entries_)[row];
-    images_[row] = icons_.Load(entry.IsUp() ? upPath_ : JoinPath(folder_, entry.name));
+    images_[row] = entry.IsUp() ? icons_.Load(upPath_, true)
+                                : icons_.Load(JoinPath(folder_, entry.name), entry.IsFolder());
     ListView_RedrawItems(list_, static_cast<int>(row), static_cast<int>(row));
   }
   KillTimer(list_, kIconTimer);

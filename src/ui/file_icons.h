@@ -20,12 +20,15 @@ class FileIcons {
   ~FileIcons();
 
   HIMAGELIST Images() const { return images_; }
-  // The image of a path, kNone when the device has none for it. Takes some milliseconds, the first
-  // time in a process a tenth of a second.
-  int Load(const std::wstring& path);
+  // The image of a path, or of its kind when the device finds nothing there (a path too long, a
+  // file just gone); kNone without either. Takes some milliseconds, the first time in a process a
+  // tenth of a second.
+  int Load(const std::wstring& path, bool isFolder);
   void Clear();
 
  private:
+  int Add(HICON icon, int systemIndex);
+
   HIMAGELIST images_;
   std::vector<int> systemIndices_;  // of each image, so that equal icons are kept once
 };

@@ -126,7 +126,7 @@ void FullScreenDialog::OnInit() {
   SHINITDLGINFO info{};
   info.dwMask = SHIDIM_FLAGS;
   info.hDlg = window_;
-  info.dwFlags = SHIDIF_SIZEDLGFULLSCREEN;
+  info.dwFlags = SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_SIPDOWN;
   SHInitDialog(&info);
   LayOut();
   OnShown();

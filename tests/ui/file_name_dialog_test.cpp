@@ -15,6 +15,18 @@ HWND NameField() {
   return ControlOf(WC_EDITW);
 }
 
+void ExpectWithinScreen(HWND box) {
+  const RECT place = PlaceIn(box, nullptr);
+  EXPECT_GE(place.left, 0);
+  EXPECT_LE(place.right, GetSystemMetrics(SM_CXSCREEN));
+  for (HWND part = GetWindow(box, GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT)) {
+    if (IsWindowVisible(part)) {
+      EXPECT_LE(PlaceIn(part, nullptr).right, place.right);
+      EXPECT_LE(PlaceIn(part, nullptr).bottom, place.bottom);
+    }
+  }
+}
+
 class FileNameDialogTest : public testing::Test {
  protected:
   FileNameDialogTest() {
@@ -40,6 +52,7 @@ class FileNameDialogTest : public testing::Test {
     driver.Then([=] {
       EXPECT_EQ(TextOfWindow(FrontDialog()), L"File Name Error");
       EXPECT_NE(FindWindowExW(FrontDialog(), nullptr, WC_STATICW, message), nullptr);
+      ExpectWithinScreen(FrontDialog());
       PostMessageW(FrontDialog(), WM_COMMAND, IDOK, 0);
     });
     driver.Then([=] {
