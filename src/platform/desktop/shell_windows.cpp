@@ -1,7 +1,6 @@
 #include "platform/desktop/shell_windows.h"
 
 #include <aygshell.h>
-#include <commctrl.h>
 
 #include <algorithm>
 #include <utility>
@@ -15,7 +14,6 @@ namespace tidewell {
 
 namespace {
 
-constexpr UINT_PTR kSubclassId = 1;
 constexpr LPARAM kKeyIsUp = LPARAM{1} << 31;
 
 // Of the main screen. Not from SystemParametersInfo, which may still know a screen's former size.
@@ -139,7 +137,9 @@ ShellWindow& ShellWindows::Adopt(HWND window) {
   windows_.push_back(std::make_unique<ShellWindow>());
   ShellWindow& added = *windows_.back();
   added.window = window;
-  SetWindowSubclass(window, WindowProc, kSubclassId, reinterpret_cast<DWORD_PTR>(&added));
+  // Not through SetWindowSubclass, for which the library of common controls would be loaded.
+  added.procedure = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WindowProc)));
   return added;
 }
 
@@ -147,18 +147,18 @@ void ShellWindows::Forget(HWND window) {
   std::erase_if(windows_, [&](const auto& each) { return each->window == window; });
 }
 
-LRESULT CALLBACK ShellWindows::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                          UINT_PTR, DWORD_PTR data) {
-  if (message == WM_NCDESTROY) {
-    RemoveWindowSubclass(window, WindowProc, kSubclassId);
-    Instance().Forget(window);
-    return DefSubclassProc(window, message, wParam, lParam);
-  }
-  return Instance().Handle(*reinterpret_cast<ShellWindow*>(data), message, wParam, lParam);
+LRESULT CALLBACK ShellWindows::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  ShellWindow* shellWindow = Instance().Find(window);
+  if (!shellWindow) return DefWindowProcW(window, message, wParam, lParam);
+  if (message != WM_NCDESTROY) return Instance().Handle(*shellWindow, message, wParam, lParam);
+  const WNDPROC procedure = shellWindow->procedure;
+  Instance().Forget(window);
+  return CallWindowProcW(procedure, window, message, wParam, lParam);
 }
 
 LRESULT ShellWindows::Handle(ShellWindow& shellWindow, UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND window = shellWindow.window;
+  const WNDPROC procedure = shellWindow.procedure;
   if (message == activatePopupMessage_) {
     ActivatePopup(window);
     return 0;
@@ -171,17 +171,17 @@ LRESULT ShellWindows::Handle(ShellWindow& shellWindow, UINT message, WPARAM wPar
         MoveTo(window, Client(), 0);
       break;
     case WM_CREATE: {
-      const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+      const LRESULT result = CallWindowProcW(procedure, window, message, wParam, lParam);
       if (result != -1) SetTitleButton(shellWindow, TitleButton::kOk);
       return result;
     }
     case WM_WINDOWPOSCHANGED: {
-      const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+      const LRESULT result = CallWindowProcW(procedure, window, message, wParam, lParam);
       if (Find(window)) PlaceStrips(shellWindow);
       return result;
     }
     case WM_SETTEXT: {
-      const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+      const LRESULT result = CallWindowProcW(procedure, window, message, wParam, lParam);
       if (shellWindow.title) shellWindow.title->Refresh();
       return result;
     }
@@ -195,7 +195,7 @@ LRESULT ShellWindows::Handle(ShellWindow& shellWindow, UINT message, WPARAM wPar
       if (wParam == SPI_SETWORKAREA) OnScreenChanged();
       break;
   }
-  return DefSubclassProc(window, message, wParam, lParam);
+  return CallWindowProcW(procedure, window, message, wParam, lParam);
 }
 
 void ShellWindows::SetTitleButton(ShellWindow& shellWindow, TitleButton button) {

@@ -14,6 +14,7 @@ namespace tidewell {
 // A window with its strips. Lives from the window's first message to its last.
 struct ShellWindow {
   HWND window = nullptr;
+  WNDPROC procedure = nullptr;  // its own
   std::unique_ptr<TitleStrip> title;
   std::unique_ptr<MenuBar> menuBar;
 };
@@ -45,8 +46,7 @@ class ShellWindows {
   ShellWindows();
   static LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK KeyHook(int code, WPARAM wParam, LPARAM lParam);
-  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                     UINT_PTR id, DWORD_PTR data);
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Handle(ShellWindow& shellWindow, UINT message, WPARAM wParam, LPARAM lParam);
   void Forget(HWND window);
   bool OnKey(WPARAM key);
