@@ -1,5 +1,6 @@
 #include "pages/settings_page.h"
 
+#include "ui/common_controls.h"
 #include "ui/look.h"
 
 namespace tidewell {
@@ -165,6 +166,7 @@ void SettingsPage::MakeMenuBar() {
 }
 
 void SettingsPage::MakeTabRow() {
+  LoadCommonControls();
   const int count = GetTabCount();
   if (count < 1) return;
   tabs_ = MakeControl(WC_TABCONTROLW, WS_VISIBLE | TCS_BOTTOM, 0, {}, {});

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/text.h"
+#include "ui/common_controls.h"
 #include "ui/look.h"
 
 namespace tidewell {
@@ -31,6 +32,7 @@ bool StartsWith(const std::wstring& name, std::wstring_view start) {
 void EntryList::Create(HWND parent, int id, HFONT font, const ScreenScale& scale, OnKey onKey) {
   scale_ = scale;
   onKey_ = std::move(onKey);
+  LoadCommonControls();
   list_ = CreateWindowExW(0, WC_LISTVIEWW, L"",
                           WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | WS_CLIPSIBLINGS |
                               LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS |

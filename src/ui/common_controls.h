@@ -1,0 +1,17 @@
+// The library of common controls, which is loaded when its controls are first needed.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+namespace tidewell {
+
+// Before the first list view, tab row, trackbar or up-down control; again does no harm.
+inline void LoadCommonControls() {
+  const INITCOMMONCONTROLSEX wanted{
+      sizeof wanted, ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES | ICC_UPDOWN_CLASS};
+  InitCommonControlsEx(&wanted);
+}
+
+}  // namespace tidewell
