@@ -63,11 +63,11 @@ run_native_suite() {
   record_report "$name, native" "$report" "$log"
 }
 
-# A GoogleTest program on the device. Its exit code does not come back from there; its report tells
-# all.
+# A GoogleTest program on the device's present screen. Its exit code does not come back from there;
+# its report tells all.
 run_windows_suite() {
   local name=$1 program=$2
-  local log=$logs/$name-windows.log report=$logs/$name-windows.xml
+  local log=$logs/$name-$screen.log report=$logs/$name-$screen.xml
   rm -f "$report"
   time_limit=$windows_limit
   start_folder=$(dirname "$program")
@@ -78,7 +78,7 @@ run_windows_suite() {
     say "No end after $windows_limit seconds." >>"$log"
     restart_device
   fi
-  record_report "$name, Windows" "$report" "$log"
+  record_report "$name, $screen" "$report" "$log"
 }
 
 # Any other command that the build has registered passes or fails as a whole.
@@ -129,9 +129,13 @@ run_windows_tests() {
   forget_device test
   use_device test
   install_program
-  use_screen vga
+  use_screen qvga
   use_virtual_display
   run_registered windows run_windows_suite
+  # The installed program once more where everything is twice the size.
+  use_screen vga
+  use_virtual_display
+  run_windows_suite device "$build/windows/tests/device/device_tests.exe"
 }
 
 # Each fuzz target begins with its seeds and looks for more for a little while; what it finds stays
