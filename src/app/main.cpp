@@ -56,7 +56,8 @@ int RunMessageLoop(HINSTANCE instance) {
 int Run(HINSTANCE instance, std::wstring_view commandLine, int showCommand) {
   InstallDeviceShell();
   WindowsMachine machine;
-  MainWindow window(instance, machine.Door(), {CreatePage, OpenPimCategories, AskInMessageBox});
+  MainWindow window(instance, machine.Door(),
+                    {CreatePage, OpenPimCategories, AskInMessageBox, ChooseBackupInDialog});
   if (!StartInstance(window, StartModeOf(commandLine), showCommand)) return 0;
   return RunMessageLoop(instance);
 }

@@ -192,12 +192,19 @@ void MainWindow::RunListCommand(int command) {
       ShowAbout();
       return;
     case kExportCommand:
+      Backup().ExportSettingsBackup(window_);
+      return;
     case kImportCommand:
+      Backup().ImportSettingsBackup(window_);
       return;
     case kExitCommand:
       AskToExit();
       return;
   }
+}
+
+BackupCommands MainWindow::Backup() {
+  return {machine_, settings_, categories_, language_, scale_, parts_.ask, parts_.chooseBackup};
 }
 
 void MainWindow::RunBarCommand(std::optional<int> command) {

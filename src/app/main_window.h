@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 
+#include "app/backup_commands.h"
 #include "app/main_entries.h"
 #include "categories/category_catalog.h"
 #include "pages/hosted_page.h"
@@ -27,9 +28,6 @@
 
 namespace tidewell {
 
-// MessageBoxW, or a test's answer in its place.
-using Ask = std::function<int(HWND owner, const std::wstring& text, const std::wstring& caption,
-                              UINT buttons)>;
 // Opens the device's categories, whose icons lie in a folder. Closed when destroyed.
 using CategorySourceFactory =
     std::function<std::unique_ptr<CategorySource>(const std::wstring& iconsFolder)>;
@@ -39,6 +37,7 @@ struct MainWindowParts {
   PageFactory createPage;
   CategorySourceFactory openCategories;
   Ask ask;
+  ChooseBackup chooseBackup;
 };
 
 class MainWindow {
@@ -80,6 +79,7 @@ class MainWindow {
   void ShowMainEntries();
   void ShowTools();
   void RunListCommand(int command);
+  BackupCommands Backup();
   void RunBarCommand(std::optional<int> command);
   void OpenPage(int page);
   void ClosePage();

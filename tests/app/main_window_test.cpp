@@ -218,6 +218,46 @@ TEST_F(ProgramTest, APageStillOpenGoesWithTheWindow) {
   EXPECT_EQ(pagesDestroyed, 1);
 }
 
+TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
+  device.files.MakeFolder(L"\\My Documents");
+  SetDword(L"OnClick", 2);
+  Start();
+  TapBar(true);
+  RunRow(0);
+  EXPECT_TRUE(asked.empty()) << "a cancelled dialog says nothing";
+
+  backup = L"\\My Documents\\a.twsb";
+  RunRow(0);
+  EXPECT_EQ(asked, std::vector<std::wstring>{L"text 607 \"" + backup + L"\"|text 608|0"});
+  EXPECT_TRUE(device.files.Find(backup));
+  ASSERT_TRUE(IsOpen());
+
+  SetDword(L"OnClick", 1);
+  program->Settings().root.IndentItems.Set(1);
+  RunRow(1);
+  EXPECT_EQ(asked.back(), L"text 611|text 612|0");
+  EXPECT_FALSE(IsOpen());
+  PumpMessages();
+  EXPECT_EQ(heard.size(), 1u);
+  EXPECT_TRUE(savedWhenHeard);
+  EXPECT_FALSE(HasValue(L"IndentItems")) << "edits of before are not saved over the import";
+  EXPECT_TRUE(device.files.Find(L"\\My Documents\\TW_BeforeImport.twsb"));
+  EXPECT_EQ(backupsAsked.back(), L"Import TW Settings|\\My Documents||twsb");
+}
+
+TEST_F(DoneTest, AFileThatIsNoBackupIsRefusedAndTheProgramGoesOn) {
+  Start();
+  TapBar(true);
+  for (const wchar_t* path : {L"\\absent.twsb", L"\\header.twsb"}) {
+    device.files.Put(L"\\header.twsb", std::string_view("[\0", 2));
+    backup = path;
+    RunRow(1);
+    EXPECT_EQ(asked.back(), L"text 609|text 610|0") << path;
+    EXPECT_TRUE(IsOpen());
+  }
+  EXPECT_TRUE(heard.empty());
+}
+
 }  // namespace
 
 }  // namespace tidewell

@@ -24,8 +24,8 @@ class ProgramTest : public testing::Test {
  protected:
   ProgramTest() {
     MemoryLibraries::Texts texts;
-    for (const std::uint32_t id :
-         {613, 614, 617, 618, 619, 620, 621, 622, 624, 625, 626, 1259, 1260, 1432}) {
+    for (const std::uint32_t id : {607, 608, 609, 610, 611, 612, 613, 614,  617,  618,
+                                   619, 620, 621, 622, 624, 625, 626, 1259, 1260, 1432}) {
       texts[id] = L"text " + std::to_wstring(id);
     }
     device.libraries.Put(kEnglishLibrary, std::move(texts));
@@ -50,6 +50,12 @@ class ProgramTest : public testing::Test {
             [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
               asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
               return answer;
+            },
+            [this](const DialogContext&, FileNameRequest& request) {
+              backupsAsked.push_back(request.title + L"|" + request.folder + L"|" +
+                                     request.initialName + L"|" + request.extension);
+              request.resultPath = backup;
+              return !backup.empty();
             }};
   }
 
@@ -113,6 +119,8 @@ class ProgramTest : public testing::Test {
   std::vector<PimCategory> categories;
   std::vector<std::wstring> asked;
   int answer = IDNO;
+  std::wstring backup;  // chosen in the file name dialog; empty cancels it
+  std::vector<std::wstring> backupsAsked;
   bool hasPages = false;
   std::vector<int> pagesAsked;
   std::vector<std::wstring> captionsSeen;

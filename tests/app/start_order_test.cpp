@@ -80,13 +80,13 @@ class StartOrderTest : public testing::Test {
     auto program = std::make_unique<MainWindow>(
         GetModuleHandleW(nullptr),
         Machine{registry_, device_.files, device_.locale, libraries_, system},
-        MainWindowParts{
-            [](int, HWND, PageContext&) { return nullptr; },
-            [this](const std::wstring& icons) {
-              journal.push_back(L"categories " + icons);
-              return std::make_unique<ListedCategories>(std::vector<PimCategory>{});
-            },
-            [](HWND, const std::wstring&, const std::wstring&, UINT) { return IDYES; }});
+        MainWindowParts{[](int, HWND, PageContext&) { return nullptr; },
+                        [this](const std::wstring& icons) {
+                          journal.push_back(L"categories " + icons);
+                          return std::make_unique<ListedCategories>(std::vector<PimCategory>{});
+                        },
+                        [](HWND, const std::wstring&, const std::wstring&, UINT) { return IDYES; },
+                        [](const DialogContext&, FileNameRequest&) { return false; }});
     EXPECT_TRUE(program->Create());
     return program;
   }
