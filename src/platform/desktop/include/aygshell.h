@@ -134,8 +134,8 @@ BOOL TransparentImage(HDC hdcDest, LONG DstX, LONG DstY, LONG DstCx, LONG DstCy,
 
 // The icon of a file or folder. A desktop's own knows no path without a drive.
 #undef SHGetFileInfo
-DWORD_PTR SHGetFileInfo(LPCTSTR pszPath, DWORD dwFileAttributes, SHFILEINFOW* psfi,
-                        UINT cbFileInfo, UINT uFlags);
+DWORD_PTR SHGetFileInfo(LPCTSTR pszPath, DWORD dwFileAttributes, SHFILEINFOW* psfi, UINT cbFileInfo,
+                        UINT uFlags);
 
 #ifdef __cplusplus
 }
