@@ -39,6 +39,7 @@ test_packages=(
   g++ googletest                    # the core, native
   clang libclang-rt-14-dev          # the fuzz targets
   clang-format clang-tidy           # the lint
+  clang-format clang-tidy           # the lint
 )
 
 have_package() { dpkg-query -W -f '${Status}' "$1" 2>/dev/null | grep -q '^install ok installed'; }
