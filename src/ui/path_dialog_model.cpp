@@ -77,7 +77,7 @@ bool PathDialogModel::Shows(const FileEntry& entry) const {
   return entry.isFolder || (request_.pattern && FitsAnyPattern(entry.name, *request_.pattern));
 }
 
-void PathDialogModel::Enter(std::wstring folder) {
+void PathDialogModel::Enter(const std::wstring& folder) {
   folder_ = NearestFolder(files_, folder);
   FolderListing listing = ListFolder(files_, locale_, JoinPath(folder_, L"*"),
                                      [&](const FileEntry& entry) { return Shows(entry); });

@@ -56,7 +56,7 @@ class PathDialogModel {
 
  private:
   bool Shows(const FileEntry& entry) const;
-  void Enter(std::wstring folder);
+  void Enter(const std::wstring& folder);
   void Suggest(std::wstring_view name);
   std::wstring PathOf(std::size_t row) const;
 
