@@ -278,9 +278,11 @@ LRESULT MainWindow::OnActivate(WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT MainWindow::OnPaint() {
-  const BufferedPaint paint(window_);
-  list_.Paint(paint.Dc());
-  commandBar_.Paint(paint.Dc(), BarArea(), scale_);
+  // The list has a bitmap of its own; a second one of the whole window would only cost memory.
+  const PaintDc screen(window_);
+  list_.Paint(screen.Dc());
+  const BufferedArea bar(screen.Dc(), BarArea());
+  commandBar_.Paint(bar.Dc(), bar.Area(), scale_);
   return 0;
 }
 

@@ -94,30 +94,66 @@ class MemoryBitmap {
   HGDIOBJ previous_ = nullptr;
 };
 
-// The device context of a WM_PAINT, with a bitmap of the client's size that reaches the screen in
-// one block when the scope ends.
-class BufferedPaint {
+// The device context of a WM_PAINT.
+class PaintDc {
  public:
-  explicit BufferedPaint(HWND window) : window_(window), screen_(BeginPaint(window, &paint_)) {
-    GetClientRect(window, &client_);
-    buffer_ = MemoryBitmap(screen_, client_.right, client_.bottom);
-  }
-  BufferedPaint(const BufferedPaint&) = delete;
-  BufferedPaint& operator=(const BufferedPaint&) = delete;
-  ~BufferedPaint() {
-    BitBlt(screen_, 0, 0, client_.right, client_.bottom, buffer_.Dc(), 0, 0, SRCCOPY);
-    EndPaint(window_, &paint_);
-  }
+  explicit PaintDc(HWND window) : window_(window), dc_(BeginPaint(window, &paint_)) {}
+  PaintDc(const PaintDc&) = delete;
+  PaintDc& operator=(const PaintDc&) = delete;
+  ~PaintDc() { EndPaint(window_, &paint_); }
 
-  HDC Dc() const { return buffer_.Dc(); }
-  const RECT& Client() const { return client_; }
+  HDC Dc() const { return dc_; }
 
  private:
   HWND window_;
   PAINTSTRUCT paint_;
-  HDC screen_;
-  RECT client_{};
+  HDC dc_;
+};
+
+// A bitmap in place of an area of a device context; it gets there in one block when the scope ends.
+class BufferedArea {
+ public:
+  BufferedArea(HDC target, const RECT& place)
+      : target_(target),
+        place_(place),
+        area_{0, 0, place.right - place.left, place.bottom - place.top},
+        buffer_(target, area_.right, area_.bottom) {}
+  BufferedArea(const BufferedArea&) = delete;
+  BufferedArea& operator=(const BufferedArea&) = delete;
+  ~BufferedArea() {
+    BitBlt(target_, place_.left, place_.top, area_.right, area_.bottom, buffer_.Dc(), 0, 0,
+           SRCCOPY);
+  }
+
+  HDC Dc() const { return buffer_.Dc(); }
+  // The whole of it, in its own coordinates.
+  const RECT& Area() const { return area_; }
+
+ private:
+  HDC target_;
+  RECT place_;
+  RECT area_;
   MemoryBitmap buffer_;
+};
+
+inline RECT ClientArea(HWND window) {
+  RECT area{};
+  GetClientRect(window, &area);
+  return area;
+}
+
+// A WM_PAINT that draws the whole client area into a bitmap first.
+class BufferedPaint {
+ public:
+  explicit BufferedPaint(HWND window)
+      : screen_(window), buffer_(screen_.Dc(), ClientArea(window)) {}
+
+  HDC Dc() const { return buffer_.Dc(); }
+  const RECT& Client() const { return buffer_.Area(); }
+
+ private:
+  PaintDc screen_;
+  BufferedArea buffer_;
 };
 
 // A window's device context outside WM_PAINT; null stands for the screen.
