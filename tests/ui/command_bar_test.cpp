@@ -29,15 +29,6 @@ TEST(CommandBar, TellsTheCommandOfTheButtonAtAPoint) {
   EXPECT_EQ(bar.CommandAt(kBar, {10, 220}), std::nullopt);
 }
 
-TEST(CommandBar, ChangesItsLooksOnlyOverAButton) {
-  CommandBar bar;
-  bar.SetButton(CommandBar::kLeftSlot, Picture(), 7);
-  EXPECT_FALSE(bar.ShowPressed(kBar, POINT{100, 220}));
-  EXPECT_TRUE(bar.ShowPressed(kBar, POINT{10, 220}));
-  EXPECT_FALSE(bar.ShowPressed(kBar, POINT{12, 220}));
-  EXPECT_TRUE(bar.ShowPressed(kBar, std::nullopt));
-}
-
 }  // namespace
 
 }  // namespace tidewell
