@@ -2,73 +2,17 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "driven_program.h"
-#include "system_registry.h"
+#include "device_fixture.h"
 
 namespace tidewell::device {
 
 namespace {
 
 constexpr int kExitRow = 2;  // of the tools list
-
-// A top-level window of this process that hears broadcasts, hidden unless it is asked for.
-class Listener {
- public:
-  Listener() {
-    WNDCLASSW listenerClass{};
-    listenerClass.lpfnWndProc = WindowProc;
-    listenerClass.lpszClassName = L"DeviceTestListener";
-    RegisterClassW(&listenerClass);
-    window_ = CreateWindowExW(0, L"DeviceTestListener", L"", WS_POPUP, 0, 0, 100, 100, nullptr,
-                              nullptr, nullptr, nullptr);
-    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  }
-  ~Listener() { DestroyWindow(window_); }
-
-  HWND Window() const { return window_; }
-
-  // Everything that was posted before this call has arrived after it.
-  void HearAllPosted() {
-    const int marker = ++markers_;
-    PostMessageW(window_, kMarker, static_cast<WPARAM>(marker), 0);
-    WaitUntil([this, marker] { return seenMarker_ == marker; });
-  }
-
-  std::vector<std::pair<WPARAM, LPARAM>> heard;
-  std::function<void()> onHeard = [] {};
-
- private:
-  static constexpr UINT kMarker = WM_APP;
-
-  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    static const UINT changed = RegisterWindowMessageW(L"VelmontTidewellSettingsChanged");
-    auto* self = reinterpret_cast<Listener*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (self && message == changed) {
-      self->heard.emplace_back(wParam, lParam);
-      self->onHeard();
-      return 0;
-    }
-    if (self && message == kMarker) self->seenMarker_ = static_cast<int>(wParam);
-    return DefWindowProcW(window, message, wParam, lParam);
-  }
-
-  HWND window_ = nullptr;
-  int markers_ = 0;
-  int seenMarker_ = 0;
-};
-
-int CountMainWindows() {
-  int count = 0;
-  for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, kMainClass, nullptr));) {
-    ++count;
-  }
-  return count;
-}
 
 // Renames a file of the installed program and gives it its name back.
 class HiddenFile {
@@ -89,17 +33,6 @@ void AskToExit(DrivenProgram& program) {
   program.Press(VK_DOWN, kExitRow);
   program.Press(VK_RETURN);
 }
-
-class DeviceTest : public testing::Test {
- protected:
-  void SetUp() override {
-    ForgetProductKeys();
-    ASSERT_EQ(CountMainWindows(), 0) << "a program is left over from before";
-  }
-  void TearDown() override { ForgetProductKeys(); }
-
-  Listener listener_;
-};
 
 TEST_F(DeviceTest, DoneOnANewDeviceStoresNoValue) {
   DrivenProgram program;

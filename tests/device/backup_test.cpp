@@ -1,0 +1,280 @@
+// Export and import on the running program, seen through the system's own reg tool and files; and
+// the program killed while it writes.
+#include <gmock/gmock.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "device_fixture.h"
+#include "settings/settings_store.h"
+#include "tests/support/utf8.h"
+
+namespace tidewell::device {
+
+namespace {
+
+constexpr int kKills = 20;
+constexpr wchar_t kDocuments[] = L"C:\\My Documents";
+constexpr wchar_t kBackup[] = L"C:\\My Documents\\device_test.twsb";
+constexpr wchar_t kCopy[] = L"C:\\My Documents\\TW_BeforeImport.twsb";
+constexpr wchar_t kFiltersFile[] = L"C:\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
+
+enum class Tool { kExport = 0, kImport = 1 };  // their rows
+
+std::string ReadFileBytes(const wchar_t* path) {
+  std::string bytes;
+  const HANDLE file =
+      CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return bytes;
+  bytes.resize(GetFileSize(file, nullptr));
+  DWORD read = 0;
+  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
+  CloseHandle(file);
+  bytes.resize(read);
+  return bytes;
+}
+
+void WriteFileBytes(const wchar_t* path, const std::string& bytes) {
+  const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+  DWORD written = 0;
+  WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+  CloseHandle(file);
+}
+
+// A text as the reg tool takes it between quotes.
+std::string Escaped(const std::string& text) {
+  std::string escaped;
+  for (const char c : text) {
+    if (c == '\\' || c == '"') escaped += '\\';
+    escaped += c;
+  }
+  return escaped;
+}
+
+// Every stored setting with a value that is not its default, as the reg tool reads it.
+class ChangedSettings final : public SettingVisitor {
+ public:
+  using SettingVisitor::Visit;
+  void Visit(DwordSetting& setting) override {
+    Head(setting.Key());
+    char line[16];
+    std::snprintf(line, sizeof line, "%08x", ++number_);
+    text_ += '"' + Utf8(setting.Name()) + "\"=dword:" + line + '\n';
+  }
+  void Visit(StringSetting& setting) override {
+    Head(setting.Key());
+    // The filters file stays where it is.
+    if (setting.Name() == L"TWFiltersFileFolder") return;
+    text_ += '"' + Utf8(setting.Name()) + "\"=\"" +
+             Escaped("\\text " + std::to_string(++number_) + " \"50%\"") + "\"\n";
+  }
+  void Visit(FlagArraySetting&) override {}
+
+  std::string Take() { return std::move(text_); }
+
+ private:
+  void Head(SettingKey key) {
+    if (key == key_) return;
+    key_ = key;
+    text_ += "\n[HKEY_CURRENT_USER\\" + Utf8(LocationOf(key).path) + "]\n";
+  }
+
+  SettingKey key_ = SettingKey::kTodayItem;
+  unsigned number_ = 1000;
+  std::string text_;
+};
+
+std::string EverySettingChanged() {
+  SettingsStore store;
+  ChangedSettings changed;
+  for (SettingGroup* group : store.Groups()) {
+    const KeyLocation location = LocationOf(group->Key());
+    if (location.root == RegistryRoot::kCurrentUser &&
+        std::wstring_view(location.path).starts_with(L"Software\\Velmont")) {
+      group->Accept(changed);
+    }
+  }
+  return changed.Take();
+}
+
+class BackupDeviceTest : public DeviceTest {
+ protected:
+  void SetUp() override {
+    DeviceTest::SetUp();
+    CreateDirectoryW(kDocuments, nullptr);
+    RemoveFiles();
+  }
+  void TearDown() override {
+    RemoveFiles();
+    DeviceTest::TearDown();
+  }
+
+  // The tool's dialog, with the backup's name in its field; null when it never came.
+  static HWND OpenDialog(DrivenProgram& program, Tool tool) {
+    if (!program.WaitForMainWindow()) return nullptr;
+    program.TapRightButton();
+    program.Press(VK_DOWN, static_cast<int>(tool));
+    PostMessageW(program.Main(), WM_KEYDOWN, VK_RETURN, 1);
+    const HWND dialog = program.WaitForPopup();
+    const HWND field = FindWindowExW(dialog, nullptr, L"Edit", nullptr);
+    SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"device_test"));
+    return dialog;
+  }
+  // The text of the message that follows on the confirmed dialog; the message is answered.
+  static bool RunTool(DrivenProgram& program, Tool tool) {
+    const HWND dialog = OpenDialog(program, tool);
+    if (!dialog) return false;
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+    HWND message = nullptr;
+    const bool told = WaitUntil([&] {
+      message = GetLastActivePopup(program.Main());
+      return message != dialog && message != program.Main() && IsReady(message);
+    });
+    if (!told) return false;
+    PostMessageW(message, WM_COMMAND, IDOK, 0);
+    return true;
+  }
+  static void EndWithDone(DrivenProgram& program) {
+    program.TapRightButton();
+    program.TapOk();
+    EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  }
+  // An export from beginning to end; the backup's bytes.
+  static std::string Export() {
+    DrivenProgram program;
+    EXPECT_TRUE(RunTool(program, Tool::kExport));
+    EXPECT_TRUE(program.WaitForPopupToGo());
+    program.GetProcess().Kill();
+    return ReadFileBytes(kBackup);
+  }
+
+  static void RemoveFiles() {
+    for (const wchar_t* path : {kBackup, kCopy, kFiltersFile}) {
+      DeleteFileW(path);
+      DeleteFileW((std::wstring(path) + L".new").c_str());
+    }
+  }
+  // Enough values that the work on them takes a while.
+  static std::string ManyValues(int number) {
+    std::string text;
+    for (int key = 0; key < 20; ++key) {
+      text +=
+          "\n[HKEY_CURRENT_USER\\Software\\Velmont\\Tidewell\\Other" + std::to_string(key) + "]\n";
+      for (int i = 0; i < 50; ++i) {
+        text += "\"Value" + std::to_string(i) + "\"=dword:0000000" + std::to_string(number) + '\n';
+      }
+    }
+    return text;
+  }
+
+  // Confirms what is in front and kills the program at some moment of the next while.
+  void ConfirmAndKill(DrivenProgram& program, HWND window, DWORD milliseconds) {
+    PostMessageW(window, WM_COMMAND, IDOK, 0);
+    Sleep(std::uniform_int_distribution<DWORD>(0, milliseconds)(random_));
+    program.GetProcess().Kill();
+  }
+
+  std::mt19937 random_{20261115};
+};
+
+TEST_F(BackupDeviceTest, AWipedDeviceIsTheSameAfterTheImportOfItsBackup) {
+  ASSERT_TRUE(ImportRegistry(EverySettingChanged()));
+  ASSERT_TRUE(ImportRegistry(R"(
+[HKEY_CURRENT_USER\Software\Velmont\Tidewell\Categories]
+"CatColor.Business"=dword:000000ff
+"CatFilter.Business"=dword:80000001
+"CatColor.Home"=dword:00000000
+
+[HKEY_CURRENT_USER\Software\Velmont\Tidewell\Notes\Folders\Deep]
+"Not ours"="kept as well"
+)"));
+  const std::string tree = QueryProductTree();
+  {
+    DrivenProgram program;
+    ASSERT_TRUE(program.WaitForMainWindow());
+    program.GetProcess().Kill();
+  }
+  ASSERT_FALSE(Export().empty());
+  ASSERT_EQ(QueryProductTree(), tree);
+
+  ForgetProductKeys();
+  listener_.HearAllPosted();
+  listener_.heard.clear();
+  std::string treeWhenHeard = "never heard";
+  listener_.onHeard = [&] { treeWhenHeard = QueryProductTree(); };
+  DrivenProgram program;
+  ASSERT_TRUE(RunTool(program, Tool::kImport));
+  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  listener_.HearAllPosted();
+  EXPECT_EQ(listener_.heard, (std::vector<std::pair<WPARAM, LPARAM>>{{0, 0}}));
+  EXPECT_EQ(QueryProductTree(), tree);
+  EXPECT_EQ(treeWhenHeard, tree);
+  EXPECT_EQ(ReadFileBytes(kFiltersFile).size(), 6362u);  // the 32 defaults
+}
+
+TEST_F(BackupDeviceTest, AKilledExportLeavesTheOldBackupOrTheNewOne) {
+  ASSERT_TRUE(ImportRegistry(ManyValues(1)));
+  const std::string old = Export();
+  ASSERT_TRUE(ImportRegistry(ManyValues(2)));
+  const std::string current = Export();
+  ASSERT_NE(old, current);
+  ASSERT_FALSE(old.empty());
+  for (int i = 0; i < kKills; ++i) {
+    WriteFileBytes(kBackup, old);
+    DrivenProgram program;
+    const HWND dialog = OpenDialog(program, Tool::kExport);
+    ASSERT_TRUE(dialog);
+    ConfirmAndKill(program, dialog, 150);
+    EXPECT_THAT(ReadFileBytes(kBackup), testing::AnyOf(old, current)) << i;
+  }
+}
+
+TEST_F(BackupDeviceTest, AKilledImportLeavesTheBackupAndACopyOfWhatWasThere) {
+  ASSERT_TRUE(ImportRegistry(ManyValues(1)));
+  const std::string old = Export();
+  ASSERT_TRUE(ImportRegistry(ManyValues(2)));
+  const std::string current = Export();
+  WriteFileBytes(kBackup, old);
+  for (int i = 0; i < kKills; ++i) {
+    DeleteFileW(kCopy);
+    ForgetProductKeys();
+    ASSERT_TRUE(ImportRegistry(ManyValues(2)));
+    DrivenProgram program;
+    const HWND dialog = OpenDialog(program, Tool::kImport);
+    ASSERT_TRUE(dialog);
+    ConfirmAndKill(program, dialog, 300);
+    EXPECT_EQ(ReadFileBytes(kBackup), old) << i;
+    EXPECT_THAT(ReadFileBytes(kCopy), testing::AnyOf(std::string(), current)) << i;
+  }
+  // Whatever moment was the last: the program starts, and the import comes to its end.
+  DrivenProgram program;
+  ASSERT_TRUE(RunTool(program, Tool::kImport));
+  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  EXPECT_EQ(Export(), old);
+}
+
+TEST_F(BackupDeviceTest, AKilledDoneLeavesTheOldFiltersFileOrTheNewOne) {
+  {
+    DrivenProgram program;
+    ASSERT_TRUE(program.WaitForMainWindow());
+    program.TapOk();
+    ASSERT_EQ(program.GetProcess().WaitForExit(), 0u);
+  }
+  const std::string defaults = ReadFileBytes(kFiltersFile);
+  ASSERT_EQ(defaults.size(), 6362u);
+  const std::string cutOff = defaults.substr(0, 3000);  // read as the defaults, so written anew
+  for (int i = 0; i < kKills; ++i) {
+    WriteFileBytes(kFiltersFile, cutOff);
+    DrivenProgram program;
+    ASSERT_TRUE(program.WaitForMainWindow());
+    ConfirmAndKill(program, program.Main(), 40);
+    EXPECT_THAT(ReadFileBytes(kFiltersFile), testing::AnyOf(cutOff, defaults)) << i;
+  }
+  DrivenProgram program;
+  EXPECT_TRUE(program.WaitForMainWindow());
+}
+
+}  // namespace
+
+}  // namespace tidewell::device
