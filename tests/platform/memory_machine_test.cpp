@@ -7,7 +7,6 @@
 #include "tests/platform/files_contract.h"
 #include "tests/platform/registry_contract.h"
 #include "tests/support/registry_support.h"
-#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
@@ -57,53 +56,6 @@ INSTANTIATE_TEST_SUITE_P(
         FilesAnswer{"Memory", [] { return std::make_unique<MemoryFilesUnderTest>(false); }},
         FilesAnswer{"Metered", [] { return std::make_unique<MemoryFilesUnderTest>(true); }}),
     NameOfFilesAnswer);
-
-TEST(MemoryRegistry, EnumeratesInTheOrderAskedFor) {
-  for (const auto order : {MemoryRegistry::Order::kAsWritten, MemoryRegistry::Order::kSorted}) {
-    MemoryRegistry registry(order);
-    const auto key = registry.Create(RegistryRoot::kCurrentUser, L"Key");
-    std::string values;
-    std::string subkeys;
-    for (const wchar_t* name : {L"b", L"C", L"a"}) {
-      key->Set(name, kTypeBinary, {});
-      registry.Create(RegistryRoot::kCurrentUser, std::wstring(L"Key\\") + name);
-    }
-    EnumeratedValue value;
-    std::wstring name;
-    for (std::uint32_t i = 0; i < 3; ++i) {
-      ASSERT_EQ(key->EnumValue(i, 9, 9, value), kStatusSuccess);
-      ASSERT_EQ(key->EnumSubkey(i, 9, name), kStatusSuccess);
-      values += Utf8(value.name);
-      subkeys += Utf8(name);
-    }
-    EXPECT_EQ(values, order == MemoryRegistry::Order::kSorted ? "abC" : "bCa");
-    EXPECT_EQ(subkeys, values);
-  }
-}
-
-TEST(MeteredRegistry, CountsAndWritesDownWhatWasDone) {
-  MemoryRegistry memory;
-  MeteredRegistry registry(memory);
-  SetDword(registry, RegistryRoot::kCurrentUser, L"Key", L"Number", 1);
-  {
-    const auto key = registry.Open(RegistryRoot::kCurrentUser, L"Key");
-    key->DeleteValue(L"Absent");
-    key->Flush();
-  }
-  registry.DeleteTree(RegistryRoot::kLocalMachine, L"Key");
-  EXPECT_EQ(registry.Count(RegistryCall::kClose), 2);
-  EXPECT_EQ(registry.Count(RegistryCall::kFlush), 1);
-  EXPECT_EQ(registry.CountWrites(), 3);
-  EXPECT_EQ(registry.Meter().FailableCount(), 5);
-
-  std::string log;
-  for (const auto& entry : registry.Meter().Log()) {
-    log += Utf8(entry.path) + (entry.succeeded ? "\n" : " failed\n");
-  }
-  EXPECT_EQ(
-      log, "HKCU\\Key\nHKCU\\Key\\Number\nHKCU\\Key\nHKCU\\Key\\Absent failed\nHKLM\\Key failed\n");
-  EXPECT_EQ(registry.Meter().Paths(RegistryCall::kOpen), std::vector<std::wstring>{L"HKCU\\Key"});
-}
 
 TEST(MeteredRegistry, FailsTheCallsItIsToldTo) {
   MemoryRegistry memory;
@@ -184,20 +136,6 @@ TEST(MeteredFiles, FailsEveryKindOfCallAndLeavesTheFilesAlone) {
   EXPECT_EQ(memory.Contents(L"\\file")->size(), 4u);
   EXPECT_EQ(memory.Contents(L"\\other")->size(), 0u);
   EXPECT_FALSE(memory.Find(L"\\folder"));
-}
-
-TEST(MemoryLibraries, GiveTheirTextsAndKnowWhoIsLoaded) {
-  MemoryLibraries libraries;
-  libraries.Put(L"\\LangRes\\A.dll", {{5, L"five"}, {6, L""}});
-  EXPECT_EQ(libraries.Load(L"\\LangRes\\B.dll"), nullptr);
-  auto library = libraries.Load(L"\\langres\\a.DLL");
-  ASSERT_TRUE(library);
-  EXPECT_EQ(library->FindText(5), L"five");
-  EXPECT_EQ(library->FindText(6), std::nullopt);
-  EXPECT_EQ(library->FindText(7), std::nullopt);
-  EXPECT_EQ(libraries.LoadedCount(), 1);
-  library.reset();
-  EXPECT_EQ(libraries.LoadedCount(), 0);
 }
 
 TEST(FixedLocale, FormatsDatesAndTimes) {

@@ -1,10 +1,13 @@
 // A resource library opened for a test, as the program opens it.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
+#include <fstream>
 #include <map>
 #include <memory>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -16,18 +19,16 @@ struct LibraryCloser {
 using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
 
 inline std::wstring Widen(const std::string& utf8) {
-  const int size = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), nullptr, 0);
-  std::wstring text(size_t(size), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), text.data(), size);
+  std::wstring text(utf8.size(), L'\0');
+  text.resize(size_t(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), text.data(),
+                                         int(text.size()))));
   return text;
 }
 
 inline std::string Narrow(const std::wstring& text) {
-  const int size =
-      WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0, nullptr, nullptr);
-  std::string utf8(size_t(size), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), utf8.data(), size, nullptr,
-                      nullptr);
+  std::string utf8(text.size() * 3, '\0');
+  utf8.resize(size_t(WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), utf8.data(),
+                                         int(utf8.size()), nullptr, nullptr)));
   return utf8;
 }
 
@@ -58,6 +59,35 @@ inline std::map<int, std::wstring> TextsOf(const Library& library) {
     if (length > 0) texts.emplace(id, std::wstring(buffer, size_t(length)));
   }
   return texts;
+}
+
+struct NamedText {
+  std::string name;
+  std::wstring english;
+};
+
+// What the header promises: name and English text by number.
+inline std::map<int, NamedText> HeaderTexts() {
+  std::map<int, NamedText> texts;
+  std::ifstream header(TEXT_IDS_HEADER);
+  const std::regex pattern(R"(#define (IDS_\w+) (\d+) +// (.*))");
+  std::string line;
+  std::smatch match;
+  while (std::getline(header, line)) {
+    if (line.starts_with("#define") && !std::regex_match(line, match, pattern)) {
+      ADD_FAILURE() << line;
+    } else if (!match.empty()) {
+      const bool added =
+          texts.try_emplace(std::stoi(match[2]), match[1].str(), Widen(match[3].str())).second;
+      EXPECT_TRUE(added) << "number used twice: " << line;
+    }
+    match = {};
+  }
+  return texts;
+}
+
+inline std::string BareName(const testing::TestParamInfo<std::string>& library) {
+  return library.param.substr(0, library.param.find('.'));
 }
 
 }  // namespace tidewell

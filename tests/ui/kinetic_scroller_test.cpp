@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fstream>
 #include <functional>
 #include <sstream>
 #include <string>
+#include <tuple>
+#include <vector>
 
 namespace tidewell {
 namespace {
@@ -66,6 +70,9 @@ class Recorder : public ScrollerHost, public ScrollerClient {
   std::ostringstream notes;
 };
 
+template <typename... Columns>
+using Table = const std::vector<std::tuple<Columns...>>;
+
 constexpr ScrollView kView{10, 20, 200, 100};
 
 class Scroller : public testing::Test {
@@ -93,30 +100,20 @@ class Scroller : public testing::Test {
 
   std::string Perform(const std::string& input) {
     std::istringstream words(input);
-    std::string verb, at;
+    std::string verb;
     words >> verb;
     if (verb == "run") return Run();
     int first = 0, second = 0;
-    bool consumed = false;
-    const auto ticks = [&at] { return static_cast<std::uint32_t>(std::stoul(at.substr(1))); };
-    if (verb == "down") {
-      words >> first >> second >> at;
-      consumed = scroller_.PointerDown(first, second, ticks());
-    } else if (verb == "move") {
-      words >> first >> at;
-      consumed = scroller_.PointerMove(first, ticks());
-    } else if (verb == "up") {
-      words >> first;
-      consumed = scroller_.PointerUp(first);
-    } else if (verb == "lost") {
-      consumed = scroller_.PointerLost();
-    } else if (verb == "timer") {
-      words >> first;
-      consumed = scroller_.Timer(static_cast<unsigned>(first));
-    } else {
-      ADD_FAILURE() << "unknown input: " << input;
-    }
-    return consumed ? recorder_.TakeNotes() : "ignored" + recorder_.TakeNotes();
+    words >> first >> second;
+    const auto at = input.find('@');
+    const std::uint32_t now =
+        at < input.size() ? static_cast<std::uint32_t>(std::stoul(input.substr(at + 1))) : 0;
+    const bool consumed = verb == "down"   ? scroller_.PointerDown(first, second, now)
+                          : verb == "move" ? scroller_.PointerMove(first, now)
+                          : verb == "up"   ? scroller_.PointerUp(first)
+                          : verb == "lost" ? scroller_.PointerLost()
+                                           : scroller_.Timer(static_cast<unsigned>(first));
+    return (consumed ? "" : "ignored") + recorder_.TakeNotes();
   }
 
   std::string Run() {
@@ -135,255 +132,61 @@ class Scroller : public testing::Test {
 };
 
 struct Gesture {
-  const char* name;
-  int contentHeight;
-  int offset;
-  const char* transcript;
+  std::string name;
+  int contentHeight = 0;
+  int offset = 0;
+  std::string transcript;
 };
 
+// gestures.txt: a heading "NAME HEIGHT OFFSET" and a transcript, then an empty line.
+std::vector<Gesture> ReadGestures() {
+  std::vector<Gesture> gestures;
+  std::ifstream file(TIDEWELL_GESTURES);
+  bool inGesture = false;
+  for (std::string line; std::getline(file, line); inGesture = !line.empty()) {
+    line.erase(std::min(line.find("  #"), line.size()));
+    if (line.empty() || line[0] == '#') {
+      line.clear();
+    } else if (inGesture) {
+      gestures.back().transcript.append(line).append("\n");
+    } else {
+      Gesture& gesture = gestures.emplace_back();
+      std::istringstream(line) >> gesture.name >> gesture.contentHeight >> gesture.offset;
+    }
+  }
+  return gestures;
+}
+
 class Gestures : public Scroller, public testing::WithParamInterface<Gesture> {};
+INSTANTIATE_TEST_SUITE_P(Every, Gestures, testing::ValuesIn(ReadGestures()),
+                         [](const auto& which) { return which.param.name; });
 
 TEST_P(Gestures, FollowTheRules) {
   Start(GetParam().contentHeight, GetParam().offset);
   Expect(GetParam().transcript);
 }
 
-const Gesture kPresses[] = {
-    {"Tap", 400, -100,
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "move 91 @1040 >\n"
-     "up 85 > release, stop 1031, highlight 50 160, paint -100, update, wait 50, activate 50 "
-     "160\n"},
-    {"HoldThenTap", 400, -100,
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "timer 1031 > stop 1031, highlight 50 160, paint -100, update\n"
-     "timer 1031 >\n"
-     "up 80 > release, stop 1031, activate 50 160\n"},
-    {"HoldThenDrag", 400, -100,
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "timer 1031 > stop 1031, highlight 50 160, paint -100, update\n"
-     "move 92 @1200 > stop 1031, drag, paint -88, update\n"
-     "timer 1031 >\n"},
-    {"PressTakenAwayFromAHold", 400, 0,
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "timer 1031 > stop 1031, highlight 50 60, paint 0, update\n"
-     "lost > release, stop 1031, drag, paint 0, update\n"
-     "up 80 > ignored\n"},
-    {"PressTakenAwayFromADrag", 400, 0,
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "move 100 @1010 > stop 1031, drag, paint 20, update\n"
-     "lost > release, start 1032 50\n"
-     "run > 10 4 0 0\n"},
-    {"NothingPressed", 400, 0,
-     "move 50 @1 > ignored\n"
-     "up 50 > ignored\n"
-     "lost > ignored\n"
-     "timer 1030 >\n"
-     "timer 1031 >\n"
-     "timer 1032 >\n"
-     "timer 1033 > ignored\n"},
-};
-
-const Gesture kDrags[] = {
-    {"ReleaseWithSixPixelsOverTwoMovesRests", 400, -100,
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "move 92 @1030 > stop 1031, drag, paint -88, update\n"
-     "move 94 @1050 > paint -86, update\n"
-     "move 95 @1075 > paint -85, update\n"
-     "up 98 > release\n"
-     "down 50 80 @2000 > capture, start 1031 100\n"},
-    {"ReleaseWithSevenFlings", 400, -200,  // 45 / 45 * 7 = 7
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "move 92 @1030 > stop 1031, drag, paint -188, update\n"
-     "move 94 @1050 > paint -186, update\n"
-     "move 95 @1075 > paint -185, update\n"
-     "up 99 > release, start 1030 70\n"
-     "run > -178 -171 -165 -159 -153 -148 -143 -138 -133 -129 -125 -121 -117 -114 -111 -108 -105 "
-     "-102 -99 -96 -94\n"},
-    {"UpwardsTheCeilingRunsShorter", 400, -100,  // v = -7
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "move 68 @1030 > stop 1031, drag, paint -112, update\n"
-     "move 66 @1050 > paint -114, update\n"
-     "move 65 @1075 > paint -115, update\n"
-     "up 61 > release, start 1030 70\n"
-     "run > -121 -127 -132 -137 -142 -146 -150 -154 -158 -161 -164 -167 -170 -172 -174 -176 -178 "
-     "-180 -182 -184 -185\n"},
-    {"FlingFrom150SlowsInThreeBands", 4000, -2000,  // 45 / 30 * 100 = 150
-     "down 50 20 @1000 > capture, start 1031 100\n"
-     "move 120 @1030 > stop 1031, drag, paint -1900, update\n"
-     "up 120 > release, start 1030 70\n"
-     "timer 1030 > paint -1780, update\n"         // 120
-     "timer 1030 > paint -1684, update\n"         // 96
-     "timer 1030 > paint -1597, update\n"         // 86.4
-     "timer 1030 > paint -1519, update\n"         // 77.76
-     "timer 1030 > paint -1449, update\n"         // 69.984
-     "timer 1030 > paint -1386, update\n"         // 62.9856
-     "timer 1030 > paint -1329, update\n"         // 56.687
-     "timer 1030 > paint -1277, update\n"         // 51.018
-     "timer 1030 > paint -1231, update\n"         // 45.916
-     "timer 1030 > paint -1189, update\n"         // 41.325
-     "timer 1030 > paint -1151, update\n"         // 37.192
-     "timer 1030 > paint -1116, update\n"},       // 34.961
-    {"AVelocityOf200IsNotAbove200", 4000, -2000,  // 45 / 45 * 200
-     "down 50 20 @1000 > capture, start 1031 100\n"
-     "move 220 @1045 > stop 1031, drag, paint -1800, update\n"
-     "up 220 > release, start 1030 70\n"
-     "timer 1030 > paint -1640, update\n"         // 160
-     "timer 1030 > paint -1512, update\n"},       // 128
-    {"AVelocityOf100IsNotAbove100", 4000, -2000,  // 45 / 45 * -100
-     "down 50 120 @1000 > capture, start 1031 100\n"
-     "move 20 @1045 > stop 1031, drag, paint -2100, update\n"
-     "up 20 > release, start 1030 70\n"
-     "timer 1030 > paint -2190, update\n"              // -90
-     "timer 1030 > paint -2271, update\n"},            // -81
-    {"OneTickCountCountsAsAMillisecond", 4000, -2000,  // 45 / 1 * 7 = 315
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "move 92 @1010 > stop 1031, drag, paint -1988, update\n"
-     "move 93 @1010 > paint -1987, update\n"
-     "move 94 @1010 > paint -1986, update\n"
-     "up 99 > release, start 1030 70\n"
-     "timer 1030 > paint -1765, update\n"    // 220.5
-     "timer 1030 > paint -1610, update\n"    // 154.35
-     "timer 1030 > paint -1486, update\n"},  // 123.48
-    {"TicksWrapAround", 4000, -2000,         // 45 / (29 - -16) * 30 = 30
-     "down 50 50 @4294967280 > capture, start 1031 100\n"
-     "move 80 @29 > stop 1031, drag, paint -1970, update\n"
-     "up 80 > release, start 1030 70\n"
-     "timer 1030 > paint -1941, update\n"},       // 28.2
-    {"TooSlowToMoveAFlingEndsAtOnce", 400, -100,  // 45 / 1000 * 12 = 0.54
-     "down 50 80 @1000 > capture, start 1031 100\n"
-     "move 92 @2000 > stop 1031, drag, paint -88, update\n"
-     "up 92 > release, start 1030 70\n"
-     "timer 1030 > paint -88, update, stop 1030\n"
-     "down 50 80 @3000 > capture, start 1031 100\n"},
-};
-
-const Gesture kBounces[] = {
-    {"BeyondTheTop", 400, 0,
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 85 @1010 > stop 1031, drag, paint 25, update\n"
-     "move 85 @1020 > paint 25, update\n"
-     "move 85 @1030 > paint 25, update\n"
-     "up 85 > release, start 1032 50\n"
-     "timer 1032 > paint 12, update\n"
-     "timer 1032 > paint 4, update\n"
-     "timer 1032 > paint 0, update\n"
-     "timer 1032 > stop 1032, paint 0, update\n"
-     "down 50 60 @2000 > capture, start 1031 100\n"},
-    {"OnePixelBeyondTheTop", 400, -11,
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 72 @1010 > stop 1031, drag, paint 1, update\n"
-     "move 72 @1020 > paint 1, update\n"
-     "move 72 @1030 > paint 1, update\n"
-     "up 72 > release, start 1032 50\n"
-     "run > 0 0 0 0\n"},
-    {"BeyondTheBottom", 400, -300,
-     "down 50 100 @1000 > capture, start 1031 100\n"
-     "move 55 @1010 > stop 1031, drag, paint -345, update\n"
-     "move 55 @1020 > paint -345, update\n"
-     "move 55 @1030 > paint -345, update\n"
-     "up 55 > release, start 1032 50\n"
-     "run > -323 -319 -319 -300\n"},
-    {"ShortContentPulledDown", 60, 0,
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 90 @1010 > stop 1031, drag, paint 30, update\n"
-     "move 90 @1020 > paint 30, update\n"
-     "move 90 @1030 > paint 30, update\n"
-     "up 90 > release, start 1032 50\n"
-     "run > 15 6 1 0\n"},
-    {"ShortContentPushedUp", 60, 0,
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 30 @1010 > stop 1031, drag, paint -30, update\n"
-     "move 30 @1020 > paint -30, update\n"
-     "move 30 @1030 > paint -30, update\n"
-     "up 30 > release, start 1032 50\n"
-     "run > -15 -6 -1 0\n"},
-    {"FlingIntoTheEnd", 400, -20,  // 45 / 45 * 50 = 50, then 45
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 110 @1045 > stop 1031, drag, paint 30, update\n"
-     "up 110 > release, start 1030 70\n"
-     "timer 1030 > paint 75, update, start 1032 50, stop 1030\n"
-     "run > 37 14 2 0\n"
-     "down 50 60 @2000 > capture, start 1031 100\n"},
-};
-
-const Gesture kCatches[] = {
-    {"CatchingAFlingSelectsNothingAndTheNextTapDoes", 400, -200,
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 100 @1045 > stop 1031, drag, paint -160, update\n"
-     "up 100 > release, start 1030 70\n"
-     "timer 1030 > paint -122, update\n"  // 37.6
-     "down 50 60 @1200 > capture, stop 1030\n"
-     "timer 1030 >\n"
-     "timer 1031 >\n"
-     "up 60 > release\n"
-     "down 50 60 @1300 > capture, start 1031 100\n"
-     "up 60 > release, stop 1031, highlight 50 162, paint -122, update, wait 50, activate 50 "
-     "162\n"},
-    {"CatchingABounceSnaps", 400, 0,
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 100 @1010 > stop 1031, drag, paint 40, update\n"
-     "move 100 @1020 > paint 40, update\n"
-     "move 100 @1030 > paint 40, update\n"
-     "up 100 > release, start 1032 50\n"
-     "timer 1032 > paint 20, update\n"
-     "down 50 60 @1200 > capture, stop 1032, paint 0, update\n"
-     "timer 1032 >\n"
-     "up 60 > release\n"},
-    {"CatchingTheBounceOfASlowFling", 400, -25,  // 45 / 600 * 27 = 2.025, then 1.88
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 85 @1600 > stop 1031, drag, paint 0, update\n"
-     "up 87 > release, start 1030 70\n"
-     "timer 1030 > paint 2, update, start 1032 50, stop 1030\n"
-     "down 50 60 @2000 > capture, stop 1032, paint 0, update\n"
-     "up 60 > release\n"},
-    {"ACaughtListDragsOnAndLeavesNoTrace", 400, -200,
-     "down 50 60 @1000 > capture, start 1031 100\n"
-     "move 100 @1045 > stop 1031, drag, paint -160, update\n"
-     "up 100 > release, start 1030 70\n"
-     "down 50 60 @1100 > capture, stop 1030\n"
-     "move 72 @1110 > stop 1031, drag, paint -148, update\n"
-     "move 72 @1120 > paint -148, update\n"
-     "move 72 @1130 > paint -148, update\n"
-     "up 72 > release\n"
-     "down 50 60 @2000 > capture, start 1031 100\n"
-     "up 60 > release, stop 1031, highlight 50 188, paint -148, update, wait 50, activate 50 "
-     "188\n"},
-};
-
-std::string NameOf(const testing::TestParamInfo<Gesture>& info) {
-  return info.param.name;
+TEST(GestureFile, IsRead) {
+  EXPECT_GE(ReadGestures().size(), 25u);
 }
-INSTANTIATE_TEST_SUITE_P(Presses, Gestures, testing::ValuesIn(kPresses), NameOf);
-INSTANTIATE_TEST_SUITE_P(Drags, Gestures, testing::ValuesIn(kDrags), NameOf);
-INSTANTIATE_TEST_SUITE_P(Bounces, Gestures, testing::ValuesIn(kBounces), NameOf);
-INSTANTIATE_TEST_SUITE_P(Catches, Gestures, testing::ValuesIn(kCatches), NameOf);
 
 TEST_F(Scroller, ThePressMustHitTheViewEdgesIncluded) {
-  struct Case {
-    int x, y;
-    bool hit;
-  };
-  const Case cases[] = {{10, 20, true},  {210, 120, true}, {9, 20, false},
-                        {10, 19, false}, {211, 60, false}, {50, 121, false}};
-  for (const Case& c : cases) {
+  Table<int, int, bool> cases{{10, 20, true},  {210, 120, true}, {9, 20, false},
+                              {10, 19, false}, {211, 60, false}, {50, 121, false}};
+  for (const auto& [x, y, isHit] : cases) {
     Start(400, 0);
-    EXPECT_EQ(scroller_.PointerDown(c.x, c.y, 0), c.hit) << c.x << "," << c.y;
+    EXPECT_EQ(scroller_.PointerDown(x, y, 0), isHit) << x << "," << y;
   }
 }
 
 TEST_F(Scroller, TheDeadZoneGrowsWithTheResolution) {
-  struct Case {
-    int dpi, distance;
-    bool drags;
-  };
-  const Case cases[] = {{96, 11, false},  {96, 12, true},  {96, -11, false}, {96, -12, true},
-                        {131, 15, false}, {131, 16, true}, {192, 23, false}, {192, 24, true}};
-  for (const Case& c : cases) {
-    Start(400, -100, c.dpi);
+  Table<int, int, bool> cases{{96, 11, false},  {96, 12, true},  {96, -11, false}, {96, -12, true},
+                              {131, 15, false}, {131, 16, true}, {192, 23, false}, {192, 24, true}};
+  for (const auto& [dpi, distance, drags] : cases) {
+    Start(400, -100, dpi);
     scroller_.PointerDown(50, 60, 0);
-    scroller_.PointerMove(60 + c.distance, 10);
-    EXPECT_EQ(scroller_.Moving(), c.drags) << c.dpi << " " << c.distance;
+    scroller_.PointerMove(60 + distance, 10);
+    EXPECT_EQ(scroller_.Moving(), drags) << dpi << " " << distance;
   }
 }
 
@@ -432,19 +235,15 @@ TEST_F(Scroller, AnActivationMayFillTheListAnew) {
 }
 
 TEST_F(Scroller, ResizingMakesOneBitmapAndStaysWithinTheEnds) {
-  struct Case {
-    int offset, height;
-    const char* notes;
-  };
-  const Case cases[] = {{-300, 150, "surface 200 150, paint -300, paint -250, update"},
-                        {-300, 60, "surface 200 60, paint -300"},
-                        {-300, 500, "surface 200 500, paint -300, paint 0, update"},
-                        {0, 500, "surface 200 500, paint 0"}};
-  for (const Case& c : cases) {
-    Start(400, c.offset);
+  Table<int, int, std::string> cases{{-300, 150, "surface 200 150, paint -300, paint -250, update"},
+                                     {-300, 60, "surface 200 60, paint -300"},
+                                     {-300, 500, "surface 200 500, paint -300, paint 0, update"},
+                                     {0, 500, "surface 200 500, paint 0"}};
+  for (const auto& [offset, height, notes] : cases) {
+    Start(400, offset);
     EXPECT_FALSE(scroller_.Resize(200, 100));
-    EXPECT_TRUE(scroller_.Resize(200, c.height));
-    EXPECT_EQ(recorder_.TakeNotes(), c.notes);
+    EXPECT_TRUE(scroller_.Resize(200, height));
+    EXPECT_EQ(recorder_.TakeNotes(), notes);
   }
 }
 
@@ -460,15 +259,13 @@ TEST_F(Scroller, APaintContextIsHandedOnAndAnUnchangedOneCostsNothing) {
 }
 
 TEST_F(Scroller, BringsARowIntoViewAndScrollsNoFurther) {
-  struct Case {
-    int from, top, bottom, offset;
-  };
-  const Case cases[] = {{-100, 100, 134, -100}, {-100, 90, 124, -90}, {-100, 170, 204, -104},
-                        {-100, 0, 34, 0},       {0, 366, 400, -300},  {0, 50, 250, -50}};
-  for (const Case& c : cases) {
-    Start(400, c.from);
-    scroller_.BringIntoView(c.top, c.bottom);
-    EXPECT_EQ(scroller_.Offset(), c.offset) << c.from << " " << c.top;
+  Table<int, int, int, int> cases{{-100, 100, 134, -100}, {-100, 90, 124, -90},
+                                  {-100, 170, 204, -104}, {-100, 0, 34, 0},
+                                  {0, 366, 400, -300},    {0, 50, 250, -50}};
+  for (const auto& [from, top, bottom, offset] : cases) {
+    Start(400, from);
+    scroller_.BringIntoView(top, bottom);
+    EXPECT_EQ(scroller_.Offset(), offset) << from << " " << top;
   }
 }
 
