@@ -3,6 +3,8 @@
 #include <aygshell.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/window_support.h"
+
 namespace tidewell {
 
 namespace {
@@ -11,27 +13,21 @@ constexpr UINT kPeriod = 10;  // milliseconds
 
 DialogDriver* running = nullptr;
 
-struct Search {
-  const wchar_t* windowClass;
-  HWND found = nullptr;
-};
-
-BOOL CALLBACK FindVisible(HWND window, LPARAM data) {
-  auto& search = *reinterpret_cast<Search*>(data);
-  wchar_t name[64] = {};
-  GetClassNameW(window, name, 64);
-  if (std::wstring_view(name) != search.windowClass || !IsWindowVisible(window) ||
-      !IsWindowEnabled(window)) {
-    return TRUE;
-  }
-  search.found = window;
-  return FALSE;
+void PostTap(HWND window, UINT downMessage, LONG x, LONG y) {
+  PostMessageW(window, downMessage, MK_LBUTTON, MAKELPARAM(x, y));
+  PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
 }
 
-LPARAM PointInRow(HWND list, int row) {
-  RECT label{};
-  ListView_GetItemRect(list, row, &label, LVIR_LABEL);
-  return MAKELPARAM(label.left + 4, (label.top + label.bottom) / 2);
+void PostTapOnRow(UINT downMessage, int row) {
+  RECT place{};
+  ListView_GetItemRect(List(), row, &place, LVIR_LABEL);
+  PostTap(List(), downMessage, place.left + 4, (place.top + place.bottom) / 2);
+}
+
+void TapSoftKey(int quarter) {
+  const HWND bar = SHFindMenuBar(FrontDialog());
+  const RECT area = ClientRect(bar);
+  PostTap(bar, WM_LBUTTONDOWN, area.right * quarter / 4, area.bottom / 2);
 }
 
 }  // namespace
@@ -52,7 +48,7 @@ void CALLBACK DialogDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 
 void DialogDriver::Turn() {
   if (!steps_.empty()) {
-    // Off the list first: a step may open a dialog of its own.
+    // Off the list first: the loop of a message box takes the next turns inside this one.
     const auto step = std::move(steps_.front());
     steps_.pop_front();
     step();
@@ -63,9 +59,7 @@ void DialogDriver::Turn() {
 }
 
 HWND FrontDialog() {
-  Search search{L"#32770"};
-  EnumThreadWindows(GetCurrentThreadId(), FindVisible, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  return FindOwnWindow(L"#32770");
 }
 
 HWND ControlOf(const wchar_t* windowClass, int n) {
@@ -76,63 +70,49 @@ HWND ControlOf(const wchar_t* windowClass, int n) {
   return control;
 }
 
-HWND ListOf() {
-  return ControlOf(WC_LISTVIEWW);
-}
-
-std::wstring TextOfWindow(HWND window) {
-  wchar_t text[512] = {};
-  GetWindowTextW(window, text, 512);
-  return text;
-}
-
-RECT PlaceIn(HWND window, HWND parent) {
-  RECT place{};
-  GetWindowRect(window, &place);
-  MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+RECT PlaceInDialog(HWND control) {
+  RECT place = WindowRect(control);
+  MapWindowPoints(nullptr, FrontDialog(), reinterpret_cast<POINT*>(&place), 2);
   return place;
 }
 
-std::vector<std::wstring> RowsOf(HWND list) {
+HWND List() {
+  return ControlOf(WC_LISTVIEWW);
+}
+
+std::vector<std::wstring> RowsOfList() {
   std::vector<std::wstring> rows;
-  for (int row = 0; row < ListView_GetItemCount(list); ++row) {
-    wchar_t text[512] = {};
-    ListView_GetItemText(list, row, 0, text, 512);
+  for (int row = 0; row < ListView_GetItemCount(List()); ++row) {
+    wchar_t text[300] = {};
+    ListView_GetItemText(List(), row, 0, text, 300);
     rows.push_back(text);
   }
   return rows;
 }
 
-std::optional<int> MarkedRow(HWND list) {
-  const int row = ListView_GetNextItem(list, -1, LVNI_SELECTED);
-  return row < 0 ? std::nullopt : std::optional(row);
+int MarkedRow() {
+  return ListView_GetNextItem(List(), -1, LVNI_SELECTED);
 }
 
-void PressKey(WPARAM key) {
+void Press(WPARAM key) {
   PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
-  PostMessageW(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
 }
 
 void TapRow(int row) {
-  const LPARAM point = PointInRow(ListOf(), row);
-  PostMessageW(ListOf(), WM_LBUTTONDOWN, MK_LBUTTON, point);
-  PostMessageW(ListOf(), WM_LBUTTONUP, 0, point);
+  PostTapOnRow(WM_LBUTTONDOWN, row);
 }
 
 void DoubleTapRow(int row) {
-  const LPARAM point = PointInRow(ListOf(), row);
   TapRow(row);
-  PostMessageW(ListOf(), WM_LBUTTONDBLCLK, MK_LBUTTON, point);
-  PostMessageW(ListOf(), WM_LBUTTONUP, 0, point);
+  PostTapOnRow(WM_LBUTTONDBLCLK, row);
 }
 
-void TapSoftKey(std::size_t key) {
-  const HWND bar = SHFindMenuBar(FrontDialog());
-  RECT area{};
-  GetClientRect(bar, &area);
-  const LPARAM point = MAKELPARAM(key == 0 ? area.right / 4 : area.right * 3 / 4, area.bottom / 2);
-  PostMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, point);
-  PostMessageW(bar, WM_LBUTTONUP, 0, point);
+void TapLeftKey() {
+  TapSoftKey(1);
+}
+
+void TapRightKey() {
+  TapSoftKey(3);
 }
 
 }  // namespace tidewell

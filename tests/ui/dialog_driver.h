@@ -8,7 +8,6 @@
 
 #include <deque>
 #include <functional>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,8 +19,7 @@ class DialogDriver {
   DialogDriver();
   DialogDriver(const DialogDriver&) = delete;
   DialogDriver& operator=(const DialogDriver&) = delete;
-  // Fails the test when steps are left.
-  ~DialogDriver();
+  ~DialogDriver();  // fails the test when steps are left
 
   // One more step for the next modal dialog. A dialog that is open after the last step fails the
   // test and is closed.
@@ -35,21 +33,20 @@ class DialogDriver {
   UINT_PTR timer_;
 };
 
-// The dialog or message box in front; null when there is none.
+// The dialog or message box in front, and its n-th control of a class in the order of the Tab key.
 HWND FrontDialog();
-// Its control of a window class, the n-th of them in the order of the Tab key.
 HWND ControlOf(const wchar_t* windowClass, int n = 0);
-HWND ListOf();
-std::wstring TextOfWindow(HWND window);
-RECT PlaceIn(HWND window, HWND parent);
+RECT PlaceInDialog(HWND control);
 
-std::vector<std::wstring> RowsOf(HWND list);
-std::optional<int> MarkedRow(HWND list);
+HWND List();
+std::vector<std::wstring> RowsOfList();
+int MarkedRow();  // -1 for none
 
-// All of these post what a user's hand causes.
-void PressKey(WPARAM key);  // to the window with the focus
+// What a user's hand causes, posted.
+void Press(WPARAM key);  // to the window with the focus
 void TapRow(int row);
 void DoubleTapRow(int row);
-void TapSoftKey(std::size_t key);  // 0 is the left one
+void TapLeftKey();
+void TapRightKey();
 
 }  // namespace tidewell

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/memory/memory_machine.h"
+#include "tests/support/window_support.h"
 #include "tests/ui/dialog_driver.h"
 
 namespace tidewell {
@@ -15,15 +16,12 @@ HWND NameField() {
   return ControlOf(WC_EDITW);
 }
 
-void ExpectWithinScreen(HWND box) {
-  const RECT place = PlaceIn(box, nullptr);
-  EXPECT_GE(place.left, 0);
-  EXPECT_LE(place.right, GetSystemMetrics(SM_CXSCREEN));
+void ExpectPartsWithin(HWND box) {
+  EXPECT_LE(WindowRect(box).right, GetSystemMetrics(SM_CXSCREEN));
   for (HWND part = GetWindow(box, GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT)) {
-    if (IsWindowVisible(part)) {
-      EXPECT_LE(PlaceIn(part, nullptr).right, place.right);
-      EXPECT_LE(PlaceIn(part, nullptr).bottom, place.bottom);
-    }
+    if (!IsWindowVisible(part)) continue;
+    EXPECT_LE(PlaceInDialog(part).right, ClientRect(box).right);
+    EXPECT_LE(PlaceInDialog(part).bottom, ClientRect(box).bottom);
   }
 }
 
@@ -47,18 +45,18 @@ class FileNameDialogTest : public testing::Test {
   void ExpectRefusal(const wchar_t* name, const wchar_t* message) {
     driver.Then([=] {
       SetWindowTextW(NameField(), name);
-      TapSoftKey(0);
+      TapLeftKey();
     });
     driver.Then([=] {
-      EXPECT_EQ(TextOfWindow(FrontDialog()), L"File Name Error");
+      EXPECT_EQ(CaptionOf(FrontDialog()), L"File Name Error");
       EXPECT_NE(FindWindowExW(FrontDialog(), nullptr, WC_STATICW, message), nullptr);
-      ExpectWithinScreen(FrontDialog());
+      ExpectPartsWithin(FrontDialog());
       PostMessageW(FrontDialog(), WM_COMMAND, IDOK, 0);
     });
     driver.Then([=] {
-      EXPECT_EQ(TextOfWindow(FrontDialog()), L"Export TW Settings");
-      EXPECT_EQ(TextOfWindow(NameField()), name);
-      TapSoftKey(1);
+      EXPECT_EQ(CaptionOf(FrontDialog()), L"Export TW Settings");
+      EXPECT_EQ(CaptionOf(NameField()), name);
+      TapRightKey();
     });
     EXPECT_EQ(Run(), 0);
     EXPECT_EQ(request.resultPath, L"");
@@ -72,34 +70,30 @@ class FileNameDialogTest : public testing::Test {
   DialogDriver driver;
 };
 
-TEST_F(FileNameDialogTest, ShowsTheRequestWithTheFocusInTheList) {
+TEST_F(FileNameDialogTest, ShowsTheRequestAndConfirmsItByTheLeftKey) {
   driver.Then([] {
-    EXPECT_EQ(TextOfWindow(FrontDialog()), L"Export TW Settings");
-    EXPECT_EQ(TextOfWindow(ControlOf(WC_STATICW, 0)), L"File Name");
-    EXPECT_EQ(TextOfWindow(NameField()), L"TW_Backup_2026_11_15");
-    EXPECT_EQ(TextOfWindow(ControlOf(WC_STATICW, 1)), L"Extension");
-    EXPECT_EQ(TextOfWindow(ControlOf(WC_EDITW, 1)), L"TW Settings Backup (twsb)");
-    EXPECT_EQ(TextOfWindow(ControlOf(WC_STATICW, 2)), L"\\My Documents");
-    EXPECT_THAT(RowsOf(ListOf()), ElementsAre(L"zoo.twsb", L"april.twsb", L"may.twsb"));
-    EXPECT_EQ(GetFocus(), ListOf());
-    TapSoftKey(1);
+    EXPECT_EQ(CaptionOf(FrontDialog()), L"Export TW Settings");
+    EXPECT_EQ(CaptionOf(ControlOf(WC_STATICW, 0)), L"File Name");
+    EXPECT_EQ(CaptionOf(NameField()), L"TW_Backup_2026_11_15");
+    EXPECT_EQ(CaptionOf(ControlOf(WC_STATICW, 1)), L"Extension");
+    EXPECT_EQ(CaptionOf(ControlOf(WC_EDITW, 1)), L"TW Settings Backup (twsb)");
+    EXPECT_EQ(CaptionOf(ControlOf(WC_STATICW, 2)), L"\\My Documents");
+    EXPECT_THAT(RowsOfList(), ElementsAre(L"zoo.twsb", L"april.twsb", L"may.twsb"));
+    EXPECT_EQ(GetFocus(), List());
+    TapLeftKey();
   });
-  EXPECT_EQ(Run(), 0);
-  EXPECT_EQ(request.resultPath, L"");
-}
-
-TEST_F(FileNameDialogTest, ConfirmsTheNameByTheLeftKeyAndByReturnInItsField) {
-  driver.Then([] { TapSoftKey(0); });
   EXPECT_EQ(Run(), 1);
   EXPECT_EQ(request.resultPath, L"\\My Documents\\TW_Backup_2026_11_15.twsb");
+}
 
+TEST_F(FileNameDialogTest, ReturnInTheFieldConfirmsNoMoreThanTheLongestName) {
   driver.Then([] {
     SetFocus(NameField());
-    SetWindowTextW(NameField(), L"a\\b");
-    PressKey(VK_RETURN);
+    SetWindowTextW(NameField(), std::wstring(300, L'n').c_str());
+    Press(VK_RETURN);
   });
   EXPECT_EQ(Run(), 1);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\a\\b.twsb");
+  EXPECT_EQ(request.resultPath, L"\\My Documents\\" + std::wstring(256, L'n') + L".twsb");
 }
 
 TEST_F(FileNameDialogTest, RefusesAMissingAndAnIllegalNameAndStaysOpen) {
@@ -107,10 +101,15 @@ TEST_F(FileNameDialogTest, RefusesAMissingAndAnIllegalNameAndStaysOpen) {
   ExpectRefusal(L"a/b", L"File name include illegal characters");
 }
 
-TEST_F(FileNameDialogTest, AFileActivatedByKeyOrDoubleTapIsTakenAsItStands) {
-  driver.Then([] { PressKey(VK_DOWN); });
-  driver.Then([] { PressKey(VK_DOWN); });
-  driver.Then([] { PressKey(VK_RETURN); });
+TEST_F(FileNameDialogTest, ActivatingTakesAFileAsItStandsAndNothingElse) {
+  driver.Then([] { Press(VK_RETURN); });
+  driver.Then([] { DoubleTapRow(0); });
+  driver.Then([] {
+    EXPECT_EQ(MarkedRow(), 0);
+    Press(VK_RETURN);
+    Press(VK_DOWN);
+  });
+  driver.Then([] { Press(VK_RETURN); });
   EXPECT_EQ(Run(), 1);
   EXPECT_EQ(request.resultPath, L"\\My Documents\\april.twsb");
 
@@ -119,38 +118,24 @@ TEST_F(FileNameDialogTest, AFileActivatedByKeyOrDoubleTapIsTakenAsItStands) {
   EXPECT_EQ(request.resultPath, L"\\My Documents\\may.twsb");
 }
 
-TEST_F(FileNameDialogTest, ActivatingAFolderOrNothingDoesNothing) {
-  driver.Then([] { PressKey(VK_RETURN); });
-  driver.Then([] { DoubleTapRow(0); });
-  driver.Then([] {
-    EXPECT_EQ(MarkedRow(ListOf()), 0);
-    PressKey(VK_RETURN);
-  });
-  driver.Then([] { TapSoftKey(1); });
-  EXPECT_EQ(Run(), 0);
-}
-
 TEST_F(FileNameDialogTest, UpLeavesTheListOnlyWhileNothingIsMarkedThere) {
-  driver.Then([] { PressKey(VK_UP); });
+  driver.Then([] { Press(VK_UP); });
   driver.Then([] {
     EXPECT_EQ(GetFocus(), NameField());
-    PressKey(VK_DOWN);
+    Press(VK_DOWN);
+  });
+  driver.Then([] { Press(VK_DOWN); });
+  driver.Then([] {
+    EXPECT_EQ(MarkedRow(), 0);
+    Press(VK_UP);
   });
   driver.Then([] {
-    EXPECT_EQ(GetFocus(), ListOf());
-    PressKey(VK_DOWN);
-  });
-  driver.Then([] {
-    EXPECT_EQ(MarkedRow(ListOf()), 0);
-    PressKey(VK_UP);
-  });
-  driver.Then([] {
-    EXPECT_EQ(GetFocus(), ListOf());
-    PressKey(VK_TAB);
+    EXPECT_EQ(GetFocus(), List());
+    Press(VK_TAB);
   });
   driver.Then([] {
     EXPECT_EQ(GetFocus(), NameField());
-    PressKey(VK_ESCAPE);
+    Press(VK_ESCAPE);
   });
   EXPECT_EQ(Run(), 0);
 }
@@ -159,66 +144,34 @@ TEST_F(FileNameDialogTest, AMarkedFileNamesItselfInAFieldThatIsFree) {
   request.initialName.clear();
   driver.Then([] { TapRow(1); });
   driver.Then([] {
-    EXPECT_EQ(TextOfWindow(NameField()), L"april");
+    EXPECT_EQ(CaptionOf(NameField()), L"april");
     TapRow(2);
   });
   driver.Then([] {
-    EXPECT_EQ(TextOfWindow(NameField()), L"may");
+    EXPECT_EQ(CaptionOf(NameField()), L"may");
     SetWindowTextW(NameField(), L"june");
     TapRow(1);
   });
-  driver.Then([] {
-    EXPECT_EQ(TextOfWindow(NameField()), L"june");
-    TapSoftKey(0);
-  });
+  driver.Then([] { TapLeftKey(); });
   EXPECT_EQ(Run(), 1);
   EXPECT_EQ(request.resultPath, L"\\My Documents\\june.twsb");
 }
 
-class WithoutFolders final : public FileNameDialogModel {
- public:
-  using FileNameDialogModel::FileNameDialogModel;
-
- protected:
-  bool Lists(bool isFolder, const std::wstring&) const override { return !isFolder; }
-};
-
-TEST_F(FileNameDialogTest, ListsWhatACallersModelWants) {
-  WithoutFolders model(memory.files, memory.locale, request);
-  driver.Then([] {
-    EXPECT_THAT(RowsOf(ListOf()), ElementsAre(L"april.twsb", L"may.twsb"));
-    PressKey(VK_ESCAPE);
-  });
-  EXPECT_EQ(RunFileNameDialog(context, model), 0);
-}
-
-TEST_F(FileNameDialogTest, ReadsNoMoreThanTheLongestName) {
-  driver.Then([] {
-    SetWindowTextW(NameField(), std::wstring(300, L'n').c_str());
-    TapSoftKey(0);
-  });
-  EXPECT_EQ(Run(), 1);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\" + std::wstring(256, L'n') + L".twsb");
-}
-
-void ExpectPlace(HWND control, const DialogPlace& place) {
-  const RECT found = PlaceIn(control, FrontDialog());
-  EXPECT_EQ(found.left, place.x);
-  EXPECT_EQ(found.top, place.y);
-  EXPECT_EQ(found.right - found.left, place.width);
-  EXPECT_EQ(found.bottom - found.top, place.height);
-}
-
 void ExpectLayout(bool hasExtension, const ScreenScale& scale) {
-  RECT client{};
-  GetClientRect(FrontDialog(), &client);
+  const RECT client = ClientRect(FrontDialog());
   const FileNameLayout layout =
       LayOutFileNameDialog(client.right, client.bottom, hasExtension, scale);
-  ExpectPlace(ControlOf(WC_STATICW, 0), layout.nameLabel);
-  ExpectPlace(NameField(), layout.nameField);
-  if (hasExtension) ExpectPlace(ControlOf(WC_EDITW, 1), layout.extensionField);
-  ExpectPlace(ControlOf(WC_STATICW, hasExtension ? 2 : 1), layout.folder);
-  ExpectPlace(ListOf(), layout.list);
+  const auto expectPlace = [](HWND control, const DialogPlace& place) {
+    const RECT found = PlaceInDialog(control);
+    EXPECT_EQ(
+        (DialogPlace{found.left, found.top, found.right - found.left, found.bottom - found.top}),
+        place);
+  };
+  expectPlace(ControlOf(WC_STATICW, 0), layout.nameLabel);
+  expectPlace(NameField(), layout.nameField);
+  if (hasExtension) expectPlace(ControlOf(WC_EDITW, 1), layout.extensionField);
+  expectPlace(ControlOf(WC_STATICW, hasExtension ? 2 : 1), layout.folder);
+  expectPlace(List(), layout.list);
 }
 
 TEST_F(FileNameDialogTest, LaysItsControlsOutForEveryScreen) {
@@ -228,14 +181,14 @@ TEST_F(FileNameDialogTest, LaysItsControlsOutForEveryScreen) {
   });
   driver.Then([this] {
     ExpectLayout(true, scale);
-    PressKey(VK_ESCAPE);
+    Press(VK_ESCAPE);
   });
   Run();
 
   request.extension.clear();
   driver.Then([this] {
     ExpectLayout(false, scale);
-    PressKey(VK_ESCAPE);
+    Press(VK_ESCAPE);
   });
   Run();
 }
