@@ -13,6 +13,8 @@ programs=(
   "vga backup_bench"
   "qvga list_bench"
   "vga list_bench"
+  "qvga page_bench"
+  "vga page_bench"
 )
 
 print_size() {

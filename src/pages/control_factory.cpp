@@ -116,7 +116,7 @@ RowPlace SettingsPage::AddComboRow(int labelId, int comboId, int textId,
     const std::wstring text = item.TextIn(Context().language);
     const LRESULT line =
         SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-    SendMessageW(combo, CB_SETITEMDATA, static_cast<WPARAM>(line), item.data);
+    if (item.data) SendMessageW(combo, CB_SETITEMDATA, static_cast<WPARAM>(line), item.data);
   }
   if (std::ssize(items) > selection) {
     SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(selection), 0);

@@ -18,7 +18,8 @@ constexpr int kDropHeight = 100;  // of an open drop-down list with its box
 constexpr int kClearLeft = 105;
 constexpr int kBrowseLeft = 55;
 constexpr int kButtonWidth = 45;
-constexpr int kBoxWidth = 20;  // a check box with the gap to its text
+constexpr int kBoxWidth = 20;   // a check box with the gap to its text
+constexpr int kWrappedGap = 3;  // below a label of several lines
 constexpr int kTabRowHeight = 22;
 
 constexpr wchar_t kEllipsis = 0x2026;
@@ -47,7 +48,7 @@ void PlaceLabel(const PageMetrics& metrics, int id, const std::wstring& text, Ro
   const int height = FitCaption(metrics, text, width, scale.ScaleY(kControlHeight), row);
   const int drop = scale.ScaleY(kLabelDrop);
   row.controls.push_back({id, {0, row.top + drop, width, height}});
-  if (row.wraps) row.height = std::max(row.height, drop + height + scale.ScaleY(1));
+  if (row.wraps) row.height = std::max(row.height, drop + height + scale.ScaleY(kWrappedGap));
 }
 
 }  // namespace

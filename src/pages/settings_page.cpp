@@ -84,7 +84,7 @@ LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return TakeDown();
     case WM_MOVE:
     case WM_SIZE:
-      LayOutTabRow();
+      if (tabs_) Move(tabs_, TabRowPlace());
       OnLayout(window_);
       return 0;
     case WM_ACTIVATE:
@@ -169,7 +169,7 @@ void SettingsPage::MakeTabRow() {
   LoadCommonControls();
   const int count = GetTabCount();
   if (count < 1) return;
-  tabs_ = MakeControl(WC_TABCONTROLW, WS_VISIBLE | TCS_BOTTOM, 0, {}, {});
+  tabs_ = MakeControl(WC_TABCONTROLW, WS_VISIBLE | TCS_BOTTOM, 0, {}, TabRowPlace());
   SendMessageW(tabs_, kTabRowMessage, kTabRowVersion, 0);
   SendMessageW(tabs_, TCM_SETPADDING, 0,
                MAKELPARAM(Scale().ScaleX(kTabPadding), Scale().ScaleY(kTabPadding)));
@@ -180,14 +180,12 @@ void SettingsPage::MakeTabRow() {
     item.pszText = title.data();
     SendMessageW(tabs_, TCM_INSERTITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
   }
-  LayOutTabRow();
 }
 
-void SettingsPage::LayOutTabRow() {
-  if (!tabs_) return;
+Rect SettingsPage::TabRowPlace() const {
   RECT client;
   GetClientRect(window_, &client);
-  Move(tabs_, tidewell::PlaceTabRow(Scale(), client.right, client.bottom));
+  return PlaceTabRow(Scale(), client.right, client.bottom);
 }
 
 LRESULT SettingsPage::Turn(NMHDR* header) {

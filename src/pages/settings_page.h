@@ -115,7 +115,7 @@ class SettingsPage : public HostedPage, private ControlsOwner {
   LRESULT Turn(NMHDR* header);
   void MakeMenuBar();
   void MakeTabRow();
-  void LayOutTabRow();
+  Rect TabRowPlace() const;
   void InvalidateFocus(HWND control) const;
   RECT FocusFrame(HWND control) const;
   HWND MakeControl(const wchar_t* windowClass, DWORD style, int id, const std::wstring& text,

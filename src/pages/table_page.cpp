@@ -68,7 +68,10 @@ RowPlace TablePage::BuildRow(const Row& row, int y) {
 void TablePage::ShowTab(HWND window, int showCommand) {
   const PageTab& tab = TabAt(SelectedTab());
   ShowControlRange(window, tab.firstId, tab.lastId, showCommand);
-  InvalidateRect(window, nullptr, TRUE);
+  const ScrollRange& scroll = SelectedPlace().scroll;
+  if (!scroll.Needed()) return;
+  const RECT thumb = ThumbArea(scroll);
+  InvalidateRect(window, &thumb, TRUE);
 }
 
 void TablePage::OnDestroy(HWND) {
@@ -230,7 +233,7 @@ void TablePage::OnEraseBackground(HWND window, HDC dc) {
 // Above the tab row.
 int TablePage::ViewHeight() const {
   if (table_.empty()) return laidOut_.cy;
-  return tidewell::PlaceTabRow(Scale(), laidOut_.cx, laidOut_.cy).top;
+  return PlaceTabRow(Scale(), laidOut_.cx, laidOut_.cy).top;
 }
 
 RECT TablePage::ThumbArea(const ScrollRange& scroll) const {

@@ -74,7 +74,7 @@ TEST_F(Layout, ALongCaptionWrapsAndItsRowGrows) {
   const RowPlace combo = PlaceComboRow(qvga, 1, 2, L"Two lines of a label", 8);
   EXPECT_TRUE(combo.wraps);
   EXPECT_EQ(combo.controls[0].rect, (Rect{0, 11, 100, 28}));
-  EXPECT_EQ(combo.height, 32);
+  EXPECT_EQ(combo.height, 34);
   const RowPlace check = PlaceCheckRow(qvga, 1, L"A caption that runs on under its check box", 8);
   EXPECT_EQ(check.controls[0].rect, (Rect{10, 8, 220, 28}));
   EXPECT_EQ(check.height, 32);

@@ -223,8 +223,9 @@ class PageOnScreens : public PageWindow {
   void CheckText(HWND control, const RECT& place, int dpi) {
     wchar_t kind[32];
     GetClassNameW(control, kind, 32);
-    if (lstrcmpiW(kind, WC_EDITW) == 0 || lstrcmpiW(kind, WC_COMBOBOXW) == 0) return;
     const int id = GetDlgCtrlID(control);
+    if (lstrcmpiW(kind, WC_EDITW) == 0) return;
+    if (lstrcmpiW(kind, WC_COMBOBOXW) == 0) return CheckLines(id, place, dpi);
     const bool isCheckBox = GetWindowLongW(control, GWL_STYLE) & BS_LEFTTEXT;
     const bool isLabel = lstrcmpiW(kind, WC_STATICW) == 0;
     const int reserved = isLabel ? 0 : isCheckBox ? 16 : 3;
@@ -234,6 +235,17 @@ class PageOnScreens : public PageWindow {
     const SIZE size = SizeOf(control, text, width);
     EXPECT_LE(size.cx, width) << id;
     EXPECT_LE(size.cy, place.bottom - place.top) << id;
+  }
+
+  // Each line fits the closed list beside its arrow.
+  void CheckLines(int id, const RECT& place, int dpi) {
+    const LONG width = place.right - place.left - 23 * dpi / 96;
+    for (int line = 0; line < Count(id); ++line) {
+      const std::wstring text = Line(id, line);
+      EXPECT_FALSE(text.empty()) << id;
+      EXPECT_LE(SizeOf(Control(id), text, 10'000).cx, width)
+          << id << ": " << std::string(text.begin(), text.end());
+    }
   }
 };
 

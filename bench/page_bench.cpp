@@ -1,0 +1,205 @@
+// Opening each settings page, and turning to each of its tabs, beside making as many bare controls
+// of the same kinds in a bare window.
+#include <windows.h>
+
+#include <aygshell.h>
+#include <commctrl.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "bench/figures.h"
+#include "bench/stopwatch.h"
+#include "pages/create_page.h"
+#include "pages/page_list.h"
+#include "platform/desktop/device_shell.h"
+#include "platform/windows/windows_machine.h"
+
+namespace tidewell::bench {
+
+namespace {
+
+constexpr int kRounds = 30;
+constexpr double kAim = 1.3;
+constexpr wchar_t kBareClass[] = L"BareWindow";
+constexpr wchar_t kHostClass[] = L"PageBenchHost";
+
+void PaintAll() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+  GdiFlush();
+}
+
+void RegisterPlainClass(const wchar_t* name) {
+  WNDCLASSW plain{};
+  plain.lpfnWndProc = DefWindowProcW;
+  plain.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+  plain.lpszClassName = name;
+  RegisterClassW(&plain);
+}
+
+// A window with the controls of another, as they are without texts, lines or a type face.
+class BareWindow {
+ public:
+  struct Control {
+    std::wstring kind;
+    DWORD style;
+    RECT place;
+  };
+
+  static std::vector<Control> ControlsOf(HWND window, bool shownOnly) {
+    std::vector<Control> controls;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+      if (shownOnly && !IsWindowVisible(child)) continue;
+      Control control;
+      wchar_t kind[64];
+      GetClassNameW(child, kind, 64);
+      control.kind = kind;
+      control.style = static_cast<DWORD>(GetWindowLongW(child, GWL_STYLE));
+      GetWindowRect(child, &control.place);
+      // A list is made with the height that it has when it is open.
+      if (control.kind == L"ComboBox") {
+        SendMessageW(child, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&control.place));
+      }
+      MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&control.place), 2);
+      controls.push_back(control);
+    }
+    return controls;
+  }
+
+  // As the pages are: a pop-up with the shell's strips, the OK button's above, the menu bar's
+  // below.
+  explicit BareWindow(HWND host) {
+    RECT place;
+    GetWindowRect(host, &place);
+    window_ =
+        CreateWindowExW(static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kBareClass, L"",
+                        WS_POPUP | WS_CLIPCHILDREN, place.left, place.top, place.right - place.left,
+                        place.bottom - place.top, host, nullptr, nullptr, nullptr);
+  }
+  ~BareWindow() { DestroyWindow(window_); }
+
+  void Show() const {
+    ShowWindow(window_, SW_SHOW);
+    UpdateWindow(window_);
+    PaintAll();
+  }
+  void Make(const std::vector<Control>& controls) const {
+    for (const Control& control : controls) {
+      CreateWindowExW(0, control.kind.c_str(), L"", control.style, control.place.left,
+                      control.place.top, control.place.right - control.place.left,
+                      control.place.bottom - control.place.top, window_, nullptr, nullptr, nullptr);
+    }
+  }
+
+ private:
+  HWND window_;
+};
+
+class PageBench {
+ public:
+  PageBench() {
+    const ScreenFacts screen = machine_.system.Screen();
+    const ScreenScale scale(screen.dpiX, screen.dpiY, false);
+    RegisterPlainClass(kBareClass);
+    RegisterPlainClass(kHostClass);
+    host_ = CreateWindowExW(0, kHostClass, L"", WS_POPUP | WS_VISIBLE, 0, scale.ScaleY(26),
+                            screen.width, screen.height - scale.ScaleY(26), nullptr, nullptr,
+                            nullptr, nullptr);
+    store_.Load(door_, scale, language_);
+    context_.emplace(PageContext{door_, store_, categories_, language_.get(), scale});
+    screen_ = std::to_string(screen.width) + "x" + std::to_string(screen.height);
+  }
+  ~PageBench() { DestroyWindow(host_); }
+
+  void Run() {
+    for (int page = 0; page < kPageCount; ++page) {
+      if (kPages[static_cast<std::size_t>(page)].table) Measure(page);
+    }
+  }
+
+ private:
+  void Measure(int page) {
+    const std::string name =
+        "page " + Narrow(kPages[static_cast<std::size_t>(page)].className) + ", " + screen_;
+    Comparison opening;
+    std::vector<Comparison> turning;
+    for (int round = 0; round < kRounds; ++round) {
+      const Stopwatch watch;
+      const auto opened = CreatePage(page, host_, *context_);
+      PaintAll();
+      const double open = watch.Milliseconds();
+      opening.Add(open, TimeBareWindow(BareWindow::ControlsOf(opened->Window(), false)));
+      TurnAll(opened->Window(), turning);
+      SetActiveWindow(host_);
+      DestroyWindow(opened->Window());
+    }
+    PrintRatio(("open " + name).c_str(), opening, kAim, "ms");
+    for (std::size_t tab = 0; tab < turning.size(); ++tab) {
+      PrintRatio(("  turn to tab " + std::to_string(tab + 1)).c_str(), turning[tab], kAim, "ms");
+    }
+  }
+
+  double TimeBareWindow(const std::vector<BareWindow::Control>& controls) const {
+    const Stopwatch watch;
+    const BareWindow bare(host_);
+    bare.Make(controls);
+    bare.Show();
+    return watch.Milliseconds();
+  }
+
+  // Each tab once, the first one last.
+  void TurnAll(HWND page, std::vector<Comparison>& turning) const {
+    const HWND tabs = FindWindowExW(page, nullptr, WC_TABCONTROLW, nullptr);
+    const auto count = static_cast<std::size_t>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
+    turning.resize(count);
+    for (std::size_t step = 1; step <= count; ++step) {
+      const std::size_t tab = step % count;
+      const Stopwatch watch;
+      Tell(page, tabs, TCN_SELCHANGING);
+      SendMessageW(tabs, TCM_SETCURSEL, tab, 0);
+      Tell(page, tabs, TCN_SELCHANGE);
+      PaintAll();
+      const double turn = watch.Milliseconds();
+
+      const auto controls = BareWindow::ControlsOf(page, true);
+      const BareWindow bare(host_);
+      bare.Show();
+      const Stopwatch bareWatch;
+      bare.Make(controls);
+      PaintAll();
+      turning[tab].Add(turn, bareWatch.Milliseconds());
+    }
+  }
+
+  static void Tell(HWND page, HWND tabs, UINT code) {
+    NMHDR header{tabs, 0, code};
+    SendMessageW(page, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header));
+  }
+
+  static std::string Narrow(const wchar_t* text) {
+    std::string narrow;
+    for (; *text; ++text) narrow.push_back(static_cast<char>(*text));
+    return narrow;
+  }
+
+  WindowsMachine machine_;
+  Machine door_ = machine_.Door();
+  SettingsStore store_;
+  CategoryCatalog categories_{door_, store_};
+  std::unique_ptr<ResourceLibrary> language_;
+  std::optional<PageContext> context_;
+  std::string screen_;
+  HWND host_ = nullptr;
+};
+
+}  // namespace
+
+}  // namespace tidewell::bench
+
+int main() {
+  tidewell::InstallDeviceShell();
+  tidewell::bench::PageBench().Run();
+}

@@ -1,0 +1,163 @@
+// The base and its factory, on a page that no table describes.
+#include "pages/settings_page.h"
+
+#include <gmock/gmock.h>
+
+#include "resources/text/text_ids.h"
+#include "tests/pages/page_host.h"
+
+namespace tidewell {
+namespace {
+
+constexpr int kList = 1300;
+constexpr int kEdit = 1301;
+constexpr int kClear = 1302;
+constexpr int kBrowse = 1303;
+constexpr int kName = 1304;
+
+class FreePage final : public SettingsPage {
+ public:
+  using SettingsPage::DrawColorSwatch;
+  using SettingsPage::MoveListItem;
+  using SettingsPage::SettingsPage;
+
+  std::vector<UINT> previews;
+  int destroyed = 0;
+
+ private:
+  int GetTabCount() const override { return 0; }
+  int GetTabTitleId(int) const override { return 0; }
+  void OnCreate(HWND) override {
+    AddPathEdit(kEdit, kClear, kBrowse, L"\\My Documents", 8);
+    AddEdit(kName, L"Name", 10, 32, 100, 20);
+    const int texts[] = {IDS_GROUP_GENERAL, IDS_GROUP_CALENDAR, IDS_GROUP_TASKS};
+    AddList(kList, texts, 8);
+  }
+  void ShowTab(HWND window, int command) override {
+    ShowControlRange(window, kList, kName + 5, command);
+  }
+  void OnDestroy(HWND) override { ++destroyed; }
+  LRESULT OnPreviewMessage1(HWND, WPARAM, LPARAM) override {
+    previews.push_back(kPreviewMessage1);
+    return 0;
+  }
+  LRESULT OnPreviewMessage2(HWND, WPARAM, LPARAM) override {
+    previews.push_back(kPreviewMessage2);
+    return 0;
+  }
+};
+
+class BasePage : public PageHost {
+ protected:
+  void SetUp() override {
+    Load();
+    auto made = std::make_unique<FreePage>(*context_);
+    free_ = made.get();
+    ASSERT_TRUE(made->Create(host_, L"FreeWin", L"Free"));
+    page_ = std::move(made);
+  }
+  std::wstring Row(int row) const {
+    wchar_t text[64] = {};
+    ListView_GetItemText(Control(kList), row, 0, text, 64);
+    return text;
+  }
+  std::vector<std::wstring> Rows() const { return {Row(0), Row(1), Row(2)}; }
+  void Select(int row) { ListView_SetItemState(Control(kList), row, LVIS_SELECTED, LVIS_SELECTED); }
+
+  FreePage* free_ = nullptr;
+};
+
+TEST_F(BasePage, WithoutTabsHasNoTabRowAndItsControlsShow) {
+  EXPECT_EQ(Tabs(), nullptr);
+  for (int id = kList; id <= kName; ++id) EXPECT_TRUE(IsShown(id)) << id;
+  EXPECT_EQ(TextOfControl(kEdit), L"\\My Documents");
+  EXPECT_EQ(TextOfControl(kClear), L"Clear");
+  EXPECT_EQ(TextOfControl(kBrowse), L"Browse");
+}
+
+TEST_F(BasePage, MovesAListRowWithItsCheckAndItsData) {
+  const HWND list = Control(kList);
+  ListView_SetExtendedListViewStyle(list, LVS_EX_CHECKBOXES);
+  ListView_SetCheckState(list, 1, TRUE);
+  for (int row = 0; row < 3; ++row) {
+    LVITEMW item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    item.lParam = 100 + row;
+    ListView_SetItem(list, &item);
+  }
+  Select(1);
+  free_->MoveListItem(page_->Window(), kList, true);
+  EXPECT_EQ(Rows(), (std::vector<std::wstring>{L"Calendar", L"General", L"Tasks"}));
+  EXPECT_TRUE(ListView_GetCheckState(list, 0));
+  EXPECT_FALSE(ListView_GetCheckState(list, 1));
+  LVITEMW moved{};
+  moved.mask = LVIF_PARAM;
+  ListView_GetItem(list, &moved);
+  EXPECT_EQ(moved.lParam, 101);
+  EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
+  EXPECT_EQ(GetFocus(), list);
+
+  free_->MoveListItem(page_->Window(), kList, true);
+  Select(2);
+  free_->MoveListItem(page_->Window(), kList, false);
+  EXPECT_EQ(Rows(), (std::vector<std::wstring>{L"Calendar", L"General", L"Tasks"})) << "the ends";
+  EXPECT_TRUE(dialogs_.messages.empty());
+}
+
+TEST_F(BasePage, MovingNoRowAsksForOne) {
+  free_->MoveListItem(page_->Window(), kList, false);
+  EXPECT_THAT(dialogs_.messages,
+              testing::ElementsAre(L"Nothing selected: Select an entry in the list first."));
+}
+
+TEST_F(BasePage, KeysLeaveAListAtItsEnds) {
+  SetFocus(Control(kList));
+  Press(VK_DOWN);
+  Press(VK_DOWN);
+  EXPECT_EQ(FocusedId(), kList);
+  while (ListView_GetNextItem(Control(kList), -1, LVNI_FOCUSED) < 2) Press(VK_DOWN);
+  Press(VK_DOWN);
+  EXPECT_NE(FocusedId(), kList);
+  Press(VK_UP);
+  EXPECT_EQ(FocusedId(), kList);
+}
+
+TEST_F(BasePage, DrawsASwatchOfAColorAndOfNone) {
+  const HDC screen = GetDC(nullptr);
+  {
+    const MemoryBitmap canvas(screen, 60, 40);
+    const RECT all{0, 0, 60, 40};
+    FillPlain(canvas.Dc(), all, RGB(1, 2, 3));
+    free_->DrawColorSwatch(canvas.Dc(), RGB(200, 100, 50), 2, 2);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 2, 2), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(canvas.Dc(), 45, 21), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(canvas.Dc(), 46, 22), RGB(1, 2, 3)) << "44 by 20";
+    EXPECT_EQ(GetPixel(canvas.Dc(), 3, 3), RGB(200, 100, 50));
+    free_->DrawColorSwatch(canvas.Dc(), static_cast<COLORREF>(-1), 2, 2);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 3, 3), RGB(255, 255, 255));
+    int inked = 0;
+    for (int x = 4; x < 44; ++x) {
+      for (int y = 4; y < 20; ++y) inked += GetPixel(canvas.Dc(), x, y) != RGB(255, 255, 255);
+    }
+    EXPECT_GT(inked, 20) << "it says Auto";
+  }
+  ReleaseDC(nullptr, screen);
+}
+
+TEST_F(BasePage, HandsOnThePreviewsMessages) {
+  SendMessageW(page_->Window(), 1788, 0, 0);
+  SendMessageW(page_->Window(), 1789, 0, 0);
+  EXPECT_EQ(free_->previews, (std::vector<UINT>{kPreviewMessage1, kPreviewMessage2}));
+}
+
+TEST_F(BasePage, StoresOnceWhenItsWindowGoes) {
+  SetActiveWindow(host_);
+  DestroyWindow(page_->Window());
+  EXPECT_EQ(free_->destroyed, 1);
+  EXPECT_EQ(page_->Window(), nullptr);
+  page_.reset();
+}
+
+}  // namespace
+}  // namespace tidewell
