@@ -27,6 +27,11 @@ bool IsOfClass(HWND window, std::wstring_view wanted) {
   return name == wanted;
 }
 
+// A box without an icon has the control for it all the same.
+bool HasIcon(HWND control) {
+  return SendMessageW(control, STM_GETICON, 0, 0) != 0;
+}
+
 Parts PartsOf(HWND box) {
   Parts parts;
   for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
@@ -34,8 +39,10 @@ Parts PartsOf(HWND box) {
     if (!(style & WS_VISIBLE)) continue;
     if (!IsOfClass(child, L"Static")) {
       parts.buttons.push_back(child);
-    } else {
-      ((style & SS_TYPEMASK) == SS_ICON ? parts.icon : parts.text) = child;
+    } else if ((style & SS_TYPEMASK) != SS_ICON) {
+      parts.text = child;
+    } else if (HasIcon(child)) {
+      parts.icon = child;
     }
   }
   return parts;
@@ -102,10 +109,12 @@ void KeepWithin(HWND box, const RECT& room) {
 LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                             DWORD_PTR) {
   const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
-  if (message == WM_INITDIALOG) {
-    RemoveWindowSubclass(window, WindowProc, id);
-    if (IsMessageBox(window)) KeepWithin(window, ShellWindows::Instance().Client());
+  if (message == WM_INITDIALOG && IsMessageBox(window)) {
+    KeepWithin(window, ShellWindows::Instance().Client());
   }
+  // Not earlier: the dialog may have become one of the shell's own windows in the meantime, and the
+  // removal would take the shell's procedure away with this one.
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, WindowProc, id);
   return result;
 }
 
