@@ -21,6 +21,20 @@ int DotsPerInch() {
   return dots;
 }
 
+// The keyboard's own key, down or up.
+void MoveKey(WPARAM key, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(key);
+  input.ki.dwFlags = flags;
+  SendInput(1, &input, sizeof input);
+}
+
+void PressAndRelease(WPARAM key) {
+  MoveKey(key, 0);
+  MoveKey(key, KEYEVENTF_KEYUP);
+}
+
 }  // namespace
 
 bool WaitUntil(const std::function<bool()>& condition, DWORD milliseconds) {
@@ -98,11 +112,16 @@ bool DrivenProgram::WaitForPopupToGo() {
 
 void DrivenProgram::Press(WPARAM key, int times) {
   for (; times > 0; --times) {
-    const HWND focus = Focus();
-    PostMessageW(focus, WM_KEYDOWN, key, 1);
-    PostMessageW(focus, WM_KEYUP, key, 1);
+    PressAndRelease(key);
     Settle();
   }
+}
+
+void DrivenProgram::PressOk() {
+  MoveKey(VK_CONTROL, 0);
+  PressAndRelease(VK_RETURN);
+  MoveKey(VK_CONTROL, KEYEVENTF_KEYUP);
+  Settle();
 }
 
 void DrivenProgram::Tap(POINT point) {
@@ -145,14 +164,6 @@ void DrivenProgram::Settle() {
 
 HWND DrivenProgram::Front() const {
   return GetLastActivePopup(main_);
-}
-
-// Keys go to the control that has the focus, if a control has it.
-HWND DrivenProgram::Focus() const {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof info;
-  GetGUIThreadInfo(GetWindowThreadProcessId(main_, nullptr), &info);
-  return info.hwndFocus && IsChild(Front(), info.hwndFocus) ? info.hwndFocus : Front();
 }
 
 POINT DrivenProgram::BarButton(bool right) const {

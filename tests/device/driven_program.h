@@ -51,9 +51,10 @@ class DrivenProgram {
   bool WaitForPopupToGo();
   HWND Main() const { return main_; }
 
-  // Input goes to whatever window of the program is in front, keys to the control in it that has
-  // the focus.
+  // Input goes to whatever window of the program is in front; keys are the keyboard's own.
   void Press(WPARAM key, int times = 1);
+  // The OK key of a device.
+  void PressOk();
   void Tap(POINT point);
   // Leaves the finger on the screen.
   void Drag(POINT from, POINT to);
@@ -67,7 +68,6 @@ class DrivenProgram {
 
  private:
   HWND Front() const;
-  HWND Focus() const;
   POINT BarButton(bool right) const;
 
   Process process_;
