@@ -37,6 +37,13 @@ void Popup(DrivenProgram& program) {
   program.WaitForPopup();
 }
 
+// Confirms such a name in the file name dialog.
+void ConfirmIllegalName(DrivenProgram& program) {
+  const HWND field = FindWindowExW(program.WaitForPopup(), nullptr, L"Edit", nullptr);
+  SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"May/June"));
+  program.TapOk();
+}
+
 struct View {
   std::string name;
   std::vector<Step> steps;  // from the main list as it opens
@@ -44,6 +51,7 @@ struct View {
 };
 
 constexpr int kAboutRow = 12;
+constexpr int kImportRow = 1;
 constexpr int kExitRow = 2;
 
 const View kViews[] = {
@@ -53,6 +61,12 @@ const View kViews[] = {
     {"main-last", {Press(VK_DOWN, kAboutRow)}},
     {"tools", {TapRightButton}},
     {"exit-question", {TapRightButton, Press(VK_DOWN, kExitRow), Press(VK_RETURN), Popup}},
+    {"export", {TapRightButton, Press(VK_RETURN), Popup}},
+    {"export-illegal-name", {TapRightButton, Press(VK_RETURN), Popup, ConfirmIllegalName, Popup}},
+    {"import", {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup}},
+    {"import-no-name",
+     {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Press(VK_UP),
+      Press(VK_RETURN), Popup}},
     {"about", {Press(VK_DOWN, kAboutRow), Press(VK_RETURN), Popup}},
 };
 
@@ -101,7 +115,17 @@ bool Show(const View& view) {
   return std::fgets(answer, sizeof answer, stdin) != nullptr;
 }
 
+// For the file name dialog, which lists them.
+void MakeBackups() {
+  CreateDirectoryW(L"C:\\My Documents", nullptr);
+  for (const wchar_t* path : {L"C:\\My Documents\\TW_Backup_2026_10_31.twsb",
+                              L"C:\\My Documents\\before the update.twsb"}) {
+    CloseHandle(CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  }
+}
+
 int TakeTour() {
+  MakeBackups();
   for (const View& view : AllViews()) {
     if (!Show(view)) {
       Say("trouble", view.name);
