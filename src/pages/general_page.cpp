@@ -5,15 +5,22 @@
 
 namespace tidewell {
 
+namespace {
+
+constexpr int kHeightTab = 0;
+constexpr int kLanguageTab = 1;
+constexpr int kDPadTab = 2;
+
+}  // namespace
+
 using namespace general_ids;
 
 GeneralPage::GeneralPage(PageContext& context) : TablePage(context, GeneralTable(context)) {}
 
-void GeneralPage::OnCreate(HWND window) {
-  TablePage::OnCreate(window);
-  FillLanguages();
-  ApplyHeightRule();
-  ApplyDPadRule();
+void GeneralPage::OnTabBuilt(int tab) {
+  if (tab == kHeightTab) ApplyHeightRule();
+  if (tab == kLanguageTab) FillLanguages();
+  if (tab == kDPadTab) ApplyDPadRule();
 }
 
 void GeneralPage::OnDestroy(HWND window) {

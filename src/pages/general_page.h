@@ -10,7 +10,7 @@ class GeneralPage final : public TablePage {
   explicit GeneralPage(PageContext& context);
 
  protected:
-  void OnCreate(HWND window) override;
+  void OnTabBuilt(int tab) override;
   void OnDestroy(HWND window) override;
   LRESULT OnCommand(HWND window, WPARAM wParam, LPARAM lParam) override;
 

@@ -11,8 +11,7 @@ using namespace pim_ids;
 
 PimPage::PimPage(PageContext& context) : TablePage(context, PimTable(context)) {}
 
-void PimPage::OnCreate(HWND window) {
-  TablePage::OnCreate(window);
+void PimPage::OnTabBuilt(int) {
   ApplyRule();
 }
 

@@ -9,7 +9,7 @@ class PimPage final : public TablePage {
   explicit PimPage(PageContext& context);
 
  protected:
-  void OnCreate(HWND window) override;
+  void OnTabBuilt(int tab) override;
   LRESULT OnCommand(HWND window, WPARAM wParam, LPARAM lParam) override;
 
  private:

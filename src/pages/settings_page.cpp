@@ -59,8 +59,8 @@ bool SettingsPage::Create(HWND host, const wchar_t* className, const std::wstrin
                   nullptr, instance_, this);
   if (!window_) return false;
   ShowWindow(window_, SW_SHOW);
+  controls_.FocusFirst();  // before the first painting, which shows it
   UpdateWindow(window_);
-  controls_.FocusFirst();
   return true;
 }
 

@@ -43,7 +43,7 @@ class SettingsPage : public HostedPage, private ControlsOwner {
  protected:
   virtual int GetTabCount() const = 0;
   virtual int GetTabTitleId(int index) const = 0;
-  // Builds the controls of all tabs, none of them visible.
+  // Builds the controls, none of them visible; those behind the first tab can follow later.
   virtual void OnCreate(HWND window) = 0;
   // Shows or hides the controls of the tab that is selected now.
   virtual void ShowTab(HWND window, int showCommand) = 0;

@@ -17,6 +17,9 @@ constexpr int kThumbWidth = 4;
 constexpr int kThumbStrip = 10;  // the right margin, in which the thumb is taken
 constexpr int kSmallestThumb = 20;
 
+// Posted to itself: the page is painted, and the tabs behind the first one can be built.
+constexpr UINT kPaintedMessage = WM_APP;
+
 SIZE ClientSize(HWND window) {
   RECT client;
   GetClientRect(window, &client);
@@ -30,19 +33,30 @@ TablePage::TablePage(PageContext& context, PageTable table)
 
 void TablePage::OnCreate(HWND window) {
   laidOut_ = ClientSize(window);
-  for (std::size_t tab = 0; tab < table_.size(); ++tab) BuildTab(tab);
+  NeedTab(0);
+  PostMessageW(window, kPaintedMessage, 0, 0);
 }
 
-void TablePage::BuildTab(std::size_t tab) {
-  TabPlace& place = places_[tab];
+// A tab is built when it is first needed, at the latest after the page was painted: lists are
+// slow to make, and the user sees those of one tab only.
+void TablePage::NeedTab(int tab) {
+  TabPlace& place = places_[static_cast<std::size_t>(tab)];
+  if (std::exchange(place.built, true)) return;
   int y = Scale().ScaleY(kFirstRowTop);
-  for (const Row& row : table_[tab].rows) {
+  for (const Row& row : TabAt(tab).rows) {
     RowPlace& built = place.rows.emplace_back(BuildRow(row, y));
     built.height -= Scale().ScaleY(row.closer);
     y += built.height;
   }
   FitScroll(place);
+  OnTabBuilt(tab);
 }
+
+void TablePage::NeedAllTabs() {
+  for (int tab = 0; tab < GetTabCount(); ++tab) NeedTab(tab);
+}
+
+void TablePage::OnTabBuilt(int) {}
 
 RowPlace TablePage::BuildRow(const Row& row, int y) {
   const ControlState state = StateOf(row);
@@ -66,6 +80,7 @@ RowPlace TablePage::BuildRow(const Row& row, int y) {
 }
 
 void TablePage::ShowTab(HWND window, int showCommand) {
+  NeedTab(SelectedTab());
   const PageTab& tab = TabAt(SelectedTab());
   ShowControlRange(window, tab.firstId, tab.lastId, showCommand);
   const ScrollRange& scroll = SelectedPlace().scroll;
@@ -75,6 +90,7 @@ void TablePage::ShowTab(HWND window, int showCommand) {
 }
 
 void TablePage::OnDestroy(HWND) {
+  NeedAllTabs();
   for (const PageTab& tab : table_) {
     for (const Row& row : tab.rows) Store(row, ReadState(row));
   }
@@ -101,7 +117,9 @@ void TablePage::OnLayout(HWND window) {
   const SIZE size = ClientSize(window);
   if (size.cx == laidOut_.cx && size.cy == laidOut_.cy) return;
   laidOut_ = size;
-  for (std::size_t tab = 0; tab < table_.size(); ++tab) LayOutTab(tab);
+  for (std::size_t tab = 0; tab < table_.size(); ++tab) {
+    if (places_[tab].built) LayOutTab(tab);
+  }
   InvalidateRect(window, nullptr, TRUE);
 }
 
@@ -207,6 +225,9 @@ void TablePage::DragTo(int y) {
 
 LRESULT TablePage::OnOther(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case kPaintedMessage:
+      NeedAllTabs();
+      return 0;
     case WM_MOUSEMOVE:
       if (drag_) DragTo(GET_Y_LPARAM(lParam));
       return 0;

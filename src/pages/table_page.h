@@ -30,10 +30,14 @@ class TablePage : public SettingsPage {
   bool OnPageKey(int direction) override;
   void OnWheel(int distance) override;
 
+  // The controls of a tab are there now: what its rows alone cannot say is set.
+  virtual void OnTabBuilt(int tab);
+
   const PageTable& Table() const { return table_; }
 
  private:
   struct TabPlace {
+    bool built = false;
     std::vector<RowPlace> rows;
     ScrollRange scroll;
   };
@@ -45,7 +49,8 @@ class TablePage : public SettingsPage {
 
   const PageTab& TabAt(int index) const { return table_[static_cast<std::size_t>(index)]; }
   TabPlace& SelectedPlace() { return places_[static_cast<std::size_t>(SelectedTab())]; }
-  void BuildTab(std::size_t tab);
+  void NeedTab(int tab);
+  void NeedAllTabs();
   RowPlace BuildRow(const Row& row, int y);
   void LayOutTab(std::size_t tab);
   void ShowCaption(const Row& row, const RowPlace& place) const;

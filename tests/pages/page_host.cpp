@@ -60,6 +60,16 @@ void PageHost::Load() {
 }
 
 void PageHost::Open(PageIndex page) {
+  BeginToOpen(page);
+  HandleMessages();
+}
+
+void PageHost::HandleMessages() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+}
+
+void PageHost::BeginToOpen(PageIndex page) {
   if (!context_) Load();
   page_ = CreatePage(static_cast<int>(page), host_, *context_);
   ASSERT_TRUE(page_);

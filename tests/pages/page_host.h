@@ -48,6 +48,9 @@ class PageHost : public testing::Test {
   void UseLanguage(const std::wstring& library);
 
   void Open(PageIndex page);
+  // Until its first tab is painted.
+  void BeginToOpen(PageIndex page);
+  void HandleMessages();
   // As the host does on OK. The settings have what the page's controls held.
   void Close();
   // Closes, saves as Done does, and returns what reached the registry, each as "name".

@@ -174,6 +174,36 @@ TEST_F(PageWindow, TurningTheScreenLosesNoEdit) {
   EXPECT_EQ(store_.root.dHeightLimit.Value(), 234u);
 }
 
+// ---- Before the tabs behind the first one are built
+
+TEST_F(PageWindow, ATabIsBuiltWhenItIsAskedFor) {
+  BeginToOpen(PageIndex::kGeneral);
+  EXPECT_FALSE(Control(1212));
+  Turn(2);
+  EXPECT_TRUE(IsShown(1224));
+  EXPECT_FALSE(IsUsable(1226)) << "with its rule";
+  HandleMessages();
+  EXPECT_TRUE(Control(1212));
+  EXPECT_FALSE(IsShown(1212));
+}
+
+TEST_F(PageWindow, AScreenThatTurnsEarlyFindsEveryTabInItsPlace) {
+  BeginToOpen(PageIndex::kGeneral);
+  TurnScreen();
+  HandleMessages();
+  for (const int id : {1201, 1212, 1224, 1235}) EXPECT_EQ(Place(Control(id)).left, 268 - 135);
+}
+
+TEST_F(PageWindow, APageThatGoesEarlyStoresTabsThatItNeverBuilt) {
+  Load();
+  store_.root.LoadingDelay.Set(9);
+  store_.root.GoofyMode.Set(5);
+  BeginToOpen(PageIndex::kGeneral);
+  Close();
+  EXPECT_EQ(store_.root.LoadingDelay.Value(), ~0u);
+  EXPECT_EQ(store_.root.GoofyMode.Value(), 1u);
+}
+
 // ---- On every screen, in every language
 
 struct Screen {
