@@ -1,105 +1,83 @@
-// Every line of the catalogue at work: loaded, saved in order, loaded again, set back.
-#include <gmock/gmock.h>
-
+// Every line of the catalogue at work: loaded, saved in order, set back, and fed with nonsense.
 #include "tests/settings/store_fixture.h"
-#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
-// Every line gets a value of its own, so that no two can pass for each other.
-std::uint32_t NumberOf(std::size_t line) {
-  return 5000 + static_cast<std::uint32_t>(line);
+// Shows `act` every number and text with a value that no other line has.
+template <typename Act>
+void WithOwnValues(SettingGroup& group, Act act) {
+  const SettingLines lines(group);
+  std::uint32_t next = 5000;
+  for (DwordSetting* setting : lines.dwords) act(*setting, ++next);
+  for (StringSetting* setting : lines.strings) act(*setting, L"text " + std::to_wstring(++next));
 }
-std::wstring TextFor(std::size_t line) {
-  return L"text " + FormatDecimal(static_cast<std::int32_t>(line));
-}
-
-using Names = std::vector<std::wstring>;
 
 class CatalogueWalkTest : public StoreFixture {
  protected:
-  static Names NamesOf(const SettingLines& lines, bool readOnly) {
-    Names names;
-    for (const Setting* setting : lines.all) {
-      if (setting->IsReadOnly() == readOnly) names.push_back(setting->Name());
-    }
-    return names;
-  }
-  // The names that the last save set or deleted, in order.
-  Names Touched(RegistryCall call) {
-    Names names = metered.Meter().Paths(call);
-    for (std::wstring& name : names) name.erase(0, name.rfind(L'\\') + 1);
-    return names;
-  }
-  Names StoredNames(SettingKey key) {
-    Names names;
-    EnumeratedValue value;
-    const FlushedKey open = KeyOf(key);
-    for (std::uint32_t i = 0; open.Get()->EnumValue(i, 256, 256, value) == kStatusSuccess; ++i) {
-      names.push_back(value.name);
-    }
-    return names;
-  }
-  void SaveGroup(SettingGroup& group) {
+  // Saves and returns the names of the values that were set, or deleted, in order.
+  std::wstring Save(SettingGroup& group, RegistryCall call) {
     const FlushedKey key = CreateSettingKey(metered, group.Key());
     metered.Meter().Reset();
     group.Save(key.Get());
-  }
-  // Stores a value for every line by hand, as the Today item would.
-  void PutEveryLine(SettingGroup& group) {
-    const SettingLines lines(group);
-    for (std::size_t i = 0; i < lines.dwords.size(); ++i) {
-      Put(group.Key(), lines.dwords[i]->Name(), NumberOf(i));
+    std::wstring names;
+    for (const std::wstring& path : metered.Meter().Paths(call)) {
+      names += path.substr(path.rfind(L'\\') + 1) + L"\n";
     }
-    for (std::size_t i = 0; i < lines.strings.size(); ++i) {
-      Put(group.Key(), lines.strings[i]->Name(), TextFor(i).c_str());
-    }
-    for (const FlagArraySetting* setting : lines.flags) {
-      const std::vector<std::byte> flags((setting->Bits() + 7) / 8, std::byte(0x5A));
-      Put(group.Key(), setting->Name(), kTypeBinary, flags);
-    }
-  }
-  static void ExpectEveryLine(SettingGroup& group) {
-    const SettingLines lines(group);
-    for (std::size_t i = 0; i < lines.dwords.size(); ++i) {
-      EXPECT_EQ(lines.dwords[i]->Value(), NumberOf(i)) << Utf8(lines.dwords[i]->Name());
-    }
-    for (std::size_t i = 0; i < lines.strings.size(); ++i) {
-      EXPECT_EQ(lines.strings[i]->Value(), TextFor(i)) << Utf8(lines.strings[i]->Name());
-    }
-    for (const FlagArraySetting* setting : lines.flags) {
-      EXPECT_EQ(setting->Bytes().back(), std::byte(0x5A)) << Utf8(setting->Name());
-    }
+    return names;
   }
 };
 
-TEST_P(CatalogueWalkTest, EveryLineIsLoadedSavedInOrderAndGoneWhenSetBack) {
-  const LoadContext context;
+TEST_P(CatalogueWalkTest, EveryLineIsLoadedSavedInOrderAndDeletedWhenSetBack) {
   for (SettingGroup* group : store.Groups()) {
-    const SettingLines lines(*group);
-    const auto load = [&] { group->Load(KeyOf(group->Key()).Get(), context); };
-    PutEveryLine(*group);
-    load();
-    ExpectEveryLine(*group);
-    SaveGroup(*group);
+    std::wstring saved;
+    for (const Setting* setting : SettingLines(*group).all) {
+      if (!setting->IsReadOnly()) saved += setting->Name() + L"\n";
+    }
+    WithOwnValues(*group, [&](Setting& setting, const auto& value) {
+      Put(group->Key(), setting.Name(), value);
+    });
+    const std::string stored = Dump(group->Key());
+    group->Load(KeyOf(group->Key()).Get(), {});
+    WithOwnValues(*group, [](auto& setting, const auto& value) {
+      EXPECT_EQ(setting.Value(), value) << Utf8(setting.Name());
+    });
+    Save(*group, RegistryCall::kSet);
     EXPECT_EQ(metered.CountWrites(), 0) << "nothing was changed";
 
-    for (DwordSetting* setting : lines.dwords) setting->Set(setting->Default());
-    for (StringSetting* setting : lines.strings) setting->Set(setting->Default());
-    SaveGroup(*group);
-    EXPECT_EQ(Touched(RegistryCall::kDeleteValue), NamesOf(lines, false));
-    EXPECT_EQ(metered.Count(RegistryCall::kSet), 0);
-    EXPECT_THAT(StoredNames(group->Key()),
-                testing::UnorderedElementsAreArray(NamesOf(lines, true)));
+    WithOwnValues(*group, [](auto& setting, const auto&) { setting.Set(setting.Default()); });
+    EXPECT_EQ(Save(*group, RegistryCall::kDeleteValue), saved);
+    EXPECT_EQ(Sets(), 0);
+    WithOwnValues(*group, [](auto& setting, const auto& value) { setting.Set(value); });
+    EXPECT_EQ(Save(*group, RegistryCall::kSet), saved);
+    EXPECT_EQ(Deletes(), 0);
+    EXPECT_EQ(Dump(group->Key()), stored);
+  }
+}
 
-    for (std::size_t i = 0; i < lines.dwords.size(); ++i) lines.dwords[i]->Set(NumberOf(i));
-    for (std::size_t i = 0; i < lines.strings.size(); ++i) lines.strings[i]->Set(TextFor(i));
-    SaveGroup(*group);
-    EXPECT_EQ(Touched(RegistryCall::kSet), NamesOf(lines, false));
-    EXPECT_EQ(metered.Count(RegistryCall::kDeleteValue), 0);
-    load();
-    ExpectEveryLine(*group);
+TEST_P(CatalogueWalkTest, EveryValueIsReadWholeOrNotAtAll) {
+  for (const std::uint32_t type : {0u, kTypeString, kTypeBinary, kTypeDword, 0xFFFFFFFFu}) {
+    for (const std::size_t size : {0, 1, 3, 4, 5, 6, 15, 16, 17, 511, 513, 8002}) {
+      SCOPED_TRACE("type " + std::to_string(type) + ", " + std::to_string(size) + " bytes");
+      const std::vector<std::byte> data(size, std::byte('A'));
+      for (SettingGroup* group : store.Groups()) {
+        const FlushedKey key = KeyOf(group->Key());
+        const SettingLines lines(*group);
+        for (Setting* setting : lines.all) key.Get()->Set(setting->Name(), type, data);
+        group->Load(key.Get(), {});
+        for (DwordSetting* setting : lines.dwords) {
+          EXPECT_EQ(setting->Value(), size == 4 ? 0x41414141u : setting->Default());
+        }
+        for (StringSetting* setting : lines.strings) {
+          EXPECT_EQ(setting->Value(), TextOfBytes(data));
+        }
+        for (FlagArraySetting* setting : lines.flags) {
+          const bool fits = type == kTypeBinary && size == (setting->Bits() + 7) / 8;
+          const std::byte expected = fits ? std::byte('A') : std::byte(0);
+          for (const std::byte byte : setting->Bytes()) EXPECT_EQ(byte, expected);
+        }
+      }
+    }
   }
 }
 

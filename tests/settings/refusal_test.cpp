@@ -1,28 +1,25 @@
 // A registry that refuses: never a crash, a hang, half a value or a lost one. Every refusal in turn
 // needs thousands of loads; the twin in memory is fast enough for that.
 #include "tests/settings/store_fixture.h"
-#include "tests/support/registry_support.h"
-#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
-class RefusingRegistryTest : public testing::Test {
+class RefusingRegistryTest : public StoreFixture {
  protected:
   // A device whose user has changed a few settings and hosts two plug-ins.
-  static void Fill(Registry& registry) {
+  void Fill() {
     const RegistryRoot user = RegistryRoot::kCurrentUser;
-    const std::wstring root = L"Software\\Velmont\\Tidewell";
-    SetDword(registry, user, root, L"OnClick", 5);
-    SetString(registry, user, root, L"SkinPath", std::wstring(4000, L's'));
-    SetDword(registry, user, root + L"\\Notes", L"NotesSearchMode", 7);
-    SetString(registry, user, root + L"\\Contacts", L"ContactsSelCategory", L"Family");
-    SetBinary(registry, user, root + L"\\Tasks", L"FoldState", {1, 2, 3, 4, 5, 6});
-    for (const wchar_t* name : {L"\\TabSettings\\One", L"\\TabSettings\\Two"}) {
-      SetDword(registry, user, root + name, L"Order", 20);
-      SetString(registry, user, root + name, L"DLL", L"plug-in.dll");
+    PutNumbers(SettingKey::kRoot, "OnClick=5");
+    Put(SettingKey::kRoot, L"SkinPath", std::wstring(4000, L's'));
+    PutNumbers(SettingKey::kNotes, "NotesSearchMode=7");
+    KeyOf(SettingKey::kTasks).Get()->Set(L"FoldState", kTypeBinary, kFolded);
+    for (const std::wstring name : {L"One", L"Two"}) {
+      const std::wstring path = L"Software\\Velmont\\Tidewell\\TabSettings\\" + name;
+      SetDword(*registry, user, path, L"Order", 20);
+      SetString(*registry, user, path, L"DLL", L"plug-in.dll");
     }
-    SetBinary(registry, RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color", L"SHColor",
+    SetBinary(*registry, RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color", L"SHColor",
               std::vector<unsigned char>(150, 0x10));
   }
 
@@ -30,75 +27,68 @@ class RefusingRegistryTest : public testing::Test {
   // how many calls could have been refused.
   template <typename Arrange>
   int Run(Arrange arrange) {
-    MemoryMachine machine;
-    Fill(machine.registry);
-    MeteredRegistry metered(machine.registry);
-    arrange(metered);
-    Machine door{metered, machine.files, machine.locale, machine.libraries, machine.system};
-    SettingsStore store;
-    std::unique_ptr<ResourceLibrary> language;
-    store.Load(door, ScreenScale(), language);
-    ExpectWholeValues(store);
-    store.calendar.HideEmptyGroups.Set(0);
-    store.contacts.ContactsCustomSearchBarSelected.Set(L"abc");
-    store.Save(metered, ScreenScale());
-    ExpectUntouched(machine.registry);
+    registry->DeleteTree(RegistryRoot::kCurrentUser, L"Software");
+    Fill();
+    metered.Meter().Reset();
+    arrange(metered.Meter());
+    SettingsStore refused;
+    LoadInto(refused);
+    ExpectWholeValues(refused);
+    refused.calendar.HideEmptyGroups.Set(0);
+    refused.contacts.ContactsCustomSearchBarSelected.Set(L"abc");
+    refused.Save(metered, scale);
+    // Whatever is refused, a value that nobody changed stays as it was.
+    EXPECT_EQ(Stored(SettingKey::kRoot, L"OnClick"), 5u);
+    EXPECT_EQ(Stored(SettingKey::kNotes, L"NotesSearchMode"), 7u);
+    EXPECT_EQ(Stored(SettingKey::kRoot, L"ActiveTab"), std::nullopt);
     return metered.Meter().FailableCount();
   }
 
-  static void ExpectWholeValues(SettingsStore& store) {
-    const auto oneOf = [](const auto& value, const auto& first, const auto& second) {
-      return value == first || value == second;
+  // Every value of `store`, which met no refusal, or its default.
+  void ExpectWholeValues(SettingsStore& refused) {
+    const SettingLines whole(store);
+    const SettingLines lines(refused);
+    const auto expectWhole = [](auto& setting, auto& other) {
+      EXPECT_TRUE(setting.Value() == other.Value() || setting.Value() == setting.Default())
+          << Utf8(setting.Name());
     };
-    EXPECT_TRUE(oneOf(store.root.OnClick.Value(), 0u, 5u));
-    EXPECT_TRUE(oneOf(store.root.SkinPath.Value(), L"", std::wstring(4000, L's')));
-    EXPECT_TRUE(oneOf(store.notes.NotesSearchMode.Value(), 0u, 7u));
-    EXPECT_TRUE(oneOf(store.contacts.ContactsSelCategory.Value(), L"", L"Family"));
-    ASSERT_EQ(store.tasks.FoldState.Bytes().size(), 6u);
-    EXPECT_TRUE(oneOf(store.tasks.FoldState.Bytes().back(), std::byte(0), std::byte(6)));
-    EXPECT_TRUE(oneOf(store.themeColors.color1, 0u, 0x101010u));
-    for (const TabEntry& entry : store.tabs) {
-      EXPECT_TRUE(oneOf(entry.dll, L"", L"plug-in.dll"));
+    for (std::size_t i = 0; i < lines.dwords.size(); ++i) {
+      expectWhole(*lines.dwords[i], *whole.dwords[i]);
     }
-    SettingLines lines(store);
-    for (DwordSetting* setting : lines.dwords) {
-      const bool isFilled =
-          setting == &store.root.OnClick || setting == &store.notes.NotesSearchMode;
-      if (isFilled) continue;
-      EXPECT_EQ(setting->Value(), setting->Default()) << Utf8(setting->Name());
+    for (std::size_t i = 0; i < lines.strings.size(); ++i) {
+      expectWhole(*lines.strings[i], *whole.strings[i]);
+    }
+    const auto folded = refused.tasks.FoldState.Bytes();
+    const std::vector<std::byte> flags(folded.begin(), folded.end());
+    EXPECT_TRUE(flags == kFolded || flags == std::vector<std::byte>(6));
+    EXPECT_TRUE(refused.themeColors.color1 == 0 || refused.themeColors.color1 == 0x101010);
+    for (const TabEntry& entry : refused.tabs) {
+      EXPECT_TRUE(entry.dll.empty() || entry.dll == L"plug-in.dll");
     }
   }
 
-  // Whatever is refused, a value that nobody changed stays as it was.
-  static void ExpectUntouched(Registry& registry) {
-    const RegistryRoot user = RegistryRoot::kCurrentUser;
-    const std::wstring root = L"Software\\Velmont\\Tidewell";
-    EXPECT_EQ(FindDword(registry, user, root, L"OnClick"), 5u);
-    EXPECT_EQ(FindString(registry, user, root, L"SkinPath"), std::wstring(4000, L's'));
-    EXPECT_EQ(FindDword(registry, user, root + L"\\Notes", L"NotesSearchMode"), 7u);
-    EXPECT_EQ(FindDword(registry, user, root, L"ActiveTab"), std::nullopt);
-  }
+  const std::vector<std::byte> kFolded = std::vector<std::byte>(6, std::byte(0x5A));
 };
 
-TEST_F(RefusingRegistryTest, AnySingleRefusalCostsNoMoreThanWhatItWasFor) {
-  const int calls = Run([](MeteredRegistry&) {});
+TEST_P(RefusingRegistryTest, ARefusalCostsNoMoreThanWhatItWasFor) {
+  using Meter = CallMeter<RegistryCall>;
+  Fill();
+  Load();
+  const int calls = Run([](Meter&) {});
   ASSERT_GT(calls, 480);
   for (int n = 1; n <= calls && !HasFailure(); ++n) {
     SCOPED_TRACE(n);
-    Run([n](MeteredRegistry& registry) {
-      registry.SetFailure(kStatusMoreData);  // the answer that invites a second question
-      registry.Meter().FailNth(n);
-    });
+    metered.SetFailure(kStatusMoreData);  // the answer that invites a second question
+    Run([n](Meter& meter) { meter.FailNth(n); });
+    metered.SetFailure(kStatusAccessDenied);
+    Run([n](Meter& meter) { meter.FailFrom(n); });
   }
+  Run([](Meter& meter) { meter.FailEvery(RegistryCall::kDeleteTree); });
+  EXPECT_EQ(metered.Count(RegistryCall::kDeleteTree), 2) << "each plug-in's subkey once";
 }
 
-TEST_F(RefusingRegistryTest, ARegistryThatIsGoneFromSomeMomentOnIsBorne) {
-  const int calls = Run([](MeteredRegistry&) {});
-  for (int n = 1; n <= calls && !HasFailure(); ++n) {
-    SCOPED_TRACE(n);
-    Run([n](MeteredRegistry& registry) { registry.Meter().FailFrom(n); });
-  }
-}
+INSTANTIATE_TEST_SUITE_P(On, RefusingRegistryTest, testing::Values(RegistryKind::kMemory),
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tidewell

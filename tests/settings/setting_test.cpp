@@ -1,7 +1,4 @@
-// The kinds of settings, each on its own, on every registry.
-#include <array>
-#include <cstring>
-
+// The kinds of settings, each on its own.
 #include "tests/settings/store_fixture.h"
 
 namespace tidewell {
@@ -9,216 +6,128 @@ namespace {
 
 constexpr SettingKey kKey = SettingKey::kNotes;
 
-std::vector<std::byte> Bytes(std::size_t count, unsigned first = 1) {
-  std::vector<std::byte> bytes(count);
-  for (std::size_t i = 0; i < count; ++i) bytes[i] = std::byte((first + i) & 0xFF);
-  return bytes;
-}
-
-std::vector<std::byte> TextBytes(const std::wstring& text, std::size_t dropped = 0) {
-  std::vector<std::byte> bytes = BytesOf(text);
-  bytes.resize(bytes.size() - dropped);
-  return bytes;
-}
-
 class SettingTest : public StoreFixture {
  protected:
-  // Loads through a shared key of its own, as the store does.
+  // Loads through a shared key, as the store does.
   template <typename Kind>
   Kind& Loaded(Kind& setting) {
-    setting.Load(KeyOf(setting.Key()).Get(), context);
+    setting.Load(KeyOf(setting.Key()).Get(), {});
     return setting;
   }
-  void SaveCounted(Setting& setting) {
+  void Save(Setting& setting) {
     FlushedKey key = CreateSettingKey(metered, setting.Key());
     metered.Meter().Reset();
     setting.Save(key.Get());
   }
-  int Sets() const { return metered.Count(RegistryCall::kSet); }
-  int Deletes() const { return metered.Count(RegistryCall::kDeleteValue); }
-
-  LoadContext context;
 };
 
-TEST_P(SettingTest, ANumberIsReadOnlyFromExactlyFourBytesOfAnyType) {
-  DwordSetting number(kKey, L"Number", 77);
-  EXPECT_EQ(Loaded(number).Value(), 77u) << "absent";
-  for (const std::uint32_t type : {kTypeDword, kTypeBinary, kTypeString, 0u, 11u}) {
-    for (const std::size_t size : {0, 1, 2, 3, 4, 5, 8, 600}) {
-      Put(kKey, L"Number", type, Bytes(size));
-      EXPECT_EQ(Loaded(number).Value(), size == 4 ? 0x04030201u : 77u)
-          << size << " bytes of type " << type;
-    }
-  }
-  Put(kKey, L"NUMBER", 0xFFFFFFFFu);
-  EXPECT_EQ(Loaded(number).Signed(), -1) << "in other letter case";
-}
-
 TEST_P(SettingTest, ATextIsItsBytesUpToTheFirstZeroWhateverTheirType) {
-  const std::wstring z(1, L'\0');
-  const std::wstring long4000(4000, L'x');
+  using namespace std::string_literals;
+  const std::wstring text255(255, L'q');
+  const std::wstring text256(256, L'q');
+  const std::wstring surrogate(1, wchar_t(0xD83D));
   struct Case {
-    const char* what;
-    std::vector<std::byte> bytes;
-    std::wstring expected;
+    std::wstring stored, expected;
   };
-  const std::vector<Case> cases = {
-      {"terminated", TextBytes(L"abc" + z), L"abc"},
-      {"unterminated", TextBytes(L"abc"), L"abc"},
-      {"odd", TextBytes(L"abc", 1), L"ab"},
-      {"one byte", Bytes(1), L""},
-      {"no bytes", {}, L""},
-      {"a lone zero", TextBytes(z), L""},
-      {"several texts", TextBytes(L"one" + z + L"two" + z + z), L"one"},
-      {"just within one query", TextBytes(std::wstring(255, L'q') + z), std::wstring(255, L'q')},
-      {"just over one query", TextBytes(std::wstring(256, L'q') + z), std::wstring(256, L'q')},
-      {"unterminated at the limit", TextBytes(std::wstring(256, L'q')), std::wstring(256, L'q')},
-      {"4,000 characters", TextBytes(long4000 + z), long4000},
-      {"a lone surrogate", TextBytes(std::wstring(1, wchar_t(0xD83D)) + z),
-       std::wstring(1, wchar_t(0xD83D))},
+  const Case cases[] = {
+      {L"abc\0"s, L"abc"},
+      {L"abc", L"abc"},
+      {L"", L""},
+      {L"\0"s, L""},
+      {L"one\0two\0\0"s, L"one"},
+      {text255 + L'\0', text255},  // just within one query
+      {text256, text256},
+      {text256 + L'\0', text256},
+      {std::wstring(4000, L'x') + L'\0', std::wstring(4000, L'x')},
+      {surrogate + L'\0', surrogate},
   };
   StringSetting text(kKey, L"Text", L"default");
   EXPECT_EQ(Loaded(text).Value(), L"default") << "absent";
   for (const Case& c : cases) {
-    for (const std::uint32_t type : {kTypeString, kTypeBinary, kTypeDword, 7u}) {
-      Put(kKey, L"Text", type, c.bytes);
-      EXPECT_EQ(Loaded(text).Value(), c.expected) << c.what << ", type " << type;
+    for (const std::uint32_t type : {kTypeString, kTypeBinary, 7u}) {
+      KeyOf(kKey).Get()->Set(L"Text", type, BytesOf(c.stored));
+      EXPECT_EQ(Loaded(text).Value(), c.expected) << Utf8(c.stored) << ", type " << type;
     }
   }
+  Loaded(text).Set(L"Default");
+  Save(text);
+  EXPECT_EQ(Sets(), 1) << "letter case counts";
 }
 
-TEST_P(SettingTest, ASaveWritesChangesAloneAndDeletesWhatIsTheDefaultAgain) {
-  DwordSetting number(kKey, L"Number", 1);
-  StringSetting text(kKey, L"Text", L"Tahoma");
-  Loaded(number);
-  Loaded(text);
-  Put(kKey, L"Number", 5);
-  Put(kKey, L"Text", L"Courier");
-  SaveCounted(number);
-  SaveCounted(text);
-  EXPECT_EQ(metered.CountWrites(), 0) << "unchanged, though the registry differs";
-
-  Loaded(number).Set(1);
-  Loaded(text).Set(L"Tahoma");
-  for (Setting* setting : std::vector<Setting*>{&number, &text}) {
-    SaveCounted(*setting);
-    EXPECT_EQ(Deletes(), 1);
-    EXPECT_EQ(Sets(), 0);
-  }
-  EXPECT_EQ(Stored(kKey, L"Number"), std::nullopt);
-  EXPECT_EQ(StoredText(kKey, L"Text"), std::nullopt);
-}
-
-TEST_P(SettingTest, EverySetCountsAsAChangeAndOutlivesTheSave) {
-  DwordSetting number(kKey, L"Number", 1);
-  EXPECT_FALSE(Loaded(number).IsChanged());
-  EXPECT_EQ(number.Set(1), 1u) << "the previous value";
-  EXPECT_TRUE(number.IsChanged()) << "though it is the same";
-  EXPECT_EQ(number.Set(9), 1u);
-  for (int save = 1; save <= 2; ++save) {
-    SaveCounted(number);
-    EXPECT_EQ(Sets(), 1) << "save " << save;
-    EXPECT_TRUE(number.IsChanged());
-  }
-  EXPECT_FALSE(Loaded(number).IsChanged());
-}
-
-TEST_P(SettingTest, NumbersAreWrittenAsFourBytesAndTextsWithTheirTerminator) {
-  DwordSetting number(kKey, L"Number", 1);
-  StringSetting text(kKey, L"Text", L"Tahoma");
-  Loaded(number).Set(static_cast<std::uint32_t>(-2));
-  Loaded(text).Set(L"tahoma");  // not the default: letter case counts
-  SaveCounted(number);
-  SaveCounted(text);
-  const FlushedKey key = KeyOf(kKey);
-  std::array<std::byte, 64> bytes{};
-  ValueInfo info;
-  ASSERT_EQ(key.Get()->Query(L"Number", {}, info), kStatusSuccess);
-  EXPECT_EQ(info.type, kTypeDword);
-  EXPECT_EQ(Stored(kKey, L"Number"), 0xFFFFFFFEu);
-  ASSERT_EQ(key.Get()->Query(L"Text", bytes, info), kStatusSuccess);
-  EXPECT_EQ(info.type, kTypeString);
-  EXPECT_EQ(TextOfBytes(std::span(bytes).first(info.size)), std::wstring(L"tahoma\0", 7));
-}
-
-TEST_P(SettingTest, FlagsAreTakenOnlyAsBinaryOfTheirExactSize) {
+TEST_P(SettingTest, ASaveWritesWhatWasSetAndDeletesWhatIsTheDefault) {
+  constexpr std::uint32_t kDefault = 1;
+  constexpr std::uint32_t kBehindOurBack = 7;
   struct Case {
-    std::size_t bits, size;
-    std::uint32_t type;
-    bool isUsed;
+    std::uint32_t loaded;
+    std::optional<std::uint32_t> set, left;
+    int sets, deletes;
   };
-  const std::vector<Case> cases = {
-      {125, 16, kTypeBinary, true}, {125, 15, kTypeBinary, false},  {125, 17, kTypeBinary, false},
-      {125, 0, kTypeBinary, false}, {125, 900, kTypeBinary, false}, {125, 16, kTypeString, false},
-      {41, 6, kTypeBinary, true},   {41, 5, kTypeBinary, false},    {8, 1, kTypeBinary, true},
-      {9, 2, kTypeBinary, true},    {32, 4, kTypeDword, false},
-  };
-  for (const FlagFill fill : {FlagFill::kAllClear, FlagFill::kAllSet}) {
-    const auto filler = std::byte(fill == FlagFill::kAllSet ? 0xFF : 0);
-    for (const Case& c : cases) {
-      FlagArraySetting flags(kKey, L"Flags", c.bits, fill);
-      Put(kKey, L"Flags", c.type, Bytes(c.size));
-      const std::vector<std::byte> unfilled((c.bits + 7) / 8, filler);
-      Loaded(flags);
-      const std::vector<std::byte> loaded(flags.Bytes().begin(), flags.Bytes().end());
-      EXPECT_EQ(loaded, c.isUsed ? Bytes(c.size) : unfilled)
-          << c.size << " bytes for " << c.bits << " bits, type " << c.type;
+  for (const Case& c : {Case{5, {}, kBehindOurBack, 0, 0},
+                        {5, 5, 5, 1, 0},
+                        {5, 9, 9, 1, 0},
+                        {5, kDefault, {}, 0, 1},
+                        {kDefault, kDefault, {}, 0, 1}}) {
+    DwordSetting number(kKey, L"Number", kDefault);
+    Put(kKey, L"Number", c.loaded);
+    Loaded(number);
+    Put(kKey, L"Number", kBehindOurBack);
+    if (c.set) {
+      EXPECT_EQ(number.Set(*c.set), c.loaded);
     }
+    for (int save = 1; save <= 2; ++save) {
+      EXPECT_EQ(number.IsChanged(), c.set.has_value()) << "also when it is the same, also saved";
+      Save(number);
+      EXPECT_EQ(Stored(kKey, L"Number"), c.left);
+      EXPECT_EQ(Sets(), c.sets);
+      EXPECT_EQ(Deletes(), c.deletes);
+    }
+    EXPECT_FALSE(Loaded(number).IsChanged());
+  }
+}
+
+TEST_P(SettingTest, FlagsAreRoundedUpToBytesAndFilledWhenAbsent) {
+  for (const std::size_t bits : {8, 9, 125}) {
+    FlagArraySetting clear(kKey, L"Flags", bits, FlagFill::kAllClear);
+    FlagArraySetting set(kKey, L"Flags", bits, FlagFill::kAllSet);
+    ASSERT_EQ(Loaded(clear).Bytes().size(), bits == 8 ? 1u : bits == 9 ? 2u : 16u);
+    EXPECT_EQ(clear.Bytes().back(), std::byte(0));
+    EXPECT_EQ(Loaded(set).Bytes().back(), std::byte(0xFF));
   }
 }
 
 TEST_P(SettingTest, AFontIsSixNumbersAndTheFaceAndQualityOfItsTime) {
+  constexpr SettingKey kFonts = SettingKey::kFonts;
   scale = ScreenScale(192, 192, false);
-  Put(SettingKey::kFonts, L"FontFaceToUse", std::wstring(40, L'f').c_str());
-  Put(SettingKey::kFonts, L"ForceClearType", 2);
-  Put(SettingKey::kFonts, L"FontMailUnreadlfItalic", 256);
-  Put(SettingKey::kFonts, L"FontMailUnreadlfColor", 0x00112233);
+  Put(kFonts, L"FontFaceToUse", std::wstring(40, L'f'));
+  PutNumbers(kFonts, "ForceClearType=2 FontMailUnreadlfItalic=256 FontMailUnreadlfColor=1122867");
   Load();
   FontSetting& font = store.fonts.FontMailUnread;
   const LogFont loaded = font.Font();
-  EXPECT_EQ(loaded.height, 24);
-  EXPECT_EQ(loaded.weight, 700);
-  EXPECT_EQ(loaded.italic, 1);
-  EXPECT_EQ(loaded.underline, 0);
-  EXPECT_EQ(loaded.strikeOut, 0);
-  EXPECT_EQ(loaded.quality, 5);
+  const std::vector<int> numbers = {loaded.height,    loaded.weight,    loaded.italic,
+                                    loaded.underline, loaded.strikeOut, loaded.quality};
+  EXPECT_EQ(numbers, (std::vector<int>{24, 700, 1, 0, 0, 5}));
   EXPECT_EQ(loaded.faceName, std::wstring(31, L'f')) << "as much as the system's structure holds";
-  EXPECT_EQ(font.Color(), 0x00112233u);
   EXPECT_EQ(store.fonts.FontCalPast.Font().strikeOut, 1);
   store.fonts.FontFaceToUse.Set(L"Other");
   EXPECT_EQ(font.Font().faceName, loaded.faceName);
-}
-
-TEST_P(SettingTest, ASetFontIsSavedMemberByMember) {
-  Load();
-  FontSetting& font = store.fonts.FontGeneral;
   EXPECT_FALSE(font.IsChanged());
-  const LogFont chosen{.height = 12,
-                       .weight = 400,
-                       .italic = 1,
-                       .underline = 0,
-                       .strikeOut = 0,
-                       .quality = 0,
-                       .faceName = L""};
-  EXPECT_EQ(font.Set(chosen, 0x00FF00), kNoColor) << "the previous colour";
-  EXPECT_TRUE(font.IsChanged());
-  SaveCounted(font);
 
-  std::vector<std::wstring> log;
-  for (const auto& entry : metered.Meter().Log()) {
-    const bool set = entry.kind == RegistryCall::kSet;
-    log.push_back((set ? L"set " : L"delete ") + entry.path.substr(entry.path.rfind(L'\\') + 1));
-  }
-  EXPECT_EQ(log, (std::vector<std::wstring>{
-                     L"set FontGenerallfWeight", L"set FontGenerallfItalic",
-                     L"delete FontGenerallfUnderline", L"delete FontGenerallfStrikeOut",
-                     L"delete FontGenerallfHeight", L"set FontGenerallfColor"}));
+  EXPECT_EQ(font.Set({24, 400, 0, 1, 1, 0, L""}, 0x00FF00), 0x112233u) << "the previous colour";
+  EXPECT_TRUE(font.IsChanged());
+  DeleteKey(kFonts);
+  Save(font);
+  EXPECT_EQ(Dump(kFonts),
+            "[Software\\Velmont\\Tidewell\\Fonts]\n"
+            "FontMailUnreadlfColor = 65280\n"
+            "FontMailUnreadlfStrikeOut = 1\n"
+            "FontMailUnreadlfUnderline = 1\n"
+            "FontMailUnreadlfWeight = 400\n");
+  EXPECT_EQ(Deletes(), 2) << "height and slant";
 }
 
-TEST_P(SettingTest, ASettingUsedAloneOpensFlushesAndClosesItsOwnKey) {
+TEST_P(SettingTest, ASettingUsedAloneOpensFlushesAndClosesItsOwnKeyIfItHasOne) {
   DwordSetting mode(SettingKey::kRoot, L"MyVgaMode", 0);
-  mode.LoadAlone(metered, context);
-  EXPECT_EQ(mode.Value(), 0u);
+  mode.LoadAlone(metered, {});
   mode.Set(1);
   mode.SaveAlone(metered);
   EXPECT_EQ(metered.Meter().Paths(RegistryCall::kCreate),
@@ -226,17 +135,13 @@ TEST_P(SettingTest, ASettingUsedAloneOpensFlushesAndClosesItsOwnKey) {
   EXPECT_EQ(metered.Count(RegistryCall::kFlush), 2);
   EXPECT_EQ(metered.Count(RegistryCall::kClose), 2);
   EXPECT_EQ(Stored(SettingKey::kRoot, L"MyVgaMode"), 1u);
-}
-
-TEST_P(SettingTest, ASettingOfAnUnknownKeyIsItsDefaultAndIsSavedNowhere) {
   for (const int id : {-1, 15, 99}) {
-    DwordSetting number(static_cast<SettingKey>(id), L"Number", 6);
-    number.LoadAlone(metered, context);
-    EXPECT_EQ(number.Value(), 6u);
-    number.Set(7);
-    number.SaveAlone(metered);
-    EXPECT_EQ(metered.CountWrites(), 0);
+    DwordSetting homeless(static_cast<SettingKey>(id), L"Number", 6);
+    homeless.LoadAlone(metered, {});
+    EXPECT_EQ(homeless.Set(7), 6u);
+    homeless.SaveAlone(metered);
   }
+  EXPECT_EQ(metered.CountWrites(), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(On, SettingTest, testing::ValuesIn(RegistryKinds()),

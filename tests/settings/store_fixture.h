@@ -5,76 +5,87 @@
 
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "platform/memory/memory_machine.h"
 #include "platform/memory/metered_registry.h"
 #include "platform/text.h"
-#include "settings/registry_values.h"
 #include "settings/settings_store.h"
+#include "tests/support/registry_support.h"
 #include "tests/support/test_registries.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 
-// Every registry value of the catalogue, in order.
-class SettingLines final : public SettingVisitor {
- public:
+// Every registry value of a store or of one key, in order.
+struct SettingLines final : SettingVisitor {
   using SettingVisitor::Visit;
   explicit SettingLines(SettingsStore& store) {
     for (SettingGroup* group : store.Groups()) group->Accept(*this);
   }
   explicit SettingLines(SettingGroup& group) { group.Accept(*this); }
 
-  void Visit(DwordSetting& setting) override {
-    all.push_back(&setting);
-    dwords.push_back(&setting);
-  }
-  void Visit(StringSetting& setting) override {
-    all.push_back(&setting);
-    strings.push_back(&setting);
-  }
-  void Visit(FlagArraySetting& setting) override {
-    all.push_back(&setting);
-    flags.push_back(&setting);
-  }
+  void Visit(DwordSetting& setting) override { Add(setting, dwords); }
+  void Visit(StringSetting& setting) override { Add(setting, strings); }
+  void Visit(FlagArraySetting& setting) override { Add(setting, flags); }
 
   std::vector<Setting*> all;
   std::vector<DwordSetting*> dwords;
   std::vector<StringSetting*> strings;
   std::vector<FlagArraySetting*> flags;
+
+ private:
+  template <typename Kind>
+  void Add(Kind& setting, std::vector<Kind*>& kind) {
+    all.push_back(&setting);
+    kind.push_back(&setting);
+  }
 };
 
 class StoreFixture : public testing::TestWithParam<RegistryKind> {
  protected:
-  void Load() { Load(store); }
-  void Load(SettingsStore& into) {
+  void LoadInto(SettingsStore& target) {
     Machine door{metered, machine.files, machine.locale, machine.libraries, machine.system};
+    target.Load(door, scale, language);
+  }
+  void Load() {
     metered.Meter().Reset();
-    into.Load(door, scale, language);
+    LoadInto(store);
   }
   void Save() {
     metered.Meter().Reset();
     store.Save(metered, scale);
   }
+  int Sets() const { return metered.Count(RegistryCall::kSet); }
+  int Deletes() const { return metered.Count(RegistryCall::kDeleteValue); }
 
-  // Values below a setting's key, or below a key of its own path; both are made when missing.
+  // The values of a setting's key, which is made when missing.
   FlushedKey KeyOf(SettingKey key) { return CreateSettingKey(*registry, key); }
-  void Put(SettingKey key, const std::wstring& name, std::uint32_t value) {
-    WriteDword(KeyOf(key).Get(), name, value);
+  void Put(SettingKey key, const std::wstring& name, std::uint32_t number) {
+    SetDword(*registry, LocationOf(key).root, LocationOf(key).path, name, number);
   }
-  void Put(SettingKey key, const std::wstring& name, const wchar_t* text) {
-    WriteString(KeyOf(key).Get(), name, text);
+  void Put(SettingKey key, const std::wstring& name, const std::wstring& text) {
+    SetString(*registry, LocationOf(key).root, LocationOf(key).path, name, text);
   }
-  void Put(SettingKey key, const std::wstring& name, std::uint32_t type,
-           std::span<const std::byte> bytes) {
-    KeyOf(key).Get()->Set(name, type, bytes);
+  // Numbers by name: "dNumOfDays=7 TimelinesStart=-1".
+  void PutNumbers(SettingKey key, const char* text) {
+    std::istringstream words(text);
+    std::string name;
+    long long number = 0;
+    while (std::getline(words >> std::ws, name, '=') && words >> number) {
+      Put(key, std::wstring(name.begin(), name.end()), static_cast<std::uint32_t>(number));
+    }
   }
   std::optional<std::uint32_t> Stored(SettingKey key, const std::wstring& name) {
-    return FindDword(KeyOf(key).Get(), name);
+    return FindDword(*registry, LocationOf(key).root, LocationOf(key).path, name);
   }
-  std::optional<std::wstring> StoredText(SettingKey key, const std::wstring& name) {
-    return FindString(KeyOf(key).Get(), name);
+  std::string Dump(SettingKey key) {
+    return DumpTree(*registry, LocationOf(key).root, LocationOf(key).path);
+  }
+  void DeleteKey(SettingKey key) {
+    registry->DeleteTree(LocationOf(key).root, LocationOf(key).path);
   }
 
   MemoryMachine machine;

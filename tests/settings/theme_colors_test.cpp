@@ -5,12 +5,9 @@
 
 #include "settings/calendar_programs.h"
 #include "tests/settings/store_fixture.h"
-#include "tests/support/registry_support.h"
 
 namespace tidewell {
 namespace {
-
-constexpr std::uint32_t kDefault = 0x123456;
 
 class DeviceProbeTest : public StoreFixture {
  protected:
@@ -23,88 +20,68 @@ class DeviceProbeTest : public StoreFixture {
     std::iota(table.begin(), table.end(), static_cast<unsigned char>(0));
     PutColor(L"SHColor", table);
   }
-  std::uint32_t Find(std::uint32_t index) {
-    return ThemeColorLookup(*registry).Find(index, kDefault);
+  std::vector<std::uint32_t> Colors(SystemVersion version) {
+    const ThemeColors colors = ReadThemeColors(metered, version);
+    return {colors.color1, colors.color2,    colors.color3,
+            colors.color4, colors.highlight, colors.highlightText};
   }
 };
 
 TEST_P(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDefault) {
-  EXPECT_EQ(Find(34), kDefault) << "no key";
+  constexpr std::uint32_t kDefault = 0x123456;
+  const auto find = [&](std::uint32_t index) {
+    return ThemeColorLookup(*registry).Find(index, kDefault);
+  };
+  EXPECT_EQ(find(34), kDefault) << "no key";
   PutTable(140);
-  EXPECT_EQ(Find(34), kDefault) << "the table ends with the entry";
+  EXPECT_EQ(find(34), kDefault) << "the table ends with the entry";
   PutTable(141);
-  EXPECT_EQ(Find(34), 0x8A8988u) << "bytes 136 to 138";
-  EXPECT_EQ(Find(35), kDefault);
-  EXPECT_EQ(Find(0xFFFFFFFF), kDefault);
-  PutColor(L"34", {10, 20, 30, 0});
-  EXPECT_EQ(Find(34), 0x1E140Au);
-  PutColor(L"34", {10, 20, 30});
-  EXPECT_EQ(Find(34), 0x1E140Au) << "three bytes are a colour";
-  PutColor(L"34", {10, 20});
-  EXPECT_EQ(Find(34), 0x8A8988u) << "two are not";
-  PutColor(L"34", {10, 20, 30, 40, 50});
-  EXPECT_EQ(Find(34), 0x8A8988u) << "nor are five";
-}
-
-TEST_P(DeviceProbeTest, TheLookupOpensItsKeyOnceAndReadsTheTableOnce) {
-  PutTable(150);
-  ReadThemeColors(metered, {5, 1});
-  EXPECT_EQ(metered.Count(RegistryCall::kOpen), 1);
-  EXPECT_EQ(metered.Count(RegistryCall::kQuery), 6 + 2) << "six names, the table's size, the table";
+  EXPECT_EQ(find(34), 0x8A8988u) << "bytes 136 to 138";
+  EXPECT_EQ(find(35), kDefault);
+  EXPECT_EQ(find(0xFFFFFFFF), kDefault);
+  const std::vector<unsigned char> own = {10, 20, 30, 40, 50};
+  for (const int size : {2, 3, 4, 5}) {
+    PutColor(L"34", {own.begin(), own.begin() + size});
+    EXPECT_EQ(find(34), size == 3 || size == 4 ? 0x1E140Au : 0x8A8988u) << size << " bytes";
+  }
 }
 
 TEST_P(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
-  for (const wchar_t* name : {L"4", L"6", L"8", L"9", L"34", L"35"}) {
-    PutColor(name, {1, 2, 3, 0});
-  }
-  struct Case {
-    SystemVersion version;
-    bool isRead;
-  };
-  for (const Case& c : std::vector<Case>{{{3, 0}, false},
-                                         {{3, 20}, false},
-                                         {{4, 20}, false},
-                                         {{4, 21}, true},
-                                         {{4, 0}, true},
-                                         {{5, 1}, true},
-                                         {{5, 20}, true}}) {
-    const ThemeColors colors = ReadThemeColors(*registry, c.version);
-    EXPECT_EQ(colors.highlight, c.isRead ? 0x030201u : 0x9C4D2Cu) << c.version.major;
-    EXPECT_EQ(colors.highlightText, c.isRead ? 0x030201u : 0xFFFFFFu) << c.version.minor;
-    for (const std::uint32_t color : {colors.color1, colors.color2, colors.color3, colors.color4}) {
-      EXPECT_EQ(color, 0x030201u);
-    }
-  }
-}
+  const std::vector<std::uint32_t> defaults = {0x000000, 0xEF8E73, 0x9C4D2C,
+                                               0xFFFFFF, 0x9C4D2C, 0xFFFFFF};
+  EXPECT_EQ(Colors({5, 2}), defaults) << "no theme";
+  PutTable(150);
+  metered.Meter().Reset();
+  const std::vector<std::uint32_t> all = {0x121110, 0x1A1918, 0x222120,
+                                          0x262524, 0x8A8988, 0x8E8D8C};
+  EXPECT_EQ(Colors({5, 1}), all);
+  EXPECT_EQ(metered.Count(RegistryCall::kOpen), 1);
+  EXPECT_EQ(metered.Count(RegistryCall::kQuery), 6 + 2) << "six names, the table's size, the table";
 
-TEST_P(DeviceProbeTest, WithoutAThemeTheColorsAreTheirDefaults) {
-  const ThemeColors colors = ReadThemeColors(*registry, {5, 2});
-  EXPECT_EQ(colors.color1, 0x000000u);
-  EXPECT_EQ(colors.color2, 0xEF8E73u);
-  EXPECT_EQ(colors.color3, 0x9C4D2Cu);
-  EXPECT_EQ(colors.color4, 0xFFFFFFu);
-  EXPECT_EQ(colors.highlight, 0x9C4D2Cu);
-  EXPECT_EQ(colors.highlightText, 0xFFFFFFu);
+  std::vector<std::uint32_t> older(all.begin(), all.begin() + 4);
+  older.insert(older.end(), defaults.begin() + 4, defaults.end());
+  for (const SystemVersion version : {SystemVersion{3, 0}, {3, 20}, {4, 20}}) {
+    EXPECT_EQ(Colors(version), older) << version.major << "." << version.minor;
+  }
+  for (const SystemVersion version : {SystemVersion{4, 0}, {4, 21}, {5, 20}}) {
+    EXPECT_EQ(Colors(version), all) << version.major << "." << version.minor;
+  }
 }
 
 TEST_P(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
   struct Case {
     CalendarProgram program;
     RegistryRoot root;
-    const wchar_t* path;
-    const wchar_t* value;
+    const wchar_t *path, *value;
   };
-  const std::vector<Case> cases = {
-      {CalendarProgram::kVelmontCalendar, RegistryRoot::kCurrentUser, L"SOFTWARE\\Velmont Calendar",
-       L"ExecutablePath"},
-      {CalendarProgram::kPocketInformant, RegistryRoot::kCurrentUser,
-       L"Software\\WebIS\\PocketInformant", L"version"},
-      {CalendarProgram::kAgendaFusion, RegistryRoot::kLocalMachine,
-       L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion", L"VerMajor"},
-      {CalendarProgram::kAgendaOne, RegistryRoot::kCurrentUser,
-       L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"},
-  };
-  for (const Case& c : cases) {
+  using enum CalendarProgram;
+  using enum RegistryRoot;
+  for (const Case& c :
+       {Case{kVelmontCalendar, kCurrentUser, L"SOFTWARE\\Velmont Calendar", L"ExecutablePath"},
+        {kPocketInformant, kCurrentUser, L"Software\\WebIS\\PocketInformant", L"version"},
+        {kAgendaFusion, kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion",
+         L"VerMajor"},
+        {kAgendaOne, kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"}}) {
     EXPECT_FALSE(IsInstalled(metered, c.program)) << "no key";
     const FlushedKey key(registry->Create(c.root, c.path));
     EXPECT_FALSE(IsInstalled(metered, c.program)) << "no value";
