@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <fstream>
+
 #include "platform/memory/metered_registry.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
@@ -10,36 +13,26 @@
 namespace tidewell {
 namespace {
 
+using namespace std::string_literals;
+
 constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kRoot(kProductKey);
 
 class RegistryText : public testing::Test {
  protected:
-  std::string WriteTree(const std::wstring& path, TextLimits limits = kBackupLimits) {
+  static std::string WriteTree(Registry& from, TextLimits limits = kBackupLimits) {
     ByteSink sink;
     TextWriter writer(sink);
-    WriteKeyTree(registry, path, writer, limits);
+    WriteKeyTree(from, L"K", writer, limits);
     EXPECT_TRUE(writer.Flush());
     return Utf8(TextOfBytes(sink.bytes));
   }
-
-  std::wstring Export() {
-    ByteSink sink;
-    TextWriter writer(sink);
-    ExportRegistryText(registry, catalog, kRoot, writer);
-    EXPECT_TRUE(writer.Flush());
-    return TextOfBytes(sink.bytes);
-  }
-
-  bool Import(std::wstring_view text) { return Import(text, registry); }
-  bool Import(std::wstring_view text, Registry& target) {
-    const std::vector<std::byte> bytes = BytesOf(text);
-    BytesSource source(bytes);
-    TextReader reader(source);
-    return ImportRegistryText(target, catalog, reader);
-  }
-
+  std::wstring Export() { return ExportText(registry, catalog); }
+  bool Import(std::wstring_view text) { return ImportText(registry, catalog, text); }
   std::string Dump(const std::wstring& path) { return DumpTree(registry, kUser, path); }
+  void Put(const wchar_t* name, std::uint32_t type, std::span<const std::byte> data) {
+    SetRaw(registry, kUser, L"K", name, type, data);
+  }
 
   CatalogMachine machine;
   MemoryRegistry& registry = machine.memory.registry;
@@ -59,74 +52,72 @@ TEST_F(RegistryText, ABackupHoldsTheTreeDepthFirstThenCategoriesThenFilters) {
   SetString(registry, kUser, kRoot + L"\\A", L"", L"unnamed\nwith a break");
   catalog.FindCategory(L"Work")->filterFlags = 0x80000001;
   catalog.FindCategory(L"Work")->color = 0x00FF8000;
+  catalog.Filters()[31] = {L"Last", 3, false, true, 32};
 
-  EXPECT_EQ(Utf8(Export()), Utf8(L"\n[Software\\Velmont\\Tidewell]\n"
-                                 L"\"SkinPath\"=\"\\My \"Skin\"\"\n"
-                                 L"\"Color\"=dword:-1\n"
-                                 L"\n[Software\\Velmont\\Tidewell\\B]\n"
-                                 L"\"After\"=dword:-2147483648\n"
-                                 L"\n[Software\\Velmont\\Tidewell\\B\\Inner]\n"
-                                 L"\"Deep\"=dword:1\n"
-                                 L"\n[Software\\Velmont\\Tidewell\\A]\n"
-                                 L"\"\"=\"unnamed\nwith a break\"\n"
-                                 L"\n[::Categories::]\n"
-                                 L"\"Category\"=\"caf\x00E9\"\n"
-                                 L"\"FiltersFlag\"=dword:0\n"
-                                 L"\"Color\"=dword:-1\n"
-                                 L"\"Category\"=\"Work\"\n"
-                                 L"\"FiltersFlag\"=dword:-2147483647\n"
-                                 L"\"Color\"=dword:16744448\n" +
-                                 DefaultFiltersSection()));
+  std::string expected =
+      "\n[Software\\Velmont\\Tidewell]\n"
+      "\"SkinPath\"=\"\\My \"Skin\"\"\n"
+      "\"Color\"=dword:-1\n"
+      "\n[Software\\Velmont\\Tidewell\\B]\n"
+      "\"After\"=dword:-2147483648\n"
+      "\n[Software\\Velmont\\Tidewell\\B\\Inner]\n"
+      "\"Deep\"=dword:1\n"
+      "\n[Software\\Velmont\\Tidewell\\A]\n"
+      "\"\"=\"unnamed\nwith a break\"\n"
+      "\n[::Categories::]\n"
+      "\"Category\"=\"caf\xC3\xA9\"\n\"FiltersFlag\"=dword:0\n\"Color\"=dword:-1\n"
+      "\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:-2147483647\n\"Color\"=dword:16744448\n"
+      "\n[::Filters::]\n";
+  for (int i = 1; i <= 31; ++i) {
+    const std::string number = std::to_string(i);
+    expected += "\"FilterName\"=\"Filter " + number + "\"\n\"Index\"=dword:" + number +
+                "\n\"VisibleState\"=dword:1\n\"IncludeUncategorized\"=dword:0\n";
+  }
+  expected +=
+      "\"FilterName\"=\"Last\"\n\"Index\"=dword:32\n"
+      "\"VisibleState\"=dword:0\n\"IncludeUncategorized\"=dword:1\n";
+  EXPECT_EQ(Utf8(Export()), expected);
 }
 
 TEST_F(RegistryText, AnAbsentKeyIsCreatedAndWrittenAsAHeaderAlone) {
-  EXPECT_EQ(WriteTree(L"Gone"), "\n[Gone]\n");
-  EXPECT_EQ(Dump(L"Gone"), "[Gone]\n");
+  EXPECT_EQ(WriteTree(registry), "\n[K]\n");
+  EXPECT_EQ(Dump(L"K"), "[K]\n");
 }
 
 TEST_F(RegistryText, AValueThatDoesNotFitEndsTheListOfItsKeyAlone) {
   struct Case {
-    const char* what;
-    std::wstring name;
+    std::size_t nameUnits;
     std::uint32_t type;
     std::size_t bytes;
     bool fits;
   };
-  const Case cases[] = {
-      {"127 units and a zero", L"long", kTypeString, 256, true},
-      {"one unit more", L"long", kTypeString, 258, false},
-      {"one byte more", L"long", kTypeString, 257, false},
-      {"bytes of no written type", L"long", kTypeBinary, 257, false},
-      {"a name of 255 units", std::wstring(255, L'n'), kTypeDword, 4, true},
-      {"a name of 256 units", std::wstring(256, L'n'), kTypeDword, 4, false},
-  };
-  for (const Case& c : cases) {
-    MemoryRegistry fresh;
-    SetDword(fresh, kUser, L"K", L"before", 1);
-    SetRaw(fresh, kUser, L"K", c.name, c.type, std::vector<std::byte>(c.bytes));
-    SetDword(fresh, kUser, L"K", L"after", 2);
-    SetDword(fresh, kUser, L"K\\Sub", L"in", 3);
-    ByteSink sink;
-    TextWriter writer(sink);
-    WriteKeyTree(fresh, L"K", writer);
-    writer.Flush();
-    const std::wstring text = TextOfBytes(sink.bytes);
-    EXPECT_NE(text.find(L"\"before\"=dword:1\n"), std::wstring::npos) << c.what;
-    EXPECT_EQ(text.find(L"\"after\"=dword:2\n") != std::wstring::npos, c.fits) << c.what;
-    EXPECT_TRUE(text.ends_with(L"\n[K\\Sub]\n\"in\"=dword:3\n")) << c.what;
+  for (const Case& c : {Case{1, kTypeString, 256, true},  // 127 units and a zero
+                        {1, kTypeString, 257, false},
+                        {1, kTypeBinary, 257, false},
+                        {255, kTypeDword, 4, true},
+                        {256, kTypeDword, 4, false}}) {
+    registry.DeleteTree(kUser, L"K");
+    SetDword(registry, kUser, L"K", L"before", 1);
+    Put(std::wstring(c.nameUnits, L'n').c_str(), c.type, std::vector<std::byte>(c.bytes));
+    SetDword(registry, kUser, L"K", L"after", 2);
+    SetDword(registry, kUser, L"K\\Sub", L"in", 3);
+    const std::string text = WriteTree(registry);
+    EXPECT_TRUE(text.starts_with("\n[K]\n\"before\"=dword:1\n")) << c.bytes;
+    EXPECT_EQ(text.find("\"after\"=dword:2\n") != std::string::npos, c.fits) << c.bytes;
+    EXPECT_TRUE(text.ends_with("\n[K\\Sub]\n\"in\"=dword:3\n")) << c.bytes;
   }
 }
 
 TEST_F(RegistryText, DataIsWrittenAsFarAsItIsText) {
-  const std::byte unterminated[] = {std::byte{'a'}, std::byte{}, std::byte{'b'}, std::byte{}};
-  SetRaw(registry, kUser, L"K", L"1", kTypeString, unterminated);
-  SetRaw(registry, kUser, L"K", L"2", kTypeString, std::span(unterminated).first(3));
-  SetRaw(registry, kUser, L"K", L"3", kTypeString, {});
-  SetRaw(registry, kUser, L"K", L"4", kTypeString, BytesOf(std::wstring_view(L"x\0y", 3)));
-  SetRaw(registry, kUser, L"K", L"5", kTypeDword, std::span(unterminated).first(3));
-  SetRaw(registry, kUser, L"K", L"6", kTypeDword, {});
-  SetRaw(registry, kUser, L"K", L"7", 2, BytesOf(L"%windir%"));
-  EXPECT_EQ(WriteTree(L"K"),
+  const std::vector<std::byte> ab = BytesOf(L"ab");
+  Put(L"1", kTypeString, ab);
+  Put(L"2", kTypeString, std::span(ab).first(3));
+  Put(L"3", kTypeString, {});
+  Put(L"4", kTypeString, BytesOf(L"x\0y"s));
+  Put(L"5", kTypeDword, std::span(ab).first(3));
+  Put(L"6", kTypeDword, {});
+  Put(L"7", 2, BytesOf(L"%windir%"));
+  EXPECT_EQ(WriteTree(registry),
             "\n[K]\n\"1\"=\"ab\"\n\"2\"=\"a\"\n\"3\"=\"\"\n\"4\"=\"x\"\n"
             "\"5\"=dword:6422625\n\"6\"=dword:0\n");
 }
@@ -137,7 +128,7 @@ TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
   catalog.Filters()[1].title = std::wstring(785, L'u');
   const std::wstring text = Export();
   EXPECT_NE(text.find(std::wstring(786, L'c')), std::wstring::npos);
-  EXPECT_EQ(text.find(L'd', text.find(L"Category\"=\"d")), std::wstring::npos);
+  EXPECT_EQ(text.find(L"ddd"), std::wstring::npos);
   EXPECT_NE(text.find(std::wstring(784, L't')), std::wstring::npos);
   EXPECT_EQ(text.find(L"uuu"), std::wstring::npos);
   EXPECT_EQ(text.find(L"\"Index\"=dword:2\n"), std::wstring::npos);
@@ -146,7 +137,7 @@ TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
   std::wstring deep = L"K";
   for (int i = 0; i < 10; ++i) deep += L'\\' + std::wstring(99, L'k');
   SetDword(registry, kUser, deep, L"lost", 1);
-  const std::string tree = WriteTree(L"K");
+  const std::string tree = WriteTree(registry);
   EXPECT_EQ(std::count(tree.begin(), tree.end(), '['), 8);  // 701 units fit, 801 do not
   EXPECT_EQ(tree.find("lost"), std::string::npos);
 }
@@ -157,56 +148,33 @@ TEST_F(RegistryText, ACopyHasRoomForStringsOf900Units) {
   SetDword(registry, kUser, L"K", L"between", 1);
   SetString(registry, kUser, L"K", L"longer", std::wstring(901, L'z'));
   SetDword(registry, kUser, L"K", L"after", 1);
-  EXPECT_EQ(WriteTree(L"K"), "\n[K]\n");
+  EXPECT_EQ(WriteTree(registry), "\n[K]\n");
   // A line that the reader would split is left out; a string of more than 900 units ends the list.
-  EXPECT_EQ(WriteTree(L"K", kCopyLimits),
+  EXPECT_EQ(WriteTree(registry, kCopyLimits),
             "\n[K]\n\"long\"=\"" + std::string(900, 'x') + "\"\n\"between\"=dword:1\n");
-}
-
-TEST_F(RegistryText, WritingOpensEveryKeyOnce) {
-  SetDword(registry, kUser, L"K\\A\\B", L"x", 1);
-  SetDword(registry, kUser, L"K\\C", L"x", 1);
-  MeteredRegistry metered(registry);
-  ByteSink sink;
-  TextWriter writer(sink);
-  WriteKeyTree(metered, L"K", writer);
-  EXPECT_EQ(metered.Count(RegistryCall::kCreate), 4);
-  EXPECT_EQ(metered.Count(RegistryCall::kClose), 4);
-  EXPECT_EQ(metered.CountWrites(), 0);
 }
 
 // ---- Reading
 
 TEST_F(RegistryText, ATextThatDoesNotBeginWithAnEmptyLineIsRejected) {
-  using namespace std::string_literals;
   const std::wstring section = L"[K]\n\"a\"=dword:1\n";
-  const std::wstring rejected[] = {
-      L"",
-      section,
-      L" \n" + section,
-      L"\r\n" + section,
-      L"\xFEFF\n" + section,  // a byte-order mark
-      L"\0\n"s + section,
-      L"\x0A0A\x4B5B",                    // one byte per character
-      L"\x0A00\x5B00\x4B00\x5D00\x0A00",  // big-endian
-      L"Windows Registry Editor Version 5.00\r\n\r\n[K]\r\n",
-  };
-  for (const std::wstring& text : rejected) {
+  for (const std::wstring& text : {L""s, section, L" \n" + section, L"\r\n" + section,
+                                   L"\xFEFF\n" + section,                 // a byte-order mark
+                                   L"\0\n"s + section, L"\x0A0A\x4B5B"s,  // one byte per character
+                                   L"\x0A00\x5B00\x4B00\x5D00\x0A00"s,    // big-endian
+                                   L"Windows Registry Editor Version 5.00\r\n\r\n[K]\r\n"s}) {
     EXPECT_FALSE(Import(text)) << Utf8(text);
-    EXPECT_EQ(Dump(L""), "[]\n") << Utf8(text);
   }
   EXPECT_TRUE(Import(L"\n"));
   EXPECT_TRUE(Import(L"\n\n\nnoise"));
   EXPECT_EQ(Dump(L""), "[]\n");
-}
 
-TEST_F(RegistryText, ASourceThatCannotBeRewoundIsRejected) {
   class Stuck final : public TextSource {
    public:
     bool Rewind() override { return false; }
     std::optional<std::size_t> Read(std::span<std::byte> buffer) override {
-      buffer[0] = std::byte{'\n'};
-      buffer[1] = std::byte{};
+      buffer[0] = std::byte('\n');
+      buffer[1] = std::byte();
       return 2;
     }
   } stuck;
@@ -214,191 +182,83 @@ TEST_F(RegistryText, ASourceThatCannotBeRewoundIsRejected) {
   EXPECT_FALSE(ImportRegistryText(registry, catalog, reader));
 }
 
-TEST_F(RegistryText, TheRegistryHoldsExactlyWhatTheRulesSay) {
-  using namespace std::string_literals;
-  const std::wstring full(1023, L'x');
-  struct Case {
-    const char* what;
-    std::wstring text;  // after the first, empty line
-    std::string tree;   // below K, which is empty before
-  };
-  const Case cases[] = {
-      {"both kinds of values", L"[K]\n\"s\"=\"text\"\n\"d\"=dword:7\n", "d = 7\ns = \"text\"\n"},
-      {"-1 is all bits", L"[K]\n\"d\"=dword:-1\n", "d = 4294967295\n"},
-      {"numbers out of range stay at the ends",
-       L"[K]\n\"a\"=dword:4294967295\n\"b\"=dword:-9999999999\n\"c\"=dword:2147483647\n",
-       "a = 2147483647\nb = 2147483648\nc = 2147483647\n"},
-      {"no number is 0", L"[K]\n\"a\"=dword:\n\"b\"=dword:zz\n", "a = 0\nb = 0\n"},
-      {"an empty string", L"[K]\n\"s\"=\"\"\n\"ab\"=\"\"\n", " = \"\"\nab = \"\"\n"},
-      {"the sentinel is deleted",
-       L"[K]\n\"s\"=\"old\"\n\"t\"=\"old\"\n\"s\"=\"not_the_same\"\n\"t\"=\"Not_the_same\"\n",
-       "t = \"Not_the_same\"\n"},
-      {"the later line wins", L"[K]\n\"s\"=\"one\"\n\"S\"=\"two\"\n", "s = \"two\"\n"},
-      {"a string line first of all", L"[K]\n\"a\"=\"b\"=dword:5\n", " = \"\"\n"},
-      {"a malformed string empties the unnamed value", L"[K]\n\"\"=\"xyz\"\n \"s\"=\"abc\"\n",
-       " = \"\"\n"},
-      {"quotes and markers in a value", L"[K]\n\"s\"=\"a\"b\"=\"c\"\n", "s = \"a\"b\"=\"c\"\n"},
-      {"a percent sign in a name", L"[K]\n\"50%\"=dword:1\n\"%%n\"=dword:2\n\"%n\"=\"text\"\n",
-       "%n = \"text\"\n50% = 1\n"},
-      {"an equals sign in a number's name", L"[K]\n\"ab=c\"=dword:1\n", "a = 1\n"},
-      {"other lines", L"[K]\nnoise\n\"a\"=hex:00\n@=\"x\"\n; \"b\"=1\n\"d\"=dword:1\n", "d = 1\n"},
-      {"CR LF inside a section", L"[K]\n\"s\"=\"abcd\"\r\n\"d\"=dword:3\r\n", " = \"\"\nd = 3\n"},
-      {"CR LF after a header", L"[K]\r\n\"d\"=dword:3\r\n", "-"},
-      {"an empty line ends the section", L"[K]\n\"d\"=dword:1\n\n\"e\"=dword:2\n", "d = 1\n"},
-      {"a blank line does not", L"[K]\n\"d\"=dword:1\n \n\"e\"=dword:2\n", "d = 1\ne = 2\n"},
-      {"a header within a section is noise", L"[K]\n[L]\n\"d\"=dword:1\n", "d = 1\n"},
-      {"an empty section", L"[K]\n\n", ""},
-      {"a header without its bracket", L"[K\n\"d\"=dword:1\n", "-"},
-      {"a header as the last line", L"[K]", "-"},
-      {"a number as the last line", L"[K]\n\"d\"=dword:12", "d = 12\n"},
-      {"a number cut off", L"[K]\n\"d\"=dword:", "d = 0\n"},
-      {"a string as the last line", L"[K]\n\"s\"=\"abcd\"", " = \"\"\n"},
-      {"a subkey's header", L"[K\\L]\n\"d\"=dword:1\n", "[K\\L]\nd = 1\n"},
-      {"a zero hides the rest of its line", L"[K]\n\"d\"=dword:1\0002\n\"s\"=\"ab\0cd\"\n"s,
-       " = \"\"\nd = 1\n"},
-      {"a line of 1023 units", L"[K]\n\"s\"=\"" + full.substr(7) + L"\"\n",
-       "s = \"" + std::string(1016, 'x') + "\"\n"},
-      {"a longer one is split",
-       L"[K]\n\"s\"=\"" + full.substr(5) + L"\"d\"=dword:1\n\"e\"=dword:2\n",
-       " = \"\"\nd = 1\ne = 2\n"},
-      {"a split right before its end leaves an empty line",
-       L"[K]\n\"d\"=dword:1" + full.substr(11) + L"\n\"e\"=dword:2\n", "d = 1\n"},
-  };
-  for (const Case& c : cases) {
-    registry.DeleteTree(kUser, L"K");
-    EXPECT_TRUE(Import(L"\n" + c.text)) << c.what;
-    const std::string expected = c.tree == "-" ? "" : "[K]\n" + c.tree;
-    EXPECT_EQ(Dump(L"K"), expected) << c.what;
-    EXPECT_EQ(Dump(L"L"), "") << c.what;
+// A line of the rules with its end, <CR>, <END> and <5 x> replaced by what they stand for.
+std::wstring Expanded(const std::string& line) {
+  std::wstring text(line.begin(), line.end());
+  if (text.ends_with(L"<END>")) return text.substr(0, text.size() - 5);
+  const std::size_t from = text.find(L'<');
+  const std::size_t to = text.find(L'>', from);
+  if (to != std::wstring::npos) {
+    const auto count = static_cast<std::size_t>(ParseNumber(text.substr(from + 1), 10));
+    const auto meant = count == 0 ? L"\r"s : std::wstring(count, text[to - 1]);
+    text.replace(from, to + 1 - from, meant);
   }
+  return text + L'\n';
 }
 
-TEST_F(RegistryText, TheNameOfANumberEndsAfter127Units) {
-  EXPECT_TRUE(Import(L"\n[K]\n\"" + std::wstring(128, L'n') + L"\"=dword:1\n\"" +
-                     std::wstring(128, L's') + L"\"=\"text\"\n"));
-  EXPECT_EQ(Dump(L"K"),
-            "[K]\n" + std::string(127, 'n') + " = 1\n" + std::string(128, 's') + " = \"text\"\n");
+// What an import left on a device that held nothing.
+std::string Left(MemoryRegistry& registry, CategoryCatalog& catalog) {
+  std::string text = DumpTree(registry, kUser, L"").substr(3);  // without the root's own line
+  const CategoryRecord& work = *catalog.FindCategory(L"Work");
+  if (work.filterFlags != 9 || work.color != 8) {
+    text += "Work " + std::to_string(work.filterFlags) + ' ' + std::to_string(work.color) + '\n';
+  }
+  for (const FilterRecord& filter : catalog.Filters()) {
+    if (filter.title == L"Filter " + FormatDecimal(filter.index) && filter.visible) continue;
+    text += "filter " + std::to_string(filter.index) + ' ' + Utf8(filter.title) +
+            (filter.visible ? " visible" : " hidden") +
+            (filter.includeUncategorized ? " all" : "") + '\n';
+  }
+  return text;
 }
 
-TEST_F(RegistryText, AnEmptyHeaderNamesTheRootItself) {
-  EXPECT_TRUE(Import(L"\n[]\n\"d\"=dword:1\n"));
-  EXPECT_EQ(Dump(L""), "[]\nd = 1\n");
-}
-
-TEST_F(RegistryText, TheRootSectionReplacesTheTreeAndOthersMerge) {
-  const auto prepare = [&] {
-    registry.DeleteTree(kUser, kRoot);
-    SetDword(registry, kUser, kRoot, L"old", 1);
-    SetDword(registry, kUser, kRoot + L"\\Calendar", L"old", 1);
-  };
-  prepare();
-  EXPECT_TRUE(Import(L"\n[Software\\Velmont\\Tidewell\\Calendar]\n\"new\"=dword:2\n"));
-  EXPECT_EQ(Dump(kRoot),
-            "[Software\\Velmont\\Tidewell]\nold = 1\n"
-            "[Software\\Velmont\\Tidewell\\Calendar]\nnew = 2\nold = 1\n");
-  prepare();
-  EXPECT_TRUE(Import(L"\n[software\\velmont\\tidewell]\n\"new\"=dword:2\n"));
-  EXPECT_EQ(Dump(kRoot),
-            "[Software\\Velmont\\Tidewell]\nnew = 2\nold = 1\n"
-            "[Software\\Velmont\\Tidewell\\Calendar]\nold = 1\n");
-  prepare();
-  EXPECT_TRUE(Import(L"\n[Software\\Velmont\\Tidewell]\n\"new\"=dword:2\n"));
-  EXPECT_EQ(Dump(kRoot), "[Software\\Velmont\\Tidewell]\nnew = 2\n");
+TEST_F(RegistryText, AnImportLeavesExactlyWhatTheRulesSay) {
+  std::ifstream rules(TIDEWELL_IMPORT_RULES);
+  std::string line;
+  while (std::getline(rules, line) && !line.starts_with("== ")) {
+  }
+  int count = 0;
+  for (; rules; ++count) {
+    SCOPED_TRACE(line);
+    std::wstring text = L"\n";
+    while (std::getline(rules, line) && line != "=>") text += Expanded(line);
+    std::wstring left;
+    while (std::getline(rules, line) && !line.starts_with("== ")) {
+      if (!line.empty()) left += Expanded(line);
+    }
+    MemoryRegistry empty;
+    machine.Start({L"Work"});
+    catalog.FindCategory(L"Work")->filterFlags = 9;
+    catalog.FindCategory(L"Work")->color = 8;
+    EXPECT_TRUE(ImportText(empty, catalog, text));
+    EXPECT_EQ(Left(empty, catalog), Utf8(left));
+  }
+  EXPECT_GT(count, 25);
 }
 
 TEST_F(RegistryText, AKeyThatCannotBeCreatedEndsTheImportThere) {
   MeteredRegistry metered(registry);
+  const std::wstring text = L"\n[A]\n\"x\"=dword:1\n\n[B]\n\"x\"=dword:1\n\n[C]\n";
   metered.Meter().FailNth(4);  // create, set, create, set: the second section's value is lost
-  EXPECT_TRUE(Import(L"\n[A]\n\"x\"=dword:1\n\n[B]\n\"x\"=dword:1\n\n[C]\n", metered));
-  EXPECT_EQ(Dump(L"C"), "[C]\n");
+  EXPECT_TRUE(ImportText(metered, catalog, text));
+  EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 1\n[B]\n[C]\n");
   registry.DeleteTree(kUser, L"C");
   metered.Meter().Reset();
   metered.Meter().FailNth(3);
-  EXPECT_FALSE(Import(L"\n[A]\n\"x\"=dword:2\n\n[B]\n\"x\"=dword:1\n\n[C]\n", metered));
-  EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 2\n[B]\n");
-}
-
-TEST_F(RegistryText, CategoriesTakeFlagsAndColourByTheirExactName) {
-  struct Case {
-    const char* what;
-    const wchar_t* text;  // after the section's header
-    std::uint32_t flags;
-    std::uint32_t color;
-  };
-  const Case cases[] = {
-      {"as written", L"\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:-1\n\"Color\"=dword:255\n",
-       0xFFFFFFFF, 255},
-      {"no line end at the last line",
-       L"\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:3\n\"Color\"=dword:25", 3, 25},
-      {"another letter case",
-       L"\"Category\"=\"work\"\n\"FiltersFlag\"=dword:3\n\"Color\"=dword:2\n", 9, 8},
-      {"names of lines do not matter but for the colour's",
-       L"\"x\"=\"Work\"\n\"y\"=dword:3\n\"COLOR\"=dword:2\n", 3, 2},
-      {"one line more before the colour",
-       L"\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:3\n\"Icon\"=dword:7\n\"Color\"=dword:2\n", 3,
-       2},
-      {"one line more that is no number",
-       L"\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:3\nnoise\n\"Color\"=dword:2\n", 3, 2},
-      {"the record after an unknown one",
-       L"\"Category\"=\"Gone\"\n\"FiltersFlag\"=dword:3\n\"Color\"=dword:2\n"
-       L"\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:5\n\"Color\"=dword:4\n",
-       5, 4},
-      {"the end of the text within a record", L"\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:3\n",
-       9, 8},
-      {"after the section's end",
-       L"\n\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:3\n\"Color\"=dword:2\n", 9, 8},
-  };
-  for (const Case& c : cases) {
-    machine.Start({L"Work"});
-    CategoryRecord& work = *catalog.FindCategory(L"Work");
-    work.filterFlags = 9;
-    work.color = 8;
-    EXPECT_TRUE(Import(std::wstring(L"\n[::Categories::]\n") + c.text)) << c.what;
-    EXPECT_EQ(work.filterFlags, c.flags) << c.what;
-    EXPECT_EQ(work.color, c.color) << c.what;
-  }
-}
-
-TEST_F(RegistryText, SpecialSectionsAreNamedExactly) {
-  machine.Start({L"Work"});
-  EXPECT_TRUE(Import(L"\n[::categories::]\n\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:3\n"));
-  EXPECT_EQ(catalog.FindCategory(L"Work")->filterFlags, 0u);
-  EXPECT_EQ(Dump(L"::categories::"), "[::categories::]\nCategory = \"Work\"\nFiltersFlag = 3\n");
-}
-
-TEST_F(RegistryText, FiltersTakeTheirValuesByIndexAndAMalformedLineKeepsTheOneBefore) {
-  machine.Start();
-  EXPECT_TRUE(
-      Import(L"\n[::Filters::]\n"
-             L"\"FilterName\"=\"Home\"\n\"Index\"=dword:3\n\"VisibleState\"=dword:0\n"
-             L"\"IncludeUncategorized\"=dword:-5\n"
-             L"\"FilterName\"=\"Nowhere\"\n\"Index\"=dword:33\n\"VisibleState\"=dword:0\n"
-             L"\"IncludeUncategorized\"=dword:1\n"
-             L"no name\n\"Index\"=dword:5\nnoise\n\"IncludeUncategorized\"=dword:0\n"
-             L"\"FilterName\"=\"Cut off\"\n\"Index\"=dword:6\n\"VisibleState\"=dword:0\n"));
-  const auto show = [&](std::size_t index) {
-    const FilterRecord& filter = catalog.Filters()[index - 1];
-    return Utf8(filter.title) + (filter.visible ? " visible" : " hidden") +
-           (filter.includeUncategorized ? " all" : "");
-  };
-  EXPECT_EQ(show(3), "Home hidden all");
-  EXPECT_EQ(show(5), "Nowhere hidden");
-  EXPECT_EQ(show(6), "Filter 6 visible");
-  EXPECT_EQ(show(32), "Filter 32 visible");
+  EXPECT_FALSE(ImportText(metered, catalog, text));
+  EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 1\n[B]\n");
 }
 
 TEST_F(RegistryText, WhatABackupCanHoldComesBackTheSame) {
   machine.Start({L"Home", L"Work"});
-  registry.DeleteTree(kUser, kRoot);
   SetString(registry, kUser, kRoot, L"a b%", L"100% \"quoted\" =dword: [x]");
   SetString(registry, kUser, kRoot + L"\\Tab [1]\\\x4E2D", L"n", std::wstring(127, L'\x20AC'));
-  for (const std::uint32_t number : {0u, 1u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
-    SetDword(registry, kUser, kRoot + L"\\N", FormatDecimal(static_cast<std::int32_t>(number)),
-             number);
+  for (const std::int32_t number : {0, 1, INT32_MAX, INT32_MIN, -1}) {
+    SetDword(registry, kUser, kRoot + L"\\N", FormatDecimal(number),
+             static_cast<std::uint32_t>(number));
   }
   catalog.FindCategory(L"Home")->color = 5;
   catalog.Filters()[31].title = L"Last";
-  catalog.Filters()[31].visible = false;
   const std::string tree = Dump(kRoot);
   const std::wstring text = Export();
 
@@ -423,12 +283,19 @@ TEST_F(RegistryText, AHundredThousandLinesAndAMegabyteInOneAreReadToTheirEnd) {
   EXPECT_EQ(Dump(L"K\\Last"), "[K\\Last]\nend = 1\n");
 }
 
-TEST_F(RegistryText, ReadingOpensEveryKeyOnceAndWritesEveryValueOnce) {
+TEST_F(RegistryText, EveryKeyIsOpenedOnceAndEveryValueWrittenOnce) {
   MeteredRegistry metered(registry);
-  EXPECT_TRUE(Import(L"\n[A]\n\"x\"=dword:0\n\"y\"=\"\"\n\n[A\\B]\n\"z\"=\"abcd\"\n", metered));
+  const std::wstring text = L"\n[K]\n\"x\"=dword:0\n\"y\"=\"\"\n\n[K\\B]\n\"z\"=\"abcd\"\n";
+  EXPECT_TRUE(ImportText(metered, catalog, text));
   EXPECT_EQ(metered.Count(RegistryCall::kCreate), 2);
+  EXPECT_EQ(metered.Count(RegistryCall::kFlush), 2);
   EXPECT_EQ(metered.CountWrites(), 3);
   EXPECT_EQ(metered.Count(RegistryCall::kQuery), 0);
+  metered.Meter().Reset();
+  WriteTree(metered);
+  EXPECT_EQ(metered.Count(RegistryCall::kCreate), 2);
+  EXPECT_EQ(metered.Count(RegistryCall::kClose), 2);
+  EXPECT_EQ(metered.CountWrites(), 0);
 }
 
 }  // namespace

@@ -3,13 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <vector>
 
-#include "platform/text.h"
 #include "tests/support/catalog_support.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
+
+using Lines = std::vector<std::wstring>;
 
 // Gives its bytes in portions of one size, and an error after `errorAfter` of them.
 class PortionedSource final : public TextSource {
@@ -35,54 +36,47 @@ class PortionedSource final : public TextSource {
   std::size_t at_ = 0;
 };
 
-std::vector<std::wstring> LinesOf(TextSource& source) {
+Lines LinesOf(TextSource& source) {
   TextReader reader(source);
   EXPECT_TRUE(reader.Rewind());
-  std::vector<std::wstring> lines;
+  Lines lines;
   for (std::wstring_view line; reader.ReadLine(line);) lines.emplace_back(line);
   return lines;
 }
 
-std::vector<std::wstring> LinesOf(std::wstring_view text) {
-  const std::vector<std::byte> bytes = BytesOf(text);
-  BytesSource source(bytes);
-  return LinesOf(source);
-}
-
-using Lines = std::vector<std::wstring>;
-
-TEST(TextReader, LinesKeepTheirEndAndEveryOtherUnit) {
-  EXPECT_EQ(LinesOf(L""), Lines{});
-  EXPECT_EQ(LinesOf(L"\n\na"), (Lines{L"\n", L"\n", L"a"}));
-  EXPECT_EQ(LinesOf(L"a\r\nb\x20AC\xD83D\n\xFEFF"),
-            (Lines{L"a\r\n", L"b\x20AC\xD83D\n", L"\xFEFF"}));
-}
-
-TEST(TextReader, ALineEndsForItsReaderAtItsFirstZero) {
+TEST(TextReader, LinesKeepTheirEndAndEveryUnitUpToAZero) {
   using namespace std::string_literals;
-  EXPECT_EQ(LinesOf(L"ab\0cd\nef\n"s), (Lines{L"ab", L"ef\n"}));
-  EXPECT_EQ(LinesOf(L"\0\n\0"s), (Lines{L"", L""}));
-}
-
-TEST(TextReader, ALongLineComesInPiecesOf1023Units) {
   const std::wstring full(1023, L'x');
-  EXPECT_EQ(LinesOf(full.substr(1) + L"\n"), Lines{full.substr(1) + L"\n"});
-  EXPECT_EQ(LinesOf(full + L"\n"), (Lines{full, L"\n"}));
-  EXPECT_EQ(LinesOf(full + full + L"yz\na\n"), (Lines{full, full, L"yz\n", L"a\n"}));
-}
-
-TEST(TextReader, AMegabyteInOneLineIsReadToItsEnd) {
-  const Lines lines = LinesOf(std::wstring(1 << 20, L'x') + L"\nend");
-  ASSERT_EQ(lines.size(), (1u << 20) / 1023 + 2);
-  EXPECT_EQ(lines.back(), L"end");
+  struct Case {
+    std::wstring text;
+    Lines lines;
+  };
+  const Case cases[] = {
+      {L"", {}},
+      {L"\n\na", {L"\n", L"\n", L"a"}},
+      {L"a\r\nb\x20AC\xD83D\n\xFEFF", {L"a\r\n", L"b\x20AC\xD83D\n", L"\xFEFF"}},
+      {L"ab\0cd\nef\n"s, {L"ab", L"ef\n"}},
+      {L"\0\n\0"s, {L"", L""}},
+      {full.substr(1) + L"\n", {full.substr(1) + L"\n"}},
+      {full + L"\n", {full, L"\n"}},
+      {full + full + L"yz\na\n", {full, full, L"yz\n", L"a\n"}},
+  };
+  for (const Case& c : cases) {
+    const std::vector<std::byte> bytes = BytesOf(c.text);
+    BytesSource source(bytes);
+    EXPECT_EQ(LinesOf(source), c.lines) << Utf8(c.text);
+    EXPECT_EQ(LinesOf(source), c.lines) << Utf8(c.text) << ", read again";
+  }
 }
 
 TEST(TextReader, ThePortionsOfTheSourceDoNotShow) {
   std::wstring text;
-  for (int i = 0; i < 3000; ++i)
-    text += std::wstring(static_cast<std::size_t>(i % 37), L'a') + L"\n";
-  const Lines expected = LinesOf(text);
-  for (const std::size_t portion : {1u, 2u, 3u, 1021u, 16384u}) {
+  Lines expected;
+  for (std::size_t i = 0; i < 3000; ++i) {
+    expected.push_back(std::wstring(i % 37, L'a') + L"\n");
+    text += expected.back();
+  }
+  for (const std::size_t portion : {1, 2, 3, 1021, 16384}) {
     PortionedSource source(BytesOf(text), portion);
     EXPECT_EQ(LinesOf(source), expected) << portion;
   }
@@ -95,12 +89,6 @@ TEST(TextReader, AnOddByteOrAnErrorEndsTheText) {
   EXPECT_EQ(LinesOf(odd), (Lines{L"ab\n", L"c"}));
   PortionedSource broken(BytesOf(L"ab\ncd\n"), 8, 8);
   EXPECT_EQ(LinesOf(broken), (Lines{L"ab\n", L"c"}));
-}
-
-TEST(TextReader, RewindingStartsAgain) {
-  const std::vector<std::byte> bytes = BytesOf(L"a\nb\n");
-  BytesSource source(bytes);
-  EXPECT_EQ(LinesOf(source), LinesOf(source));
 }
 
 TEST(TextWriter, WritesLittleEndianUnitsAndNothingElse) {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "backup/registry_text.h"
 #include "categories/category_catalog.h"
 #include "platform/memory/memory_machine.h"
 #include "platform/text.h"
@@ -54,15 +55,19 @@ class ByteSink final : public OutputStream {
   std::vector<std::byte> bytes;
 };
 
-// "Filter 1" to "Filter 32" as a backup holds them, visible and without uncategorized items.
-inline std::wstring DefaultFiltersSection() {
-  std::wstring text = L"\n[::Filters::]\n";
-  for (int i = 1; i <= 32; ++i) {
-    const std::wstring number = FormatDecimal(i);
-    text += L"\"FilterName\"=\"Filter " + number + L"\"\n\"Index\"=dword:" + number +
-            L"\n\"VisibleState\"=dword:1\n\"IncludeUncategorized\"=dword:0\n";
-  }
-  return text;
+// A whole backup as text, and the import of one.
+inline std::wstring ExportText(Registry& registry, const CategoryCatalog& catalog) {
+  ByteSink sink;
+  TextWriter writer(sink);
+  ExportRegistryText(registry, catalog, std::wstring(kProductKey), writer);
+  writer.Flush();
+  return TextOfBytes(sink.bytes);
+}
+inline bool ImportText(Registry& registry, CategoryCatalog& catalog, std::wstring_view text) {
+  const std::vector<std::byte> bytes = BytesOf(text);
+  BytesSource source(bytes);
+  TextReader reader(source);
+  return ImportRegistryText(registry, catalog, reader);
 }
 
 }  // namespace tidewell
