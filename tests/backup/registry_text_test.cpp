@@ -251,7 +251,7 @@ TEST_F(RegistryText, AKeyThatCannotBeCreatedEndsTheImportThere) {
 
 TEST_F(RegistryText, WhatABackupCanHoldComesBackTheSame) {
   machine.Start({L"Home", L"Work"});
-  SetString(registry, kUser, kRoot, L"a b%", L"100% \"quoted\" =dword: [x]");
+  SetString(registry, kUser, kRoot, L"a b%", L"100% \"quoted\" =dword: [\x0100]");
   SetString(registry, kUser, kRoot + L"\\Tab [1]\\\x4E2D", L"n", std::wstring(127, L'\x20AC'));
   for (const std::int32_t number : {0, 1, INT32_MAX, INT32_MIN, -1}) {
     SetDword(registry, kUser, kRoot + L"\\N", FormatDecimal(number),

@@ -13,16 +13,20 @@ namespace tidewell {
 namespace {
 
 constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
-const std::wstring kCategories = L"Software\\Velmont\\Tidewell\\Categories";
-const std::wstring kFolder = L"\\Program Files\\Velmont\\Tidewell";
-const std::wstring kFiltersFile = kFolder + L"\\TWFilters.txt";
+const std::wstring kRoot = L"Software\\Velmont\\Tidewell\\";
+const std::wstring kCategories = kRoot + L"Categories";
+const std::wstring kFiltersFile = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
 
 class Catalog : public testing::Test {
  protected:
-  Catalog() { files.Put(kFolder + L"\\"); }
-  std::string Values() { return DumpTree(registry, kUser, kCategories); }
+  Catalog() { files.Put(L"\\Program Files\\Velmont\\Tidewell\\"); }
+  // The values of all categories, without the key's name.
+  std::string Values() {
+    const std::string text = DumpTree(registry, kUser, kCategories);
+    return text.substr(text.find('\n') + 1);
+  }
   // A catalogue on the same machine whose calls are counted and can fail.
-  CategoryCatalog Metered(Registry& meteredRegistry, Files& meteredFiles) {
+  CategoryCatalog Metered() {
     const Machine door = machine.memory.Door();
     return CategoryCatalog(
         {meteredRegistry, meteredFiles, door.locale, door.libraries, door.system}, machine.store);
@@ -32,13 +36,9 @@ class Catalog : public testing::Test {
   MemoryRegistry& registry = machine.memory.registry;
   MemoryFiles& files = machine.memory.files;
   CategoryCatalog& catalog = machine.catalog;
+  MeteredRegistry meteredRegistry{registry};
+  MeteredFiles meteredFiles{files};
 };
-
-std::vector<std::wstring> Names(const CategoryCatalog& catalog) {
-  std::vector<std::wstring> names;
-  for (const auto& category : catalog.Categories()) names.push_back(category->name);
-  return names;
-}
 
 // What a selection is, in a word.
 std::string Show(const Selection& selection) {
@@ -50,7 +50,8 @@ std::string Show(const Selection& selection) {
 }
 
 TEST_F(Catalog, CategoriesStandByNameAndTheFirstOfEqualNamesStays) {
-  machine.Start();
+  machine.Start({L"Old", L"work"});
+  catalog.FindCategory(L"work")->color = 1;
   ListedCategories source({{L"work", 5, false},
                            {L"Alpha", 3, true},
                            {L"Work", 6, false},
@@ -59,22 +60,15 @@ TEST_F(Catalog, CategoriesStandByNameAndTheFirstOfEqualNamesStays) {
                            {L"beta", 65534, false},
                            {L"WORK", 8, true}});
   catalog.Rebuild(source, L"Everything");
-  EXPECT_EQ(Names(catalog), (std::vector<std::wstring>{L"Alpha", L"beta", L"work"}));
-  const CategoryRecord& work = *catalog.Categories()[2];
-  EXPECT_EQ(work.pimId, 5);
-  EXPECT_FALSE(work.pimFlag);
-  EXPECT_EQ(work.color, CategoryRecord::kNoColor);
-  EXPECT_EQ(work.filterFlags, 0u);
-  EXPECT_TRUE(catalog.Categories()[0]->pimFlag);
+  std::wstring text;
+  for (const auto& category : catalog.Categories()) {
+    text += category->name + L" " + FormatDecimal(category->pimId) +
+            (category->pimFlag ? L" flag\n" : L"\n");
+    EXPECT_EQ(category->color, CategoryRecord::kNoColor) << Utf8(category->name);
+    EXPECT_EQ(category->filterFlags, 0u) << Utf8(category->name);
+  }
+  EXPECT_EQ(Utf8(text), "Alpha 3 flag\nbeta 65534\nwork 5\n");
   EXPECT_EQ(catalog.All().name, L"Everything");
-}
-
-TEST_F(Catalog, ARebuildForgetsTheCategoriesBefore) {
-  machine.Start({L"Old", L"Kept"});
-  catalog.FindCategory(L"Kept")->color = 1;
-  machine.Start({L"Kept"});
-  EXPECT_EQ(Names(catalog), std::vector<std::wstring>{L"Kept"});
-  EXPECT_EQ(catalog.FindCategory(L"Kept")->color, CategoryRecord::kNoColor);
 }
 
 TEST_F(Catalog, ValuesAreFourBytesOfAnyType) {
@@ -82,157 +76,123 @@ TEST_F(Catalog, ValuesAreFourBytesOfAnyType) {
   SetBinary(registry, kUser, kCategories, L"catfilter.a", {1, 2, 3, 4});
   SetBinary(registry, kUser, kCategories, L"CatColor.B", {1, 2, 3, 4, 5});
   SetString(registry, kUser, kCategories, L"CatFilter.B", L"far too long");
-  machine.Start({L"A", L"B", L"C"});
+  machine.Start({L"A", L"B"});
   EXPECT_EQ(catalog.FindCategory(L"A")->color, 0x123456u);
   EXPECT_EQ(catalog.FindCategory(L"A")->filterFlags, 0x04030201u);
-  for (const wchar_t* name : {L"B", L"C"}) {
-    EXPECT_EQ(catalog.FindCategory(name)->color, CategoryRecord::kNoColor);
-    EXPECT_EQ(catalog.FindCategory(name)->filterFlags, 0u);
-  }
+  EXPECT_EQ(catalog.FindCategory(L"B")->color, CategoryRecord::kNoColor);
+  EXPECT_EQ(catalog.FindCategory(L"B")->filterFlags, 0u);
 }
 
-TEST_F(Catalog, OnlyValuesWithAMeaningAreStored) {
+TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
   SetDword(registry, kUser, kCategories, L"CatColor.Gone", 7);
   SetDword(registry, kUser, kCategories, L"CatColor.C", 7);
   SetDword(registry, kUser, kCategories, L"CatFilter.C", 7);
-  machine.Start({L"A", L"B \x00DC", L"C"});
-  catalog.FindCategory(L"A")->color = 0;
-  catalog.FindCategory(L"B \x00DC")->filterFlags = 0x80000000;
-  catalog.FindCategory(L"C")->color = CategoryRecord::kNoColor;
-  catalog.FindCategory(L"C")->filterFlags = 0;
-  catalog.SaveCategoryValues();
-  EXPECT_EQ(Values(), "[" + Utf8(kCategories) +
-                          "]\nCatColor.A = 0\nCatColor.Gone = 7\n"
-                          "CatFilter.B \xC3\x9C = 2147483648\n");
-}
-
-TEST_F(Catalog, SavingWritesWhatTheRegistryDoesNotHoldAndNothingElse) {
   machine.Start();
-  MeteredRegistry metered(registry);
-  CategoryCatalog counted = Metered(metered, files);
-  ListedCategories source({{L"A", 1, false}, {L"B", 2, false}});
+  CategoryCatalog counted = Metered();
+  ListedCategories source({{L"A", 1, false}, {L"B \x00DC", 2, false}, {L"C", 3, false}});
   counted.Rebuild(source, L"All");
-  EXPECT_EQ(metered.Count(RegistryCall::kCreate), 1);
+  EXPECT_EQ(meteredRegistry.Count(RegistryCall::kCreate), 1);
   counted.SaveCategoryValues();
-  EXPECT_EQ(metered.CountWrites(), 0);
+  EXPECT_EQ(meteredRegistry.CountWrites(), 0);
 
-  counted.FindCategory(L"A")->color = 5;
-  counted.SaveCategoryValues();
-  EXPECT_EQ(metered.CountWrites(), 1);
-  counted.SaveCategoryValues();
-  EXPECT_EQ(metered.CountWrites(), 1);
-
+  counted.FindCategory(L"A")->color = 0;
+  counted.FindCategory(L"B \x00DC")->filterFlags = 0x80000000;
+  counted.FindCategory(L"C")->color = CategoryRecord::kNoColor;
+  counted.FindCategory(L"C")->filterFlags = 0;
+  for (int save = 1; save <= 2; ++save) {
+    counted.SaveCategoryValues();
+    EXPECT_EQ(Values(), "CatColor.A = 0\nCatColor.Gone = 7\nCatFilter.B \xC3\x9C = 2147483648\n");
+    EXPECT_EQ(meteredRegistry.CountWrites(), 4);
+  }
   // Whatever wrote the values since, the records win.
-  SetString(registry, kUser, kCategories, L"CatColor.A", L"x");
-  SetDword(registry, kUser, kCategories, L"CatFilter.B", 1);
+  SetBinary(registry, kUser, kCategories, L"CatColor.A", {0, 0, 0, 0});
+  SetDword(registry, kUser, kCategories, L"CatFilter.C", 1);
   counted.SaveCategoryValues();
-  EXPECT_EQ(metered.CountWrites(), 3);
-  EXPECT_EQ(Values(), "[" + Utf8(kCategories) + "]\nCatColor.A = 5\n");
+  EXPECT_EQ(meteredRegistry.CountWrites(), 6);
+  EXPECT_EQ(Values(), "CatColor.A = 0\nCatColor.Gone = 7\nCatFilter.B \xC3\x9C = 2147483648\n");
 }
 
 TEST_F(Catalog, ARegistryThatRefusesLeavesTheDefaults) {
   SetDword(registry, kUser, kCategories, L"CatColor.A", 1);
   machine.Start();
-  MeteredRegistry metered(registry);
-  metered.Meter().FailFrom(1);
-  CategoryCatalog refused = Metered(metered, files);
+  meteredRegistry.Meter().FailFrom(1);
+  CategoryCatalog refused = Metered();
   ListedCategories source({{L"A", 1, false}});
   refused.Rebuild(source, L"All");
   EXPECT_EQ(refused.FindCategory(L"A")->color, CategoryRecord::kNoColor);
   refused.SaveCategoryValues();
+  EXPECT_EQ(Values(), "CatColor.A = 1\n");
 }
 
-TEST_F(Catalog, TheFiltersFileLiesWhereTheSettingSays) {
+TEST_F(Catalog, TheFiltersFileLiesWhereTheSettingSaysAndIsWholeOrTheDefaults) {
   SetString(registry, kUser, L"Software\\Velmont\\Tidewell", L"TWFiltersFileFolder", L"\\Card");
   files.Put(L"\\Card\\");
   machine.Start();
-  catalog.Filters()[4].title = L"Fifth";
+  EXPECT_FALSE(catalog.LoadFiltersFile());
+  FilterSet filters = DefaultFilters();
+  filters[4] = {L"Fifth", 3, false, true, 5};
+  catalog.Filters()[4] = filters[4];
   EXPECT_TRUE(catalog.SaveFiltersFile());
-  EXPECT_EQ(files.Contents(L"\\Card\\TWFilters.txt"), BytesOf(FormatFilters([] {
-              FilterSet filters = DefaultFilters();
-              filters[4].title = L"Fifth";
-              return filters;
-            }())));
+  std::vector<std::byte> bytes = BytesOf(FormatFilters(filters));
+  EXPECT_EQ(files.Contents(L"\\Card\\TWFilters.txt"), bytes);
   catalog.ResetFilters();
   EXPECT_TRUE(catalog.LoadFiltersFile());
   EXPECT_EQ(catalog.Filters()[4].title, L"Fifth");
-}
 
-TEST_F(Catalog, AFileThatIsNotWholeGivesTheDefaults) {
-  machine.Start();
-  EXPECT_FALSE(catalog.LoadFiltersFile());
-  catalog.Filters()[0].title = L"Changed";
-  catalog.Filters()[0].sensitivity = 3;
-  EXPECT_TRUE(catalog.SaveFiltersFile());
-  EXPECT_TRUE(catalog.LoadFiltersFile());
-
-  std::vector<std::byte> bytes = *files.Contents(kFiltersFile);
   bytes.resize(bytes.size() / 2);
-  files.Put(kFiltersFile, bytes);
+  files.Put(L"\\Card\\TWFilters.txt", bytes);
   EXPECT_FALSE(catalog.LoadFiltersFile());
-  EXPECT_EQ(catalog.Filters()[0].title, L"Filter 1");
-  EXPECT_EQ(catalog.Filters()[0].sensitivity, 0);
+  EXPECT_EQ(catalog.Filters()[4].title, L"Filter 5");
+  EXPECT_EQ(catalog.Filters()[4].sensitivity, 0);
 }
 
-TEST_F(Catalog, WhateverCallFailsTheFiltersFileIsTheOldOrTheNewOne) {
+TEST_F(Catalog, WhateverCallFailsTheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
   machine.Start();
   ASSERT_TRUE(catalog.SaveFiltersFile());
   const auto old = files.Contents(kFiltersFile);
-  int lastFailure = 0;
+  CategoryCatalog counted = Metered();
+  EXPECT_TRUE(counted.SaveFiltersFile());
+  EXPECT_EQ(meteredFiles.Count(FileCall::kOpenForWriting), 0);
+
+  FilterSet changed = DefaultFilters();
+  changed[0].title = counted.Filters()[0].title = L"New";
+  int failures = 0;
   for (int n = 1; n <= 10; ++n) {
     files.Put(kFiltersFile, *old);
-    MeteredFiles metered(files);
-    CategoryCatalog failing = Metered(registry, metered);
-    failing.Filters()[0].title = L"New";
-    metered.Meter().FailNth(n);
-    const bool saved = failing.SaveFiltersFile();
-    if (!saved) lastFailure = n;
-    FilterSet expected = DefaultFilters();
-    if (saved) expected[0].title = L"New";
-    EXPECT_EQ(files.Contents(kFiltersFile), BytesOf(FormatFilters(expected))) << n;
+    meteredFiles.Meter().Reset();
+    meteredFiles.Meter().FailNth(n);
+    const bool saved = counted.SaveFiltersFile();
+    if (!saved) ++failures;
+    EXPECT_EQ(files.Contents(kFiltersFile), saved ? BytesOf(FormatFilters(changed)) : *old) << n;
     EXPECT_FALSE(files.Find(kFiltersFile + L".new").has_value()) << n;
   }
-  EXPECT_GE(lastFailure, 4);  // create, write, close and replace, after the old file was read
-}
-
-TEST_F(Catalog, AnUnchangedFiltersFileIsNotWritten) {
-  machine.Start();
-  ASSERT_TRUE(catalog.SaveFiltersFile());
-  MeteredFiles metered(files);
-  CategoryCatalog counted = Metered(registry, metered);
-  EXPECT_TRUE(counted.SaveFiltersFile());
-  EXPECT_EQ(metered.Count(FileCall::kOpenForWriting), 0);
-  EXPECT_EQ(metered.Count(FileCall::kReplace), 0);
+  EXPECT_EQ(failures, 4);  // create, write, close and replace
 }
 
 TEST_F(Catalog, ASelectionIsACategoryByItsExactNameElseAFilterElseAll) {
-  struct Case {
-    const wchar_t* name;
-    std::int32_t filter;
-    const char* selection;
-  };
-  const Case cases[] = {
-      {L"", 0, "all"},         {L"Work", 0, "Work"},     {L"Work", 5, "Work"},
-      {L"work", 0, "all"},     {L"work", 5, "filter 5"}, {L"Gone", 32, "filter 32"},
-      {L"", 1, "filter 1"},    {L"", 33, "all"},         {L"", -1, "all"},
-      {L"", INT32_MIN, "all"}, {L"", INT32_MAX, "all"},
-  };
   machine.Start({L"Work"});
-  for (const Case& c : cases) {
-    EXPECT_EQ(Show(catalog.FindByNameOrIndex(c.name, c.filter)), c.selection)
-        << Utf8(c.name) << ' ' << c.filter;
+  for (const auto& [name, filter, selection] : {std::tuple(L"", 0, "all"),
+                                                {L"Work", 0, "Work"},
+                                                {L"Work", 5, "Work"},
+                                                {L"work", 0, "all"},
+                                                {L"work", 5, "filter 5"},
+                                                {L"Gone", 32, "filter 32"},
+                                                {L"", 1, "filter 1"},
+                                                {L"", 33, "all"},
+                                                {L"", -1, "all"},
+                                                {L"", INT32_MIN, "all"}}) {
+    EXPECT_EQ(Show(catalog.FindByNameOrIndex(name, filter)), selection) << Utf8(name) << filter;
   }
 }
 
 TEST_F(Catalog, EveryViewHasItsOwnSelection) {
-  const std::wstring root = L"Software\\Velmont\\Tidewell\\";
   EXPECT_EQ(Show(catalog.Selected(RestrictedView::kTasks)), "all");  // also before the first build
-  SetString(registry, kUser, root + L"Calendar", L"CalendarSelCategory", L"Work");
-  SetDword(registry, kUser, root + L"Tasks", L"TasksSelFilter", 2);
-  SetString(registry, kUser, root + L"Contacts", L"ContactsSelCategory", L"Home");
-  SetDword(registry, kUser, root + L"Contacts", L"ContactsSelFilter", 3);
-  SetString(registry, kUser, root + L"SEvents", L"SEventsSelCategory", L"home");
-  SetDword(registry, kUser, root + L"SEvents", L"SEventsSelFilter", 4);
+  SetString(registry, kUser, kRoot + L"Calendar", L"CalendarSelCategory", L"Work");
+  SetDword(registry, kUser, kRoot + L"Tasks", L"TasksSelFilter", 2);
+  SetString(registry, kUser, kRoot + L"Contacts", L"ContactsSelCategory", L"Home");
+  SetDword(registry, kUser, kRoot + L"Contacts", L"ContactsSelFilter", 3);
+  SetString(registry, kUser, kRoot + L"SEvents", L"SEventsSelCategory", L"home");
+  SetDword(registry, kUser, kRoot + L"SEvents", L"SEventsSelFilter", 4);
   machine.Start({L"Home", L"Work"});
   EXPECT_EQ(Show(catalog.Selected(RestrictedView::kCalendar)), "Work");
   EXPECT_EQ(Show(catalog.Selected(RestrictedView::kTasks)), "filter 2");
