@@ -12,6 +12,7 @@ using Bytes = std::span<const std::byte>;
 void registry_text(Bytes bytes);
 void filters_file(Bytes bytes);
 void pim_volume(Bytes bytes);
+void settings_load(Bytes bytes);
 
 inline void Require(bool promise) {
   if (!promise) std::abort();

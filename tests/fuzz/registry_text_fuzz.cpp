@@ -1,5 +1,3 @@
-#include "backup/registry_text.h"
-
 #include <string>
 
 #include "tests/fuzz/fuzz_targets.h"
@@ -17,14 +15,8 @@ std::wstring ExportAfter(Bytes bytes, bool& accepted) {
   CategoryCatalog catalog(machine.Door(), store);
   catalog.Add({L"Home", 1, false});
   catalog.Add({L"Work", 2, true});
-  BytesSource text(bytes);
-  TextReader reader(text);
-  accepted = ImportRegistryText(registry, catalog, reader);
-  ByteSink sink;
-  TextWriter writer(sink);
-  ExportRegistryText(registry, catalog, std::wstring(kProductKey), writer);
-  writer.Flush();
-  return TextOfBytes(sink.bytes);
+  accepted = ImportBytes(registry, catalog, bytes);
+  return ExportText(registry, catalog);
 }
 
 }  // namespace

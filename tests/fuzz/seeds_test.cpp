@@ -1,4 +1,3 @@
-// Every target takes its seeds.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -24,13 +23,9 @@ void FeedSeeds(const char* folder, void (*target)(Bytes)) {
   EXPECT_GE(count, 5) << folder;
 }
 
-TEST(FuzzSeeds, RegistryText) {
+TEST(FuzzSeeds, EveryTargetTakesItsOwn) {
   FeedSeeds("registry_text", registry_text);
-}
-TEST(FuzzSeeds, FiltersFile) {
   FeedSeeds("filters_file", filters_file);
-}
-TEST(FuzzSeeds, PimVolume) {
   FeedSeeds("pim_volume", pim_volume);
 }
 

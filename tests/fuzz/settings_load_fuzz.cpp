@@ -1,74 +1,38 @@
-// Fills a registry from the input and loads, saves and loads the settings: whatever it holds, what
-// was saved is what is loaded again.
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <cstdlib>
-#include <span>
 
 #include "platform/memory/memory_machine.h"
-#include "settings/settings_store.h"
+#include "tests/fuzz/fuzz_targets.h"
+#include "tests/support/setting_lines.h"
 
-namespace tidewell {
+namespace tidewell::fuzz {
+
 namespace {
 
-class Input {
- public:
-  explicit Input(std::span<const std::byte> bytes) : rest_(bytes) {}
-  bool IsEmpty() const { return rest_.empty(); }
-  std::uint8_t Byte() {
-    if (rest_.empty()) return 0;
-    const auto value = std::to_integer<std::uint8_t>(rest_.front());
-    rest_ = rest_.subspan(1);
-    return value;
-  }
-  std::span<const std::byte> Bytes(std::size_t count) {
-    const auto taken = rest_.first(std::min(count, rest_.size()));
-    rest_ = rest_.subspan(taken.size());
-    return taken;
-  }
+Bytes Take(Bytes& input, std::size_t count) {
+  const Bytes taken = input.first(std::min(count, input.size()));
+  input = input.subspan(taken.size());
+  return taken;
+}
 
- private:
-  std::span<const std::byte> rest_;
-};
-
-// The values that a save must preserve: what the Today item writes itself may be repaired anew.
-class SavedValues final : public SettingVisitor {
- public:
-  using SettingVisitor::Visit;
-  void Visit(DwordSetting& setting) override {
-    settings.push_back(&setting);
-    if (!setting.IsReadOnly()) numbers.push_back(setting.Value());
-  }
-  void Visit(StringSetting& setting) override {
-    settings.push_back(&setting);
-    if (!setting.IsReadOnly()) texts.push_back(setting.Value());
-  }
-  void Visit(FlagArraySetting& setting) override { settings.push_back(&setting); }
-
-  std::vector<Setting*> settings;
-  std::vector<std::uint32_t> numbers;
-  std::vector<std::wstring> texts;
-};
-
-SavedValues ValuesOf(SettingsStore& store) {
-  SavedValues values;
-  for (SettingGroup* group : store.Groups()) group->Accept(values);
-  return values;
+std::uint8_t TakeNumber(Bytes& input) {
+  const Bytes taken = Take(input, 1);
+  return taken.empty() ? std::uint8_t{0} : std::to_integer<std::uint8_t>(taken[0]);
 }
 
 // Each record is a setting (or a hosted tab's value), a type, a size and data.
-void Fill(Registry& registry, Input& input) {
+void Fill(Registry& registry, Bytes input) {
   static SettingsStore catalogue;
-  static const std::vector<Setting*> settings = ValuesOf(catalogue).settings;
+  static const SettingLines lines(catalogue);
   constexpr std::array kHostedNames = {L"Enabled", L"Order",       L"Type",
                                        L"DLL",     L"InstallPath", L"CustomIconName"};
-  while (!input.IsEmpty()) {
-    const std::size_t index = input.Byte() | std::size_t{input.Byte()} << 8;
-    const std::uint32_t type = input.Byte();
-    const auto data = input.Bytes(input.Byte());
-    if (index < settings.size()) {
-      const Setting& setting = *settings[index];
+  while (!input.empty()) {
+    const std::size_t low = TakeNumber(input);
+    const std::size_t index = low | std::size_t{TakeNumber(input)} << 8;
+    const std::uint32_t type = TakeNumber(input);
+    const Bytes data = Take(input, TakeNumber(input));
+    if (index < lines.all.size()) {
+      const Setting& setting = *lines.all[index];
       CreateSettingKey(registry, setting.Key()).Get()->Set(setting.Name(), type, data);
       continue;
     }
@@ -79,15 +43,22 @@ void Fill(Registry& registry, Input& input) {
   }
 }
 
-void Expect(bool holds) {
-  if (!holds) std::abort();
+// What the Today item writes itself may be repaired anew; all else must outlive a save.
+template <typename Kind>
+void RequireSame(const std::vector<Kind*>& saved, const std::vector<Kind*>& loaded) {
+  for (std::size_t i = 0; i < saved.size(); ++i) {
+    Require(saved[i]->IsReadOnly() || saved[i]->Value() == loaded[i]->Value());
+  }
 }
 
-void LoadSaveLoad(Input input) {
+}  // namespace
+
+// Whatever a registry holds, what was saved is what is loaded again.
+void settings_load(Bytes bytes) {
   MemoryMachine machine;
-  const int dpi = 96 + input.Byte();
+  const int dpi = 96 + TakeNumber(bytes);
   const ScreenScale scale(dpi, dpi, false);
-  Fill(machine.registry, input);
+  Fill(machine.registry, bytes);
 
   Machine door = machine.Door();
   std::unique_ptr<ResourceLibrary> language;
@@ -97,21 +68,11 @@ void LoadSaveLoad(Input input) {
   SettingsStore second;
   second.Load(door, scale, language);
 
-  const SavedValues before = ValuesOf(first);
-  const SavedValues after = ValuesOf(second);
-  Expect(before.numbers == after.numbers);
-  Expect(before.texts == after.texts);
-  Expect(first.tabs.size() == second.tabs.size());
-  for (auto a = first.tabs.begin(), b = second.tabs.begin(); a != first.tabs.end(); ++a, ++b) {
-    Expect(a->order == b->order && a->caption == b->caption && a->enabled == b->enabled &&
-           a->dll == b->dll);
-  }
+  RequireSame(SettingLines(first).dwords, SettingLines(second).dwords);
+  RequireSame(SettingLines(first).strings, SettingLines(second).strings);
+  Require(std::ranges::equal(first.tabs, second.tabs, [](const TabEntry& a, const TabEntry& b) {
+    return a.order == b.order && a.caption == b.caption && a.enabled == b.enabled && a.dll == b.dll;
+  }));
 }
 
-}  // namespace
-}  // namespace tidewell
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  tidewell::LoadSaveLoad(tidewell::Input(std::as_bytes(std::span(data, size))));
-  return 0;
-}
+}  // namespace tidewell::fuzz

@@ -63,11 +63,14 @@ inline std::wstring ExportText(Registry& registry, const CategoryCatalog& catalo
   writer.Flush();
   return TextOfBytes(sink.bytes);
 }
-inline bool ImportText(Registry& registry, CategoryCatalog& catalog, std::wstring_view text) {
-  const std::vector<std::byte> bytes = BytesOf(text);
+inline bool ImportBytes(Registry& registry, CategoryCatalog& catalog,
+                        std::span<const std::byte> bytes) {
   BytesSource source(bytes);
   TextReader reader(source);
   return ImportRegistryText(registry, catalog, reader);
+}
+inline bool ImportText(Registry& registry, CategoryCatalog& catalog, std::wstring_view text) {
+  return ImportBytes(registry, catalog, BytesOf(text));
 }
 
 }  // namespace tidewell
