@@ -12,28 +12,22 @@ namespace {
 
 using Lines = std::vector<std::wstring>;
 
-// Gives its bytes in portions of one size, and an error after `errorAfter` of them.
+// Gives its bytes in portions of one size, and an error after so many of them.
 class PortionedSource final : public TextSource {
  public:
-  PortionedSource(std::vector<std::byte> bytes, std::size_t portion, std::size_t errorAfter = ~0u)
-      : bytes_(std::move(bytes)), portion_(portion), errorAfter_(errorAfter) {}
-  bool Rewind() override {
-    at_ = 0;
-    return true;
-  }
+  PortionedSource(std::span<const std::byte> bytes, std::size_t portion, int portions = -1)
+      : source_(bytes), portion_(portion), portions_(portions) {}
+  bool Rewind() override { return source_.Rewind(); }
   std::optional<std::size_t> Read(std::span<std::byte> buffer) override {
-    if (at_ >= errorAfter_) return std::nullopt;
-    const std::size_t count = std::min({buffer.size(), portion_, bytes_.size() - at_});
-    std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(at_), count, buffer.begin());
-    at_ += count;
-    return count;
+    if (portions_ == 0) return std::nullopt;
+    --portions_;
+    return source_.Read(buffer.first(std::min(buffer.size(), portion_)));
   }
 
  private:
-  std::vector<std::byte> bytes_;
+  BytesSource source_;
   std::size_t portion_;
-  std::size_t errorAfter_;
-  std::size_t at_ = 0;
+  int portions_;
 };
 
 Lines LinesOf(TextSource& source) {
@@ -76,18 +70,18 @@ TEST(TextReader, ThePortionsOfTheSourceDoNotShow) {
     expected.push_back(std::wstring(i % 37, L'a') + L"\n");
     text += expected.back();
   }
+  const std::vector<std::byte> bytes = BytesOf(text);
   for (const std::size_t portion : {1, 2, 3, 1021, 16384}) {
-    PortionedSource source(BytesOf(text), portion);
+    PortionedSource source(bytes, portion);
     EXPECT_EQ(LinesOf(source), expected) << portion;
   }
 }
 
 TEST(TextReader, AnOddByteOrAnErrorEndsTheText) {
-  std::vector<std::byte> bytes = BytesOf(L"ab\ncd");
-  bytes.pop_back();
-  PortionedSource odd(bytes, 100);
+  const std::vector<std::byte> bytes = BytesOf(L"ab\ncd");
+  BytesSource odd{std::span(bytes).first(9)};
   EXPECT_EQ(LinesOf(odd), (Lines{L"ab\n", L"c"}));
-  PortionedSource broken(BytesOf(L"ab\ncd\n"), 8, 8);
+  PortionedSource broken(bytes, 8, 1);
   EXPECT_EQ(LinesOf(broken), (Lines{L"ab\n", L"c"}));
 }
 

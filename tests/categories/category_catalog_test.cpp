@@ -186,18 +186,24 @@ TEST_F(Catalog, ASelectionIsACategoryByItsExactNameElseAFilterElseAll) {
 }
 
 TEST_F(Catalog, EveryViewHasItsOwnSelection) {
-  EXPECT_EQ(Show(catalog.Selected(RestrictedView::kTasks)), "all");  // also before the first build
-  SetString(registry, kUser, kRoot + L"Calendar", L"CalendarSelCategory", L"Work");
-  SetDword(registry, kUser, kRoot + L"Tasks", L"TasksSelFilter", 2);
-  SetString(registry, kUser, kRoot + L"Contacts", L"ContactsSelCategory", L"Home");
-  SetDword(registry, kUser, kRoot + L"Contacts", L"ContactsSelFilter", 3);
-  SetString(registry, kUser, kRoot + L"SEvents", L"SEventsSelCategory", L"home");
-  SetDword(registry, kUser, kRoot + L"SEvents", L"SEventsSelFilter", 4);
-  machine.Start({L"Home", L"Work"});
-  EXPECT_EQ(Show(catalog.Selected(RestrictedView::kCalendar)), "Work");
-  EXPECT_EQ(Show(catalog.Selected(RestrictedView::kTasks)), "filter 2");
-  EXPECT_EQ(Show(catalog.Selected(RestrictedView::kContacts)), "Home");
-  EXPECT_EQ(Show(catalog.Selected(RestrictedView::kSpecialEvents)), "filter 4");
+  using enum RestrictedView;
+  const std::pair<RestrictedView, std::wstring> views[] = {{kCalendar, L"Calendar"},
+                                                           {kTasks, L"Tasks"},
+                                                           {kContacts, L"Contacts"},
+                                                           {kSpecialEvents, L"SEvents"}};
+  std::uint32_t filter = 0;
+  for (const auto& [view, name] : views) {
+    EXPECT_EQ(Show(catalog.Selected(view)), "all") << "before the first build";
+    SetDword(registry, kUser, kRoot + name, name + L"SelFilter", ++filter);
+  }
+  machine.Start({L"Calendar", L"Contacts", L"SEvents", L"Tasks"});
+  filter = 0;
+  for (const auto& [view, name] : views) {
+    EXPECT_EQ(Show(catalog.Selected(view)), "filter " + std::to_string(++filter)) << Utf8(name);
+    SetString(registry, kUser, kRoot + name, name + L"SelCategory", name);
+  }
+  machine.Start({L"Calendar", L"Contacts", L"SEvents", L"Tasks"});
+  for (const auto& [view, name] : views) EXPECT_EQ(Show(catalog.Selected(view)), Utf8(name));
 }
 
 }  // namespace
