@@ -1,42 +1,25 @@
 #include "platform/memory/memory_machine.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/memory/metered_files.h"
 #include "platform/memory/metered_registry.h"
-#include "tests/platform/files_contract.h"
-#include "tests/platform/registry_contract.h"
+#include "platform/replacement_file.h"
+#include "platform/text.h"
+#include "tests/platform/contracts.h"
 #include "tests/support/registry_support.h"
 
 namespace tidewell {
+
 namespace {
 
-std::shared_ptr<Registry> MakeMeteredRegistry() {
-  struct Both {
-    MemoryRegistry memory;
-    MeteredRegistry metered{memory};
-  };
-  const auto both = std::make_shared<Both>();
-  return {both, &both->metered};
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Twins, RegistryContract,
-    testing::Values(RegistryAnswer{"AsWritten", [] { return std::make_shared<MemoryRegistry>(); }},
-                    RegistryAnswer{"Sorted",
-                                   [] {
-                                     return std::make_shared<MemoryRegistry>(
-                                         MemoryRegistry::Order::kSorted);
-                                   }},
-                    RegistryAnswer{"Metered", MakeMeteredRegistry}),
-    NameOfRegistryAnswer);
+struct MeteredMemoryRegistry {
+  MemoryRegistry memory;
+  MeteredRegistry metered{memory};
+};
 
 class MemoryFilesUnderTest final : public FilesUnderTest {
  public:
-  explicit MemoryFilesUnderTest(bool isMetered) : isMetered_(isMetered) {
-    files_.Put(L"\\Temp\\Test\\", "");
-  }
-  Files& Door() override { return isMetered_ ? static_cast<Files&>(metered_) : files_; }
+  MemoryFilesUnderTest() { files_.Put(L"\\Temp\\Test\\", ""); }
+  Files& Door() override { return metered_; }
   std::wstring Folder() const override { return L"\\Temp\\Test"; }
   std::shared_ptr<void> Lock(const std::wstring& path) override {
     files_.SetLocked(path, true);
@@ -47,19 +30,28 @@ class MemoryFilesUnderTest final : public FilesUnderTest {
  private:
   MemoryFiles files_;
   MeteredFiles metered_{files_};
-  bool isMetered_;
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    Twins, FilesContract,
-    testing::Values(
-        FilesAnswer{"Memory", [] { return std::make_unique<MemoryFilesUnderTest>(false); }},
-        FilesAnswer{"Metered", [] { return std::make_unique<MemoryFilesUnderTest>(true); }}),
-    NameOfFilesAnswer);
+}  // namespace
+
+std::vector<Answer<Registry>> RegistryAnswers() {
+  using Order = MemoryRegistry::Order;
+  return {{"Sorted", [] { return std::make_shared<MemoryRegistry>(Order::kSorted); }},
+          {"Metered", [] {
+             const auto both = std::make_shared<MeteredMemoryRegistry>();
+             return std::shared_ptr<Registry>(both, &both->metered);
+           }}};
+}
+
+std::vector<Answer<FilesUnderTest>> FilesAnswers() {
+  return {{"Metered", [] { return std::make_shared<MemoryFilesUnderTest>(); }}};
+}
+
+namespace {
 
 TEST(MeteredRegistry, FailsTheCallsItIsToldTo) {
-  MemoryRegistry memory;
-  MeteredRegistry registry(memory);
+  MeteredMemoryRegistry both;
+  auto& [memory, registry] = both;
   const auto setThree = [&] {  // six calls that can fail
     for (const wchar_t* name : {L"1", L"2", L"3"}) {
       SetDword(registry, RegistryRoot::kCurrentUser, L"Key", name, 0);
@@ -78,38 +70,6 @@ TEST(MeteredRegistry, FailsTheCallsItIsToldTo) {
   registry.Meter().FailEvery(RegistryCall::kSet);
   EXPECT_EQ(setThree(), "[Key]\n");
   EXPECT_EQ(setThree(), "[Key]\n1 = 0\n2 = 0\n3 = 0\n");
-
-  registry.SetFailure(kStatusMoreData);
-  const auto key = registry.Create(RegistryRoot::kCurrentUser, L"Key");
-  registry.Meter().FailFrom(1);
-  EXPECT_EQ(key->DeleteValue(L"1"), kStatusMoreData);
-}
-
-TEST(MemoryFiles, AFullDiskTakesWhatFitsAndSaysSo) {
-  MemoryFiles files;
-  const std::string_view eight = "12345678";
-  const auto write = [&](const wchar_t* path) {
-    const auto file = files.OpenForWriting(path);
-    const bool isWritten = file->Write(std::as_bytes(std::span(eight)));
-    EXPECT_EQ(file->Close(), isWritten);
-    return isWritten;
-  };
-  files.SetFreeBytes(12);
-  EXPECT_TRUE(write(L"\\a"));
-  EXPECT_FALSE(write(L"\\b"));
-  EXPECT_EQ(files.Contents(L"\\b")->size(), 4u);
-  EXPECT_TRUE(files.Remove(L"\\a"));
-  EXPECT_TRUE(write(L"\\b"));  // its four bytes and the eight freed
-}
-
-TEST(MemoryFiles, AReadOnlyFileIsNeitherWrittenNorReplaced) {
-  MemoryFiles files;
-  files.Put(L"\\folder\\file", "kept");
-  files.Put(L"\\folder\\new", "fresh");
-  files.SetReadOnly(L"\\folder\\file", true);
-  EXPECT_EQ(files.OpenForWriting(L"\\folder\\file"), nullptr);
-  EXPECT_FALSE(files.Replace(L"\\folder\\new", L"\\folder\\file"));
-  EXPECT_EQ(files.Contents(L"\\folder\\file")->size(), 4u);
 }
 
 TEST(MeteredFiles, FailsEveryKindOfCallAndLeavesTheFilesAlone) {
@@ -132,21 +92,47 @@ TEST(MeteredFiles, FailsEveryKindOfCallAndLeavesTheFilesAlone) {
   EXPECT_FALSE(writer->Write(buffer));
   EXPECT_FALSE(writer->Close());
   EXPECT_EQ(files.Meter().FailableCount(), static_cast<int>(FileCall::kCount));
-  EXPECT_EQ(files.Meter().Paths(FileCall::kReplace), std::vector<std::wstring>{L"\\file"});
   EXPECT_EQ(memory.Contents(L"\\file")->size(), 4u);
   EXPECT_EQ(memory.Contents(L"\\other")->size(), 0u);
   EXPECT_FALSE(memory.Find(L"\\folder"));
 }
 
-TEST(FixedLocale, FormatsDatesAndTimes) {
-  FixedLocale locale;
-  const LocalTime noon{2008, 3, 4, 12, 5};
-  EXPECT_EQ(locale.FormatDate(noon, L"yyyy_MM_dd"), L"2008_03_04");
-  EXPECT_EQ(locale.FormatDate(noon, L"d.M.yy 'dd'"), L"4.3.08 dd");
-  EXPECT_EQ(locale.FormatTime(noon), L"12:05");
-  locale.timeStyle = L"0";
-  EXPECT_EQ(locale.FormatTime(noon), L"12:05 PM");
-  EXPECT_EQ(locale.FormatTime({2008, 3, 4, 0, 0}), L"12:00 AM");
+// What stood in the file's place and what an earlier attempt left beside it; the disk has room for
+// some bytes; the new text is committed or not.
+TEST(ReplacementFile, IsTheNewOneWholeOrTheOldOneAndLeavesNothingBeside) {
+  const struct {
+    const char* what;
+    bool isLocked, isReadOnly;
+    std::size_t freeBytes;
+    bool isCommitted, succeeds;
+  } cases[] = {
+      {"committed", false, false, 100, true, true},
+      {"given up", false, false, 100, false, false},
+      {"a locked target", true, false, 100, true, false},
+      {"a read-only target", false, true, 100, true, false},
+      {"a full disk", false, false, 4, true, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    MemoryFiles files;
+    files.Put(L"\\a.txt", "old");
+    files.Put(L"\\a.txt.new", "");
+    files.SetLocked(L"\\a.txt", c.isLocked);
+    files.SetReadOnly(L"\\a.txt", c.isReadOnly);
+    files.SetFreeBytes(c.freeBytes);
+    {
+      ReplacementFile file(files, L"\\a.txt");
+      ASSERT_TRUE(file.Stream());
+      EXPECT_EQ(file.Stream()->Write(BytesOf(L"new")), c.freeBytes > 6);
+      EXPECT_EQ(c.isCommitted && file.Commit(), c.succeeds);
+    }
+    EXPECT_EQ(files.Contents(L"\\a.txt")->size(), c.succeeds ? 6u : 3u);
+    EXPECT_FALSE(files.Find(L"\\a.txt.new"));
+  }
+  MemoryFiles files;
+  ReplacementFile nowhere(files, L"\\gone\\a.txt");
+  EXPECT_FALSE(nowhere.Stream());
+  EXPECT_FALSE(nowhere.Commit());
 }
 
 }  // namespace

@@ -132,6 +132,14 @@ int TestWindow::Count(UINT id) const {
       std::count_if(messages.begin(), messages.end(), [&](auto& each) { return each.id == id; }));
 }
 
+std::vector<int> TestWindow::TakeCommands() {
+  std::vector<int> commands;
+  for (const Message& each : std::exchange(messages, {})) {
+    if (each.id == WM_COMMAND) commands.push_back(LOWORD(each.wParam));
+  }
+  return commands;
+}
+
 LRESULT CALLBACK TestWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
     SetWindowLongPtrW(

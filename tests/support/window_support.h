@@ -42,6 +42,9 @@ class Screenshot {
   std::vector<DWORD> pixels_;
 };
 
+// Where the system is to place a program's main window.
+constexpr RECT kDefaultPlace{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
+
 // A plain window of a test's own that keeps the messages it was sent or posted.
 class TestWindow {
  public:
@@ -59,6 +62,8 @@ class TestWindow {
 
   HWND Get() const { return window_; }
   int Count(UINT id) const;
+  // The commands received, in order; forgets all messages.
+  std::vector<int> TakeCommands();
   std::vector<Message> messages;
   // Called for every message before the system's own answer.
   std::function<void(const Message&)> onMessage = [](const Message&) {};

@@ -3,6 +3,8 @@
 #include <aygshell.h>
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "tests/support/window_support.h"
 
 namespace tidewell {
@@ -32,7 +34,8 @@ void TapSoftKey(int quarter) {
 
 }  // namespace
 
-DialogDriver::DialogDriver() : timer_(SetTimer(nullptr, 0, kPeriod, OnTimer)) {
+DialogDriver::DialogDriver(std::function<std::wstring()> show)
+    : show_(std::move(show)), timer_(SetTimer(nullptr, 0, kPeriod, OnTimer)) {
   running = this;
 }
 
@@ -40,6 +43,7 @@ DialogDriver::~DialogDriver() {
   KillTimer(nullptr, timer_);
   running = nullptr;
   EXPECT_TRUE(steps_.empty()) << steps_.size() << " steps were left when the dialog ended";
+  EXPECT_EQ(expected_, L"");
 }
 
 void CALLBACK DialogDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
@@ -47,11 +51,15 @@ void CALLBACK DialogDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 }
 
 void DialogDriver::Turn() {
+  if (const std::wstring expected = std::exchange(expected_, {}); !expected.empty()) {
+    EXPECT_EQ(show_(), expected);
+  }
   if (!steps_.empty()) {
     // Off the list first: the loop of a message box takes the next turns inside this one.
-    const auto step = std::move(steps_.front());
+    const Step step = std::move(steps_.front());
     steps_.pop_front();
-    step();
+    expected_ = step.shown;
+    if (step.act) step.act();
   } else if (const HWND dialog = FrontDialog()) {
     ADD_FAILURE() << "a dialog was left open";
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
@@ -80,31 +88,33 @@ HWND List() {
   return ControlOf(WC_LISTVIEWW);
 }
 
-std::vector<std::wstring> RowsOfList() {
-  std::vector<std::wstring> rows;
-  for (int row = 0; row < ListView_GetItemCount(List()); ++row) {
+std::wstring RowsShown() {
+  constexpr int kShortList = 10;
+  const int marked = ListView_GetNextItem(List(), -1, LVNI_SELECTED);
+  const int count = ListView_GetItemCount(List());
+  std::wstring rows;
+  for (int row = 0; row < count; ++row) {
+    if (count > kShortList && row != marked) continue;
     wchar_t text[300] = {};
     ListView_GetItemText(List(), row, 0, text, 300);
-    rows.push_back(text);
+    rows.append(rows.empty() ? L" " : L", ").append(row == marked ? L">" : L"").append(text);
   }
   return rows;
 }
 
-int MarkedRow() {
-  return ListView_GetNextItem(List(), -1, LVNI_SELECTED);
+std::function<void()> Key(WPARAM key) {
+  return [key] { PostMessageW(GetFocus(), WM_KEYDOWN, key, 1); };
 }
 
-void Press(WPARAM key) {
-  PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
+std::function<void()> TapRow(int row) {
+  return [row] { PostTapOnRow(WM_LBUTTONDOWN, row); };
 }
 
-void TapRow(int row) {
-  PostTapOnRow(WM_LBUTTONDOWN, row);
-}
-
-void DoubleTapRow(int row) {
-  TapRow(row);
-  PostTapOnRow(WM_LBUTTONDBLCLK, row);
+std::function<void()> DoubleTapRow(int row) {
+  return [row] {
+    PostTapOnRow(WM_LBUTTONDOWN, row);
+    PostTapOnRow(WM_LBUTTONDBLCLK, row);
+  };
 }
 
 void TapLeftKey() {

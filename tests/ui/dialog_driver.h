@@ -9,27 +9,32 @@
 #include <deque>
 #include <functional>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace tidewell {
 
 class DialogDriver {
  public:
-  DialogDriver();
+  struct Step {
+    std::function<void()> act;  // null does nothing
+    std::wstring shown;         // what `show` must tell afterwards; empty: it is not asked
+  };
+
+  explicit DialogDriver(std::function<std::wstring()> show);
   DialogDriver(const DialogDriver&) = delete;
   DialogDriver& operator=(const DialogDriver&) = delete;
   ~DialogDriver();  // fails the test when steps are left
 
-  // One more step for the next modal dialog. A dialog that is open after the last step fails the
-  // test and is closed.
-  void Then(std::function<void()> step) { steps_.push_back(std::move(step)); }
+  // For the next modal dialog. A dialog that is open after the last step fails the test and is
+  // closed.
+  void Play(std::initializer_list<Step> steps) { steps_.assign(steps); }
 
  private:
   static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
   void Turn();
 
-  std::deque<std::function<void()>> steps_;
+  std::function<std::wstring()> show_;
+  std::deque<Step> steps_;
+  std::wstring expected_;
   UINT_PTR timer_;
 };
 
@@ -39,13 +44,13 @@ HWND ControlOf(const wchar_t* windowClass, int n = 0);
 RECT PlaceInDialog(HWND control);
 
 HWND List();
-std::vector<std::wstring> RowsOfList();
-int MarkedRow();  // -1 for none
+// " one, >two, three" where the second row is marked; of a long list the marked one alone.
+std::wstring RowsShown();
 
-// What a user's hand causes, posted.
-void Press(WPARAM key);  // to the window with the focus
-void TapRow(int row);
-void DoubleTapRow(int row);
+// What a user's hand causes, posted. Keys go to the window with the focus.
+std::function<void()> Key(WPARAM key);
+std::function<void()> TapRow(int row);
+std::function<void()> DoubleTapRow(int row);
 void TapLeftKey();
 void TapRightKey();
 

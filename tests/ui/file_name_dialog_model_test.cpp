@@ -1,61 +1,38 @@
 #include "ui/file_name_dialog_model.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/memory/fixed_locale.h"
 #include "platform/memory/memory_files.h"
 #include "platform/memory/memory_libraries.h"
-#include "platform/memory/metered_files.h"
 
 namespace tidewell {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class FileNameDialogModelTest : public testing::Test {
  protected:
   FileNameDialogModelTest() {
     request.folder = L"\\My Documents";
     request.extension = L"twsb";
-    files.Put(L"\\My Documents\\monday.twsb");
-    files.Put(L"\\My Documents\\letter.txt");
-    files.Put(L"\\My Documents\\zoo twsb\\");
-    files.Put(L"\\My Documents\\Friday.TWSB");
-    files.Put(L"\\My Documents\\Business\\");
-    files.Put(L"\\My Documents\\rawtwsb");
-    files.Put(L"\\My Documents\\Backups of twsb\\");
-  }
-
-  FileNameDialogModel Filled() {
-    FileNameDialogModel model(files, locale, request);
+    for (const wchar_t* name : {L"monday.twsb", L"letter.txt", L"zoo twsb\\", L"Friday.TWSB",
+                                L"Business\\", L"rawtwsb", L"Backups of twsb\\"}) {
+      files.Put(L"\\My Documents\\" + std::wstring(name));
+    }
     model.Fill();
-    return model;
   }
 
   MemoryFiles files;
   FixedLocale locale;
   FileNameRequest request;
+  FileNameDialogModel model{files, locale, request};
 };
 
-struct Listed {
-  std::wstring name;
-  std::uint32_t tag;
-  bool operator==(const Listed&) const = default;
-};
+using Listed = std::vector<std::pair<std::wstring, std::uint32_t>>;
 
-std::vector<Listed> ListedBy(const FileNameDialogModel& model) {
-  std::vector<Listed> listed;
-  for (const ListedEntry& entry : model.Entries()) listed.push_back({entry.name, entry.tag});
+Listed ListedBy(const FileNameDialogModel& model) {
+  Listed listed;
+  for (const ListedEntry& entry : model.Entries()) listed.emplace_back(entry.name, entry.tag);
   return listed;
-}
-
-TEST_F(FileNameDialogModelTest, ListsFoldersFirstAndTagsEntriesInTheOrderFound) {
-  EXPECT_THAT(
-      ListedBy(Filled()),
-      ElementsAre(Listed{L"Backups of twsb", 0x10004}, Listed{L"zoo twsb", 0x10001},
-                  Listed{L"Friday.TWSB", 2}, Listed{L"monday.twsb", 0}, Listed{L"rawtwsb", 3}));
 }
 
 class FilesOnly : public FileNameDialogModel {
@@ -68,26 +45,27 @@ class FilesOnly : public FileNameDialogModel {
   }
 };
 
-TEST_F(FileNameDialogModelTest, ACallersFilterDecidesAndOnlyAcceptedEntriesAreCounted) {
-  FilesOnly model(files, locale, request);
-  model.Fill();
-  EXPECT_THAT(ListedBy(model), ElementsAre(Listed{L"Friday.TWSB", 1}, Listed{L"monday.twsb", 0}));
-}
+TEST_F(FileNameDialogModelTest, ListsFoldersFirstAndTagsAcceptedEntriesInTheOrderFound) {
+  EXPECT_EQ(ListedBy(model), (Listed{{L"Backups of twsb", 0x10004},
+                                     {L"zoo twsb", 0x10001},
+                                     {L"Friday.TWSB", 2},
+                                     {L"monday.twsb", 0},
+                                     {L"rawtwsb", 3}}));
+  FilesOnly filtered(files, locale, request);
+  filtered.Fill();
+  EXPECT_EQ(ListedBy(filtered), (Listed{{L"Friday.TWSB", 1}, {L"monday.twsb", 0}}));
 
-TEST_F(FileNameDialogModelTest, FillingAgainShowsTheFolderAsItIsNow) {
-  FileNameDialogModel model = Filled();
   files.Remove(L"\\My Documents\\monday.twsb");
   model.Fill();
-  EXPECT_EQ(model.Entries().size(), 4u);
-
+  EXPECT_EQ(model.Entries().size(), 4u) << "as the folder is now";
   request.folder = L"\\Storage Card";
   model.Fill();
-  EXPECT_THAT(model.Entries(), IsEmpty());
+  EXPECT_TRUE(model.Entries().empty());
 }
 
 TEST_F(FileNameDialogModelTest, WithoutAnExtensionEverythingIsListedAndTheResultEndsInADot) {
   request.extension.clear();
-  FileNameDialogModel model = Filled();
+  model.Fill();
   EXPECT_EQ(model.Entries().size(), 7u);
   EXPECT_EQ(model.Confirm(L"notes"), NameProblem::kNone);
   EXPECT_EQ(request.resultPath, L"\\My Documents\\notes.");
@@ -95,17 +73,17 @@ TEST_F(FileNameDialogModelTest, WithoutAnExtensionEverythingIsListedAndTheResult
 
 TEST_F(FileNameDialogModelTest, ConfirmsOrRefusesTypedNames) {
   const std::wstring longest(300, L'n');
-  struct Case {
+  const struct {
     std::wstring name;
     NameProblem problem;
     std::wstring path;
-  };
-  const Case cases[] = {
-      {L"TW_Backup_2026_11_15", NameProblem::kNone, L"\\My Documents\\TW_Backup_2026_11_15.twsb"},
+  } cases[] = {
+      {L"TW_Backup_2026_11_15", NameProblem::kNone, L"TW_Backup_2026_11_15.twsb"},
+      {L"   ", NameProblem::kNone, L"   .twsb"},
+      {L"a\\b", NameProblem::kNone, L"a\\b.twsb"},
+      {L"monday.twsb", NameProblem::kNone, L"monday.twsb.twsb"},
+      {longest, NameProblem::kNone, longest.substr(0, 256) + L".twsb"},
       {L"", NameProblem::kMissing, L""},
-      {L"   ", NameProblem::kNone, L"\\My Documents\\   .twsb"},
-      {L"a\\b", NameProblem::kNone, L"\\My Documents\\a\\b.twsb"},
-      {L"monday.twsb", NameProblem::kNone, L"\\My Documents\\monday.twsb.twsb"},
       {L"a/b", NameProblem::kIllegal, L""},
       {L":", NameProblem::kIllegal, L""},
       {L"what*", NameProblem::kIllegal, L""},
@@ -114,43 +92,33 @@ TEST_F(FileNameDialogModelTest, ConfirmsOrRefusesTypedNames) {
       {L"a<", NameProblem::kIllegal, L""},
       {L">a", NameProblem::kIllegal, L""},
       {L"|", NameProblem::kIllegal, L""},
-      {longest, NameProblem::kNone, L"\\My Documents\\" + longest.substr(0, 256) + L".twsb"}};
-  for (const Case& c : cases) {
+  };
+  for (const auto& c : cases) {
     request.resultPath.clear();
     const std::wstring before = FileNameDialogModel::LastConfirmedPath();
-    EXPECT_EQ(FileNameDialogModel(files, locale, request).Confirm(c.name), c.problem);
-    EXPECT_EQ(request.resultPath, c.path);
-    EXPECT_EQ(FileNameDialogModel::LastConfirmedPath(),
-              c.problem == NameProblem::kNone ? c.path : before);
+    const std::wstring path = c.path.empty() ? L"" : L"\\My Documents\\" + c.path;
+    EXPECT_EQ(model.Confirm(c.name), c.problem);
+    EXPECT_EQ(request.resultPath, path);
+    EXPECT_EQ(FileNameDialogModel::LastConfirmedPath(), path.empty() ? before : path);
   }
 }
 
-TEST_F(FileNameDialogModelTest, ActivatingTakesAFileAsItStandsAndNothingElse) {
-  FileNameDialogModel model = Filled();
-  EXPECT_FALSE(model.Activate(std::nullopt));
-  EXPECT_FALSE(model.Activate(0));
-  EXPECT_FALSE(model.Activate(5));
+TEST_F(FileNameDialogModelTest, AMarkedFileIsTakenAsItStandsOrGivesTheNameThatConfirmsIt) {
+  for (const auto& nothing : {std::optional<std::size_t>(), {0u}, {5u}}) {
+    EXPECT_FALSE(model.Activate(nothing));
+    EXPECT_EQ(model.NameFor(nothing), std::nullopt);
+  }
   EXPECT_EQ(request.resultPath, L"");
-
   EXPECT_TRUE(model.Activate(2));
   EXPECT_EQ(request.resultPath, L"\\My Documents\\Friday.TWSB");
   EXPECT_EQ(FileNameDialogModel::LastConfirmedPath(), L"\\My Documents\\Friday.TWSB");
   EXPECT_TRUE(model.Activate(4));
   EXPECT_EQ(request.resultPath, L"\\My Documents\\rawtwsb");
-}
-
-TEST_F(FileNameDialogModelTest, AMarkedFileGivesTheNameThatConfirmsIt) {
-  FileNameDialogModel model = Filled();
-  EXPECT_EQ(model.NameFor(std::nullopt), std::nullopt);
-  EXPECT_EQ(model.NameFor(0), std::nullopt);
-  EXPECT_EQ(model.NameFor(3), L"monday");
   EXPECT_EQ(model.NameFor(4), std::nullopt);
-  EXPECT_EQ(model.Confirm(*model.NameFor(3)), NameProblem::kNone);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\monday.twsb");
+  EXPECT_EQ(model.NameFor(3), L"monday");
 }
 
 TEST_F(FileNameDialogModelTest, TheNextOpeningStartsWhereTheLastOneEnded) {
-  FileNameDialogModel model = Filled();
   model.Confirm(L"Business\\year");
   EXPECT_EQ(FolderConfirmedLast(files, L"\\My Documents"), L"\\My Documents\\Business");
   model.Confirm(L"gone\\year");
@@ -158,24 +126,16 @@ TEST_F(FileNameDialogModelTest, TheNextOpeningStartsWhereTheLastOneEnded) {
 }
 
 TEST_F(FileNameDialogModelTest, TextsComeFromTheLibraryTheRequestOrTheProgram) {
-  const FileNameDialogTexts builtIn(nullptr, request);
-  EXPECT_EQ(builtIn.cancel, L"Cancel");
-  EXPECT_EQ(builtIn.select, L"Select");
-  EXPECT_EQ(builtIn.nameLabel, L"File Name");
-  EXPECT_EQ(builtIn.extensionLabel, L"Extension");
-  EXPECT_EQ(builtIn.nameMissing, L"File name value is missing");
-  EXPECT_EQ(builtIn.nameIllegal, L"File name include illegal characters");
-  EXPECT_EQ(builtIn.errorCaption, L"File Name Error");
-
   MemoryLibraries libraries;
   libraries.Put(L"\\german.dll", {{2000, L"Abbrechen"}, {2002, L"Dateiname"}});
   request.extensionCaption = L"Type";
   const auto german = libraries.Load(L"\\german.dll");
   const FileNameDialogTexts texts(german.get(), request);
   EXPECT_EQ(texts.cancel, L"Abbrechen");
-  EXPECT_EQ(texts.select, L"Select");
   EXPECT_EQ(texts.nameLabel, L"Dateiname");
   EXPECT_EQ(texts.extensionLabel, L"Type");
+  EXPECT_EQ(texts.select, L"Select");
+  EXPECT_EQ(texts.errorCaption, L"File Name Error");
 }
 
 TEST(FileNameLayoutTest, StacksTheRowsAndGivesTheRestToTheList) {
@@ -191,7 +151,6 @@ TEST(FileNameLayoutTest, StacksTheRowsAndGivesTheRestToTheList) {
   const FileNameLayout large = LayOutFileNameDialog(480, 536, false, ScreenScale(192, 192, false));
   EXPECT_EQ(large.nameField, (DialogPlace{120, 20, 340, 40}));
   EXPECT_EQ(large.extensionField, (DialogPlace{}));
-  EXPECT_EQ(large.folder, (DialogPlace{20, 68, 400, 40}));
   EXPECT_EQ(large.list, (DialogPlace{20, 116, 440, 400}));
 }
 

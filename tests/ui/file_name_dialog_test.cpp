@@ -1,6 +1,5 @@
 #include "ui/file_name_dialog.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/memory/memory_machine.h"
@@ -10,19 +9,25 @@
 namespace tidewell {
 namespace {
 
-using testing::ElementsAre;
-
 HWND NameField() {
   return ControlOf(WC_EDITW);
 }
 
-void ExpectPartsWithin(HWND box) {
-  EXPECT_LE(WindowRect(box).right, GetSystemMetrics(SM_CXSCREEN));
-  for (HWND part = GetWindow(box, GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT)) {
-    if (!IsWindowVisible(part)) continue;
-    EXPECT_LE(PlaceInDialog(part).right, ClientRect(box).right);
-    EXPECT_LE(PlaceInDialog(part).bottom, ClientRect(box).bottom);
+// The name, with a cursor while it has the focus, and the rows; or a message box's text.
+std::wstring Shown() {
+  if (!List()) {
+    const HWND text = ControlOf(WC_STATICW, ControlOf(WC_STATICW, 1) ? 1 : 0);
+    return CaptionOf(FrontDialog()) + L": " + CaptionOf(text);
   }
+  return CaptionOf(NameField()) + (GetFocus() == NameField() ? L"_:" : L":") + RowsShown();
+}
+
+std::function<void()> Type(const std::wstring& name) {
+  return [name] { SetWindowTextW(NameField(), name.c_str()); };
+}
+
+void CloseMessage() {
+  PostMessageW(FrontDialog(), WM_COMMAND, IDOK, 0);
 }
 
 class FileNameDialogTest : public testing::Test {
@@ -32,34 +37,19 @@ class FileNameDialogTest : public testing::Test {
     request.folder = L"\\My Documents";
     request.extension = L"twsb";
     request.typeLabel = L"TW Settings Backup (twsb)";
-    request.initialName = L"TW_Backup_2026_11_15";
-    memory.files.Put(L"\\My Documents\\zoo.twsb\\");
-    memory.files.Put(L"\\My Documents\\may.twsb");
-    memory.files.Put(L"\\My Documents\\april.twsb");
-    memory.files.Put(L"\\My Documents\\letter.txt");
+    request.initialName = L"first";
+    for (const wchar_t* name : {L"zoo.twsb\\", L"may.twsb", L"april.twsb", L"letter.txt"}) {
+      memory.files.Put(L"\\My Documents\\" + std::wstring(name));
+    }
   }
 
-  int Run() { return RunFileNameDialog(context, request); }
-
-  // Confirms a name that is refused with a message, and then cancels.
-  void ExpectRefusal(const wchar_t* name, const wchar_t* message) {
-    driver.Then([=] {
-      SetWindowTextW(NameField(), name);
-      TapLeftKey();
-    });
-    driver.Then([=] {
-      EXPECT_EQ(CaptionOf(FrontDialog()), L"File Name Error");
-      EXPECT_NE(FindWindowExW(FrontDialog(), nullptr, WC_STATICW, message), nullptr);
-      ExpectPartsWithin(FrontDialog());
-      PostMessageW(FrontDialog(), WM_COMMAND, IDOK, 0);
-    });
-    driver.Then([=] {
-      EXPECT_EQ(CaptionOf(FrontDialog()), L"Export TW Settings");
-      EXPECT_EQ(CaptionOf(NameField()), name);
-      TapRightKey();
-    });
-    EXPECT_EQ(Run(), 0);
-    EXPECT_EQ(request.resultPath, L"");
+  // The path that the dialog confirms once these steps are played; empty when it is cancelled.
+  std::wstring Run(std::initializer_list<DialogDriver::Step> steps) {
+    driver.Play(steps);
+    request.resultPath.clear();
+    const int confirmed = RunFileNameDialog(context, request);
+    EXPECT_EQ(confirmed, request.resultPath.empty() ? 0 : 1);
+    return request.resultPath;
   }
 
   MemoryMachine memory;
@@ -67,130 +57,90 @@ class FileNameDialogTest : public testing::Test {
   ScreenScale scale{96, 96, false};
   DialogContext context{nullptr, machine, nullptr, scale};
   FileNameRequest request;
-  DialogDriver driver;
+  DialogDriver driver{Shown};
 };
 
-TEST_F(FileNameDialogTest, ShowsTheRequestAndConfirmsItByTheLeftKey) {
-  driver.Then([] {
+TEST_F(FileNameDialogTest, ShowsTheRequestAndConfirmsTheNameByTheLeftKeyOrReturn) {
+  const auto expectCaptions = [] {
     EXPECT_EQ(CaptionOf(FrontDialog()), L"Export TW Settings");
     EXPECT_EQ(CaptionOf(ControlOf(WC_STATICW, 0)), L"File Name");
-    EXPECT_EQ(CaptionOf(NameField()), L"TW_Backup_2026_11_15");
     EXPECT_EQ(CaptionOf(ControlOf(WC_STATICW, 1)), L"Extension");
     EXPECT_EQ(CaptionOf(ControlOf(WC_EDITW, 1)), L"TW Settings Backup (twsb)");
     EXPECT_EQ(CaptionOf(ControlOf(WC_STATICW, 2)), L"\\My Documents");
-    EXPECT_THAT(RowsOfList(), ElementsAre(L"zoo.twsb", L"april.twsb", L"may.twsb"));
-    EXPECT_EQ(GetFocus(), List());
-    TapLeftKey();
-  });
-  EXPECT_EQ(Run(), 1);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\TW_Backup_2026_11_15.twsb");
-}
+  };
+  EXPECT_EQ(Run({{expectCaptions, L"first: zoo.twsb, april.twsb, may.twsb"}, {TapLeftKey, L""}}),
+            L"\\My Documents\\first.twsb");
 
-TEST_F(FileNameDialogTest, ReturnInTheFieldConfirmsNoMoreThanTheLongestName) {
-  driver.Then([] {
-    SetFocus(NameField());
-    SetWindowTextW(NameField(), std::wstring(300, L'n').c_str());
-    Press(VK_RETURN);
-  });
-  EXPECT_EQ(Run(), 1);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\" + std::wstring(256, L'n') + L".twsb");
+  const std::wstring longest(256, L'n');
+  EXPECT_EQ(Run({{Type(longest + L"more"), L""},
+                 {[] { SetFocus(NameField()); }, L""},
+                 {Key(VK_RETURN), L""}}),
+            L"\\My Documents\\" + longest + L".twsb");
 }
 
 TEST_F(FileNameDialogTest, RefusesAMissingAndAnIllegalNameAndStaysOpen) {
-  ExpectRefusal(L"", L"File name value is missing");
-  ExpectRefusal(L"a/b", L"File name include illegal characters");
+  const std::pair<std::wstring, std::wstring> cases[] = {
+      {L"", L"File name value is missing"}, {L"a/b", L"File name include illegal characters"}};
+  for (const auto& [name, message] : cases) {
+    EXPECT_EQ(Run({{Type(name), L""},
+                   {TapLeftKey, L"File Name Error: " + message},
+                   {CloseMessage, name + L": zoo.twsb, april.twsb, may.twsb"},
+                   {TapRightKey, L""}}),
+              L"");
+  }
 }
 
 TEST_F(FileNameDialogTest, ActivatingTakesAFileAsItStandsAndNothingElse) {
-  driver.Then([] { Press(VK_RETURN); });
-  driver.Then([] { DoubleTapRow(0); });
-  driver.Then([] {
-    EXPECT_EQ(MarkedRow(), 0);
-    Press(VK_RETURN);
-    Press(VK_DOWN);
-  });
-  driver.Then([] { Press(VK_RETURN); });
-  EXPECT_EQ(Run(), 1);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\april.twsb");
-
-  driver.Then([] { DoubleTapRow(2); });
-  EXPECT_EQ(Run(), 1);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\may.twsb");
+  EXPECT_EQ(Run({{Key(VK_RETURN), L"first: zoo.twsb, april.twsb, may.twsb"},
+                 {DoubleTapRow(0), L"first: >zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_RETURN), L"first: >zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_DOWN), L"first: zoo.twsb, >april.twsb, may.twsb"},
+                 {Key(VK_RETURN), L""}}),
+            L"\\My Documents\\april.twsb");
+  EXPECT_EQ(Run({{DoubleTapRow(2), L""}}), L"\\My Documents\\may.twsb");
 }
 
 TEST_F(FileNameDialogTest, UpLeavesTheListOnlyWhileNothingIsMarkedThere) {
-  driver.Then([] { Press(VK_UP); });
-  driver.Then([] {
-    EXPECT_EQ(GetFocus(), NameField());
-    Press(VK_DOWN);
-  });
-  driver.Then([] { Press(VK_DOWN); });
-  driver.Then([] {
-    EXPECT_EQ(MarkedRow(), 0);
-    Press(VK_UP);
-  });
-  driver.Then([] {
-    EXPECT_EQ(GetFocus(), List());
-    Press(VK_TAB);
-  });
-  driver.Then([] {
-    EXPECT_EQ(GetFocus(), NameField());
-    Press(VK_ESCAPE);
-  });
-  EXPECT_EQ(Run(), 0);
+  EXPECT_EQ(Run({{Key(VK_UP), L"first_: zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_DOWN), L"first: zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_DOWN), L"first: >zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_UP), L"first: >zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_TAB), L"first_: >zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_ESCAPE), L""}}),
+            L"");
 }
 
 TEST_F(FileNameDialogTest, AMarkedFileNamesItselfInAFieldThatIsFree) {
   request.initialName.clear();
-  driver.Then([] { TapRow(1); });
-  driver.Then([] {
-    EXPECT_EQ(CaptionOf(NameField()), L"april");
-    TapRow(2);
-  });
-  driver.Then([] {
-    EXPECT_EQ(CaptionOf(NameField()), L"may");
-    SetWindowTextW(NameField(), L"june");
-    TapRow(1);
-  });
-  driver.Then([] { TapLeftKey(); });
-  EXPECT_EQ(Run(), 1);
-  EXPECT_EQ(request.resultPath, L"\\My Documents\\june.twsb");
-}
-
-void ExpectLayout(bool hasExtension, const ScreenScale& scale) {
-  const RECT client = ClientRect(FrontDialog());
-  const FileNameLayout layout =
-      LayOutFileNameDialog(client.right, client.bottom, hasExtension, scale);
-  const auto expectPlace = [](HWND control, const DialogPlace& place) {
-    const RECT found = PlaceInDialog(control);
-    EXPECT_EQ(
-        (DialogPlace{found.left, found.top, found.right - found.left, found.bottom - found.top}),
-        place);
-  };
-  expectPlace(ControlOf(WC_STATICW, 0), layout.nameLabel);
-  expectPlace(NameField(), layout.nameField);
-  if (hasExtension) expectPlace(ControlOf(WC_EDITW, 1), layout.extensionField);
-  expectPlace(ControlOf(WC_STATICW, hasExtension ? 2 : 1), layout.folder);
-  expectPlace(List(), layout.list);
+  EXPECT_EQ(Run({{TapRow(1), L"april: zoo.twsb, >april.twsb, may.twsb"},
+                 {TapRow(2), L"may: zoo.twsb, april.twsb, >may.twsb"},
+                 {Type(L"june"), L""},
+                 {TapRow(1), L"june: zoo.twsb, >april.twsb, may.twsb"},
+                 {TapLeftKey, L""}}),
+            L"\\My Documents\\june.twsb");
 }
 
 TEST_F(FileNameDialogTest, LaysItsControlsOutForEveryScreen) {
-  driver.Then([this] {
-    ExpectLayout(true, scale);
-    SetWindowPos(FrontDialog(), nullptr, 0, 26, 240, 188, 0);
-  });
-  driver.Then([this] {
-    ExpectLayout(true, scale);
-    Press(VK_ESCAPE);
-  });
-  Run();
-
+  const auto expectLayout = [this] {
+    const bool hasExtension = !request.extension.empty();
+    const RECT client = ClientRect(FrontDialog());
+    const auto layout = LayOutFileNameDialog(client.right, client.bottom, hasExtension, scale);
+    const auto expectPlace = [](HWND control, const DialogPlace& wanted) {
+      const RECT found = PlaceInDialog(control);
+      const DialogPlace place{found.left, found.top, found.right - found.left,
+                              found.bottom - found.top};
+      EXPECT_EQ(place, wanted);
+    };
+    expectPlace(ControlOf(WC_STATICW, 0), layout.nameLabel);
+    expectPlace(NameField(), layout.nameField);
+    if (hasExtension) expectPlace(ControlOf(WC_EDITW, 1), layout.extensionField);
+    expectPlace(ControlOf(WC_STATICW, hasExtension ? 2 : 1), layout.folder);
+    expectPlace(List(), layout.list);
+  };
+  const auto turn = [] { SetWindowPos(FrontDialog(), nullptr, 0, 26, 240, 188, 0); };
+  Run({{expectLayout, L""}, {turn, L""}, {expectLayout, L""}, {Key(VK_ESCAPE), L""}});
   request.extension.clear();
-  driver.Then([this] {
-    ExpectLayout(false, scale);
-    Press(VK_ESCAPE);
-  });
-  Run();
+  Run({{expectLayout, L""}, {Key(VK_ESCAPE), L""}});
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "ui/path_dialog.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/memory/memory_machine.h"
@@ -11,28 +10,28 @@
 namespace tidewell {
 namespace {
 
-using testing::ElementsAre;
-
 HWND FolderLine() {
   return ControlOf(WC_STATICW);
 }
 
-HWND Note() {
-  return ControlOf(WC_STATICW, 1);
-}
-
-bool LeftKeyIsEnabled() {
-  return SendMessageW(SHFindMenuBar(FrontDialog()), TB_ISBUTTONENABLED, IDOK, 0) != 0;
+// The folder and its rows, the note in the list's place, and whether nothing can be selected.
+std::wstring Shown() {
+  std::wstring shown = CaptionOf(FolderLine()) + L":" + RowsShown();
+  const HWND note = ControlOf(WC_STATICW, 1);
+  if (IsWindowVisible(note)) shown += L" (" + CaptionOf(note) + L")";
+  const HWND bar = SHFindMenuBar(FrontDialog());
+  if (!SendMessageW(bar, TB_ISBUTTONENABLED, IDOK, 0)) shown += L" -";
+  return shown;
 }
 
 class PathDialogTest : public testing::Test {
  protected:
   PathDialogTest() {
-    memory.files.Put(L"\\My Documents\\Skins\\Blue\\");
-    memory.files.Put(L"\\My Documents\\Skins\\Red\\");
-    memory.files.Put(L"\\My Documents\\Sounds\\chime.wav");
-    memory.files.Put(L"\\My Documents\\Sounds\\bell.wav");
-    memory.files.Put(L"\\Windows\\");
+    for (const wchar_t* path :
+         {L"\\My Documents\\Skins\\Blue\\", L"\\My Documents\\Skins\\Red\\", L"\\Windows\\",
+          L"\\My Documents\\Sounds\\chime.wav", L"\\My Documents\\Sounds\\bell.wav"}) {
+      memory.files.Put(path);
+    }
   }
 
   std::optional<std::wstring> Folder(const std::wstring& present) {
@@ -46,82 +45,55 @@ class PathDialogTest : public testing::Test {
   Machine machine = memory.Door();
   ScreenScale scale{96, 96, false};
   DialogContext context{nullptr, machine, nullptr, scale};
-  DialogDriver driver;
+  DialogDriver driver{Shown};
 };
 
 TEST_F(PathDialogTest, IsWalkedWithKeysAlone) {
-  driver.Then([] {
-    EXPECT_EQ(CaptionOf(FrontDialog()), L"Select the skin folder");
-    EXPECT_EQ(CaptionOf(FolderLine()), L"My Device");
-    EXPECT_EQ(GetFocus(), List());
-    Press(VK_DOWN);
+  driver.Play({
+      {[] { EXPECT_EQ(CaptionOf(FrontDialog()), L"Select the skin folder"); },
+       L"My Device: My Documents, Windows"},
+      {Key(VK_DOWN), L"My Device: >My Documents, Windows"},
+      {Key(VK_RETURN), L"\\My Documents: Up one level, Skins, Sounds"},
+      {Key(VK_DOWN), L"\\My Documents: Up one level, >Skins, Sounds"},
+      {Key(VK_END), L"\\My Documents: Up one level, Skins, >Sounds"},
+      {Key(VK_RETURN), L"\\My Documents\\Sounds: Up one level (No entries)"},
+      {Key(VK_LEFT), L"\\My Documents: Up one level, Skins, >Sounds"},
+      {Key(VK_BACK), L"My Device: >My Documents, Windows"},
+      {Key(VK_DOWN), L"My Device: My Documents, >Windows"},
+      {TapLeftKey, L""},
   });
-  driver.Then([] { Press(VK_RETURN); });
-  driver.Then([] {
-    EXPECT_THAT(RowsOfList(), ElementsAre(L"Up one level", L"Skins", L"Sounds"));
-    EXPECT_EQ(MarkedRow(), -1);
-    Press(VK_DOWN);
-    Press(VK_DOWN);
-  });
-  driver.Then([] { Press(VK_RETURN); });
-  driver.Then([] {
-    EXPECT_EQ(CaptionOf(FolderLine()), L"\\My Documents\\Sounds");
-    EXPECT_EQ(CaptionOf(Note()), L"No entries");
-    EXPECT_TRUE(IsWindowVisible(Note()));
-    Press(VK_LEFT);
-  });
-  driver.Then([] {
-    EXPECT_FALSE(IsWindowVisible(Note()));
-    EXPECT_EQ(MarkedRow(), 2);
-    Press(VK_BACK);
-  });
-  driver.Then([] {
-    EXPECT_EQ(MarkedRow(), 0);
-    Press(VK_DOWN);
-  });
-  driver.Then([] { TapLeftKey(); });
   EXPECT_EQ(Folder(L""), L"\\Windows");
 }
 
 TEST_F(PathDialogTest, OneTapOpensAFolderAndTheSecondOfADoubleTapNothingMore) {
-  driver.Then([] { TapRow(1); });
-  driver.Then([] {
-    EXPECT_EQ(CaptionOf(FolderLine()), L"\\My Documents\\Skins");
-    TapRow(0);
-  });
-  driver.Then([] { DoubleTapRow(1); });
-  driver.Then([] {
-    EXPECT_EQ(CaptionOf(FolderLine()), L"\\My Documents\\Skins");
-    EXPECT_EQ(MarkedRow(), -1);
-    TapLeftKey();
+  driver.Play({
+      {TapRow(1), L"\\My Documents\\Skins: Up one level, Blue, Red"},
+      {TapRow(0), L"\\My Documents: Up one level, >Skins, Sounds"},
+      {DoubleTapRow(1), L"\\My Documents\\Skins: Up one level, Blue, Red"},
+      {TapLeftKey, L""},
   });
   EXPECT_EQ(Folder(L"\\My Documents"), L"\\My Documents\\Skins");
 }
 
 TEST_F(PathDialogTest, AFileIsMarkedByATapAndTakenByTheSoftKeyOrASecondTap) {
-  driver.Then([] {
-    EXPECT_FALSE(LeftKeyIsEnabled());
-    Press(VK_RETURN);
-    TapLeftKey();
-  });
-  driver.Then([] { TapRow(2); });
-  driver.Then([] {
-    EXPECT_TRUE(LeftKeyIsEnabled());
-    TapLeftKey();
+  driver.Play({
+      {Key(VK_RETURN), L"\\My Documents\\Sounds: Up one level, bell.wav, chime.wav -"},
+      {TapLeftKey, L"\\My Documents\\Sounds: Up one level, bell.wav, chime.wav -"},
+      {TapRow(2), L"\\My Documents\\Sounds: Up one level, bell.wav, >chime.wav"},
+      {TapLeftKey, L""},
   });
   EXPECT_EQ(File(L"\\My Documents\\Sounds"), L"\\My Documents\\Sounds\\chime.wav");
-
-  driver.Then([] {
-    EXPECT_EQ(MarkedRow(), 2);
-    DoubleTapRow(1);
+  driver.Play({
+      {nullptr, L"\\My Documents\\Sounds: Up one level, bell.wav, >chime.wav"},
+      {DoubleTapRow(1), L""},
   });
   EXPECT_EQ(File(L"\\My Documents\\Sounds\\chime.wav"), L"\\My Documents\\Sounds\\bell.wav");
 }
 
 TEST_F(PathDialogTest, IsCancelledByTheRightKeyAndByEscape) {
-  driver.Then([] { TapRightKey(); });
+  driver.Play({{TapRightKey, L""}});
   EXPECT_EQ(Folder(L"\\Windows"), std::nullopt);
-  driver.Then([] { Press(VK_ESCAPE); });
+  driver.Play({{Key(VK_ESCAPE), L""}});
   EXPECT_EQ(File(L"\\Windows"), std::nullopt);
 }
 
@@ -129,27 +101,32 @@ TEST_F(PathDialogTest, ShowsFiveThousandEntriesAndFindsOneByItsFirstLetters) {
   for (int i = 0; i < 5000; ++i) {
     memory.files.Put(L"\\Card\\" + FormatDecimal(10000 + i) + L".wav");
   }
-  driver.Then([] { Press(VK_END); });
-  driver.Then([] {
-    EXPECT_EQ(MarkedRow(), 5000);
+  const auto typeLetters = [] {
     for (const wchar_t letter : {L'1', L'2', L'3'}) PostMessageW(List(), WM_CHAR, letter, 1);
+  };
+  driver.Play({
+      {Key(VK_END), L"\\Card: >14999.wav"},
+      {typeLetters, L"\\Card: >12300.wav"},
+      {TapLeftKey, L""},
   });
-  driver.Then([] { TapLeftKey(); });
   EXPECT_EQ(File(L"\\Card"), L"\\Card\\12300.wav");
 }
 
 TEST_F(PathDialogTest, FillsWhateverScreenItIsTurnedToAndShowsTheEndOfALongPath) {
   const std::wstring longest = L"\\" + std::wstring(255, L'n') + L"\\Skins";
   memory.files.Put(longest + L"\\");
-  driver.Then([] { SetWindowPos(FrontDialog(), nullptr, 0, 0, 320, 188, 0); });
-  driver.Then([] {
-    EXPECT_EQ(CaptionOf(FolderLine()), L"...\\Skins");
+  const auto expectItFills = [] {
     const RECT list = PlaceInDialog(List());
     EXPECT_LE(PlaceInDialog(FolderLine()).bottom, list.top);
     EXPECT_EQ(list.right, 320);
     EXPECT_EQ(list.bottom, 188);
     EXPECT_EQ(ListView_GetColumnWidth(List(), 0), ClientRect(List()).right);
-    TapLeftKey();
+  };
+  driver.Play({
+      {[] { SetWindowPos(FrontDialog(), nullptr, 0, 0, 320, 188, 0); },
+       L"...\\Skins: Up one level (No entries)"},
+      {expectItFills, L""},
+      {TapLeftKey, L""},
   });
   EXPECT_EQ(Folder(longest), longest);
 }

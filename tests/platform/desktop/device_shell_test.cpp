@@ -3,8 +3,6 @@
 #include <aygshell.h>
 #include <gtest/gtest.h>
 
-#include <tuple>
-
 #include "platform/desktop/shell_look.h"
 #include "tests/support/window_support.h"
 
@@ -14,91 +12,75 @@ namespace {
 
 constexpr wchar_t kTitleStrip[] = L"DeviceTitleStrip";
 constexpr DWORD kCaptionOk = static_cast<DWORD>(WS_EX_CAPTIONOKBTN);
-constexpr RECT kDefaultPlace{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
 
 int StripHeight() {
   return ShellScale().ScaleY(kStripHeight);
 }
-LONG Width(const RECT& rect) {
-  return rect.right - rect.left;
-}
-LONG Height(const RECT& rect) {
-  return rect.bottom - rect.top;
-}
-auto Edges(const RECT& rect) {
-  return std::tuple(rect.left, rect.top, rect.right, rect.bottom);
-}
 
-RECT RightAbove(const RECT& rect) {
-  return {rect.left, rect.top - StripHeight(), rect.right, rect.top};
-}
-
-POINT OkButton(HWND strip) {
-  const RECT client = ClientRect(strip);
-  return {client.right - client.bottom / 2, client.bottom / 2};
+void ExpectSame(const RECT& found, const RECT& wanted) {
+  EXPECT_TRUE(EqualRect(&found, &wanted))
+      << found.left << " " << found.top << " " << found.right << " " << found.bottom;
 }
 
 class DeviceShellTest : public testing::Test {
  protected:
-  std::vector<int> Commands() const {
-    std::vector<int> commands;
-    for (const auto& message : window.messages) {
-      if (message.id == WM_COMMAND) commands.push_back(LOWORD(message.wParam));
-    }
-    return commands;
+  void ExpectStripAbove(const RECT& place) {
+    ExpectSame(WindowRect(strip), {place.left, place.top - StripHeight(), place.right, place.top});
+  }
+  void ExpectTapOnOkSends(const std::vector<int>& commands) {
+    Tap(strip, ok);
+    EXPECT_EQ(window.TakeCommands(), commands);
+  }
+  // Taller than wide, title strip and all; nothing for a square screen.
+  std::optional<bool> IsPortrait() {
+    const RECT place = WindowRect(window.Get());
+    const LONG height = place.bottom - place.top + StripHeight();
+    if (height == place.right - place.left) return std::nullopt;
+    return height > place.right - place.left;
   }
 
   // A program's main window, as a device's programs make it.
   TestWindow window{0x14000800, kCaptionOk, kDefaultPlace};
   HWND strip = FindStrip(window.Get(), kTitleStrip);
+  POINT ok{ClientRect(strip).right - ClientRect(strip).bottom / 2, ClientRect(strip).bottom / 2};
 };
 
-TEST_F(DeviceShellTest, AWindowOfDefaultPositionFillsTheScreenBelowItsTitle) {
-  const RECT place = WindowRect(window.Get());
+TEST_F(DeviceShellTest, AWindowOfDefaultPositionFillsTheScreenBelowItsTitleWithoutAFrame) {
   ASSERT_NE(strip, nullptr);
   EXPECT_TRUE(IsWindowVisible(strip));
-  EXPECT_EQ(Edges(WindowRect(strip)), Edges(RightAbove(place)));
+  const RECT place = WindowRect(window.Get());
+  ExpectStripAbove(place);
   RECT screen;
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
-  if (Width(screen) <= 640 && Height(screen) <= 640) {
-    screen.top += StripHeight();
-    EXPECT_EQ(Edges(place), Edges(screen));
-  } else {
-    EXPECT_EQ(Width(place), 480);
-    EXPECT_EQ(Height(place) + StripHeight(), 640);
-  }
-}
-
-TEST_F(DeviceShellTest, NoFrameOfTheDesktopIsLeft) {
-  EXPECT_EQ(Width(ClientRect(window.Get())), Width(WindowRect(window.Get())));
-  EXPECT_EQ(Height(ClientRect(window.Get())), Height(WindowRect(window.Get())));
+  screen.top += StripHeight();
+  ExpectSame(place, screen);
+  ExpectSame(ClientRect(window.Get()), {0, 0, screen.right, screen.bottom - screen.top});
   EXPECT_EQ(GetWindowLongW(window.Get(), GWL_STYLE) & (WS_CAPTION | WS_THICKFRAME), 0);
+
+  const TestWindow plain(WS_POPUP | WS_VISIBLE, 0, {10, 10, 60, 60});
+  EXPECT_EQ(FindStrip(plain.Get(), kTitleStrip), nullptr);
+  ExpectSame(WindowRect(plain.Get()), {10, 10, 60, 60});
 }
 
-TEST_F(DeviceShellTest, ATapOnOkSendsTheCommand) {
-  Tap(strip, OkButton(strip));
+TEST_F(DeviceShellTest, ATapOnTheTitlesButtonSendsItsCommand) {
+  ExpectTapOnOkSends({IDOK});
   Tap(strip, {5, 5});
-  EXPECT_EQ(Commands(), std::vector{IDOK});
-}
-
-TEST_F(DeviceShellTest, APressThatSlidesOffOkSendsNothing) {
-  PostMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(OkButton(strip).x, OkButton(strip).y));
+  PostMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(ok.x, ok.y));
   PostMessageW(strip, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
   PumpMessages();
-  EXPECT_TRUE(Commands().empty());
-}
-
-TEST_F(DeviceShellTest, ADisabledWindowHearsNoOk) {
+  EXPECT_TRUE(window.TakeCommands().empty()) << "beside it, or a press that slid off";
   EnableWindow(window.Get(), FALSE);
-  Tap(strip, OkButton(strip));
-  EXPECT_TRUE(Commands().empty());
+  ExpectTapOnOkSends({});
+  EnableWindow(window.Get(), TRUE);
+  EXPECT_TRUE(SHDoneButton(window.Get(), SHDB_HIDE));
+  ExpectTapOnOkSends({});
+  EXPECT_TRUE(SHDoneButton(window.Get(), SHDB_SHOWCANCEL));
+  ExpectTapOnOkSends({IDCANCEL});
 }
 
 TEST_F(DeviceShellTest, TheStripFollowsItsWindow) {
-  RECT smaller = WindowRect(window.Get());
-  InflateRect(&smaller, -20, -60);
-  MoveWindow(window.Get(), smaller.left, smaller.top, Width(smaller), Height(smaller), TRUE);
-  EXPECT_EQ(Edges(WindowRect(strip)), Edges(RightAbove(smaller)));
+  MoveWindow(window.Get(), 20, 90, 100, 80, TRUE);
+  ExpectStripAbove({20, 90, 120, 170});
   ShowWindow(window.Get(), SW_HIDE);
   EXPECT_FALSE(IsWindowVisible(strip));
   ShowWindow(window.Get(), SW_SHOW);
@@ -115,64 +97,34 @@ TEST_F(DeviceShellTest, TheStripShowsTheCaption) {
   SetWindowTextW(window.Get(), L"A caption");
   PumpMessages();
   const Screenshot shown(strip);
-  const int middle = empty.Width() / 2;
   bool changed = false;
   for (int y = 0; y < empty.Height(); ++y) {
-    for (int x = 0; x < middle; ++x) changed |= empty.At(x, y) != shown.At(x, y);
+    for (int x = 0; x < empty.Width() / 2; ++x) changed |= empty.At(x, y) != shown.At(x, y);
   }
   EXPECT_TRUE(changed);
 }
 
-TEST_F(DeviceShellTest, AWindowWithoutTheStyleIsLeftAlone) {
-  const TestWindow plain(WS_POPUP | WS_VISIBLE, 0, {10, 10, 60, 60});
-  EXPECT_EQ(FindStrip(plain.Get(), kTitleStrip), nullptr);
-  EXPECT_EQ(Edges(WindowRect(plain.Get())), Edges({10, 10, 60, 60}));
-}
-
 TEST_F(DeviceShellTest, TurningTheScreenTellsEveryWindowAndMovesIt) {
-  const RECT place = WindowRect(window.Get());
-  const TestWindow page(0x90000800, kCaptionOk, place, window.Get());
-  const LONG height = Height(place) + StripHeight();
-  if (height == Width(place)) GTEST_SKIP() << "a square screen looks the same when it is turned";
-  const bool wasPortrait = height > Width(place);
+  const TestWindow page(0x90000800, kCaptionOk, WindowRect(window.Get()), window.Get());
+  const std::optional<bool> wasPortrait = IsPortrait();
+  if (!wasPortrait) GTEST_SKIP() << "a square screen looks the same when it is turned";
   window.messages.clear();
 
   TurnScreen();
-  const RECT turned = WindowRect(window.Get());
-  const bool isPortrait = Height(turned) + StripHeight() > Width(turned);
-  EXPECT_NE(isPortrait, wasPortrait);
-  EXPECT_EQ(Edges(WindowRect(strip)), Edges(RightAbove(turned)));
-  EXPECT_EQ(Edges(WindowRect(page.Get())), Edges(turned));
+  EXPECT_EQ(IsPortrait(), !*wasPortrait);
+  ExpectStripAbove(WindowRect(window.Get()));
+  ExpectSame(WindowRect(page.Get()), WindowRect(window.Get()));
   EXPECT_EQ(window.Count(WM_SIZE), 1);
   int resets = 0;
   for (const auto& message : window.messages) {
     resets += message.id == WM_SETTINGCHANGE && message.wParam == SETTINGCHANGE_RESET;
   }
   EXPECT_EQ(resets, 1);
-
   TurnScreen();
   PumpMessages();
 }
 
-TEST_F(DeviceShellTest, AWindowBroughtForwardLeavesTheActivationWithItsPopup) {
-  const TestWindow page(0x90000800, kCaptionOk, WindowRect(window.Get()), window.Get());
-  SetActiveWindow(page.Get());
-  PumpMessages();
-  SetActiveWindow(window.Get());
-  PumpMessages();
-  EXPECT_EQ(GetActiveWindow(), page.Get());
-}
-
-TEST_F(DeviceShellTest, TheDoneButtonComesAndGoes) {
-  EXPECT_TRUE(SHDoneButton(window.Get(), SHDB_HIDE));
-  Tap(strip, OkButton(strip));
-  EXPECT_TRUE(Commands().empty());
-  EXPECT_TRUE(SHDoneButton(window.Get(), SHDB_SHOWCANCEL));
-  Tap(strip, OkButton(strip));
-  EXPECT_EQ(Commands(), std::vector{IDCANCEL});
-}
-
-TEST_F(DeviceShellTest, TheFocusReturnsToWhereItWas) {
+TEST_F(DeviceShellTest, ActivationGoesToThePopupAndFocusToWhereItWas) {
   const HWND edit = CreateWindowExW(0, L"edit", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20,
                                     window.Get(), nullptr, nullptr, nullptr);
   SHACTIVATEINFO info{};
@@ -182,6 +134,11 @@ TEST_F(DeviceShellTest, TheFocusReturnsToWhereItWas) {
   SetFocus(window.Get());
   SHHandleWMActivate(window.Get(), WA_ACTIVE, 0, &info, 0);
   EXPECT_EQ(GetFocus(), edit);
+
+  const TestWindow page(0x90000800, kCaptionOk, WindowRect(window.Get()), window.Get());
+  SetActiveWindow(window.Get());
+  PumpMessages();
+  EXPECT_EQ(GetActiveWindow(), page.Get());
 }
 
 INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) {
@@ -189,27 +146,24 @@ INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) {
 }
 
 TEST_F(DeviceShellTest, ADialogFillsTheScreenAsItAsksTo) {
-  struct {
+  const struct {
     DLGTEMPLATE header{WS_POPUP | WS_VISIBLE | WS_CAPTION, 0, 0, 0, 0, 10, 10};
     WORD menuClassTitle[3]{};
-  } const dialogTemplate;
-  struct Case {
-    DWORD flags;
-    bool hasBar;
-  };
-  for (const Case c :
-       {Case{SHIDIF_DONEBUTTON | SHIDIF_FULLSCREENNOMENUBAR, false},
-        Case{SHIDIF_DONEBUTTON | SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_EMPTYMENU, true}}) {
+  } dialogTemplate;
+  for (const bool hasBar : {false, true}) {
+    SCOPED_TRACE(hasBar);
     const HWND dialog =
         CreateDialogIndirectParamW(nullptr, &dialogTemplate.header, window.Get(), NoDialogProc, 0);
-    SHINITDLGINFO info{SHIDIM_FLAGS, dialog, c.flags};
+    const DWORD flags =
+        hasBar ? SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_EMPTYMENU : SHIDIF_FULLSCREENNOMENUBAR;
+    SHINITDLGINFO info{SHIDIM_FLAGS, dialog, SHIDIF_DONEBUTTON | flags};
     EXPECT_TRUE(SHInitDialog(&info));
     RECT wanted = WindowRect(window.Get());
-    if (c.hasBar) wanted.bottom -= StripHeight();
-    EXPECT_EQ(Edges(WindowRect(dialog)), Edges(wanted)) << c.flags;
-    EXPECT_EQ(Width(ClientRect(dialog)), Width(wanted)) << c.flags;
-    EXPECT_NE(FindStrip(dialog, kTitleStrip), nullptr) << c.flags;
-    EXPECT_EQ(SHFindMenuBar(dialog) != nullptr, c.hasBar) << c.flags;
+    if (hasBar) wanted.bottom -= StripHeight();
+    ExpectSame(WindowRect(dialog), wanted);
+    EXPECT_EQ(ClientRect(dialog).right, wanted.right - wanted.left) << "no frame";
+    EXPECT_NE(FindStrip(dialog, kTitleStrip), nullptr);
+    EXPECT_EQ(SHFindMenuBar(dialog) != nullptr, hasBar);
     DestroyWindow(dialog);
   }
 }

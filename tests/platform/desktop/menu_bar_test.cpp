@@ -14,6 +14,7 @@ namespace {
 constexpr UINT kSampleBar = 100;
 constexpr UINT kBrokenBar = 103;
 constexpr UINT kMenuOnly = 104;
+constexpr UINT kAbsentBar = 9999;
 
 class MenuBarTest : public testing::Test {
  protected:
@@ -27,57 +28,38 @@ class MenuBarTest : public testing::Test {
     return SHCreateMenuBar(&info) ? info.hwndMB : nullptr;
   }
 
-  // The command that a tap on a key has sent since the last call; 0 for none.
+  // The command that a tap on a key sends; 0 for none.
   int TapKey(HWND bar, bool right) {
-    window.messages.clear();
     const RECT client = ClientRect(bar);
     Tap(bar, {right ? client.right * 3 / 4 : client.right / 4, client.bottom / 2});
-    for (const auto& message : window.messages) {
-      if (message.id == WM_COMMAND) return LOWORD(message.wParam);
-    }
-    return 0;
+    const std::vector<int> commands = window.TakeCommands();
+    return commands.empty() ? 0 : commands.front();
   }
 
   TestWindow window{0x90000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), {0, 60, 200, 200}};
 };
 
-TEST_F(MenuBarTest, LiesAlongTheBottomOfTheScreen) {
-  const TestWindow full(0x14000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN),
-                        {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0});
-  const HWND bar = CreateBar(0, SHCMBF_EMPTYBAR);
-  const RECT place = WindowRect(bar);
-  const RECT screen = WindowRect(full.Get());
-  EXPECT_EQ(place.left, screen.left);
-  EXPECT_EQ(place.right, screen.right);
-  EXPECT_EQ(place.bottom, screen.bottom);
-  EXPECT_EQ(place.bottom - place.top, ShellScale().ScaleY(26));
-  EXPECT_TRUE(IsWindowVisible(bar));
-  EXPECT_EQ(SHFindMenuBar(window.Get()), bar);
-}
-
-TEST_F(MenuBarTest, KeysComeFromTheResource) {
-  const HWND bar = CreateBar(kSampleBar);
-  EXPECT_EQ(TapKey(bar, false), 11);
-  const auto popup = reinterpret_cast<HMENU>(SendMessageW(bar, SHCMBM_GETSUBMENU, 0, 12));
-  ASSERT_EQ(GetMenuItemCount(popup), 2);
-  EXPECT_EQ(GetMenuItemID(popup, 1), 22u);
-}
-
-TEST_F(MenuBarTest, ABarMayBeAMenu) {
-  const HWND bar = CreateBar(kMenuOnly, SHCMBF_HMENU);
-  EXPECT_EQ(TapKey(bar, false), 31);
-  EXPECT_EQ(GetMenuItemCount(reinterpret_cast<HMENU>(SendMessageW(bar, SHCMBM_GETMENU, 0, 0))), 2);
-}
-
-TEST_F(MenuBarTest, BarsWithoutKeysSendNothing) {
+TEST_F(MenuBarTest, KeysComeFromTheResourceOrAMenu) {
   const struct {
     UINT id;
     DWORD flags;
-  } cases[] = {{kSampleBar, SHCMBF_EMPTYBAR}, {kBrokenBar, 0}, {9999, 0}, {9999, SHCMBF_HMENU}};
+    int leftCommand;
+    UINT popup;
+  } cases[] = {
+      {kSampleBar, 0, 11, 12},
+      {kMenuOnly, SHCMBF_HMENU, 31, 0},
+      {kSampleBar, SHCMBF_EMPTYBAR, 0, 0},
+      {kBrokenBar, 0, 0, 0},
+      {kAbsentBar, 0, 0, 0},
+      {kAbsentBar, SHCMBF_HMENU, 0, 0},
+  };
   for (const auto& c : cases) {
     const HWND bar = CreateBar(c.id, c.flags);
     ASSERT_NE(bar, nullptr) << c.id;
-    EXPECT_EQ(TapKey(bar, false), 0) << c.id;
+    EXPECT_EQ(TapKey(bar, false), c.leftCommand) << c.id;
+    const auto popup = reinterpret_cast<HMENU>(SendMessageW(bar, SHCMBM_GETSUBMENU, 0, c.popup));
+    EXPECT_EQ(GetMenuItemCount(popup), c.popup ? 2 : -1) << c.id;
+    if (c.leftCommand != 0) continue;
     EXPECT_EQ(TapKey(bar, true), 0) << c.id;
   }
 }
@@ -100,20 +82,23 @@ TEST_F(MenuBarTest, KeysAreChangedByAToolbarsMessages) {
 
 TEST_F(MenuBarTest, AKeyOpensItsMenuAndTheChoiceIsACommand) {
   const HWND bar = CreateBar(kSampleBar);
-  bool opened = false;
   const InModalLoop choose([&] {
-    const HWND menu = FindOwnWindow(L"#32768");
-    opened = menu != nullptr;
+    EXPECT_NE(FindOwnWindow(L"#32768"), nullptr);
     PostMessageW(window.Get(), WM_KEYDOWN, VK_DOWN, 1);
     PostMessageW(window.Get(), WM_KEYDOWN, VK_RETURN, 1);
   });
   EXPECT_EQ(TapKey(bar, true), 21);
-  EXPECT_TRUE(opened);
-  EXPECT_EQ(window.Count(WM_INITMENUPOPUP), 1);
 }
 
-TEST_F(MenuBarTest, HidesWithItsWindowAndEndsWithIt) {
+TEST_F(MenuBarTest, LiesAtTheBottomOfTheScreenHidesWithItsWindowAndEndsWithIt) {
+  const TestWindow full(0x14000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kDefaultPlace);
   const HWND bar = CreateBar(kSampleBar);
+  RECT wanted = WindowRect(full.Get());
+  wanted.top = wanted.bottom - ShellScale().ScaleY(26);
+  const RECT place = WindowRect(bar);
+  EXPECT_TRUE(EqualRect(&place, &wanted));
+  EXPECT_TRUE(IsWindowVisible(bar));
+  EXPECT_EQ(SHFindMenuBar(window.Get()), bar);
   ShowWindow(window.Get(), SW_HIDE);
   EXPECT_FALSE(IsWindowVisible(bar));
   DestroyWindow(window.Get());

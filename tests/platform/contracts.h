@@ -1,0 +1,43 @@
+// What every registry and every file system must do, whoever answers. Each program of tests gives
+// its own answers: the twins in memory, or the system's.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/registry.h"
+
+namespace tidewell {
+
+// Files with an empty folder for one test, removed at the end, and the deeds of others.
+class FilesUnderTest {
+ public:
+  virtual ~FilesUnderTest() = default;
+  virtual Files& Door() = 0;
+  virtual std::wstring Folder() const = 0;
+  // Another program holds the file and shares it with nobody, until the result is gone.
+  virtual std::shared_ptr<void> Lock(const std::wstring& path) = 0;
+  virtual void MakeReadOnly(const std::wstring& path) = 0;
+};
+
+template <typename UnderTest>
+struct Answer {
+  const char* name;
+  std::function<std::shared_ptr<UnderTest>()> make;
+};
+
+template <typename UnderTest>
+void PrintTo(const Answer<UnderTest>& answer, std::ostream* out) {
+  *out << answer.name;
+}
+
+std::vector<Answer<Registry>> RegistryAnswers();
+std::vector<Answer<FilesUnderTest>> FilesAnswers();
+
+}  // namespace tidewell
