@@ -7,39 +7,27 @@ namespace tidewell {
 
 namespace {
 
-TEST_F(ProgramTest, ListsTheGroupsInOrder) {
-  Start();
-  const struct {
-    int command;
-    const wchar_t* caption;
-  } expected[] = {{0, L"text 617"},       {1, L"text 618"},  {2, L"text 619"},  {3, L"text 1259"},
-                  {4, L"text 1432"},      {5, L"text 1260"}, {6, L"text 620"},  {7, L"text 621"},
-                  {8, L"text 622"},       {9, L"text 624"},  {10, L"text 625"}, {11, L"text 626"},
-                  {12, L"About Tidewell"}};
-  const auto& entries = program->List().Entries();
-  ASSERT_EQ(entries.size(), std::size(expected));
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    EXPECT_EQ(entries[i].command, expected[i].command);
-    EXPECT_EQ(entries[i].caption, expected[i].caption);
-  }
-  EXPECT_EQ(program->List().Selected(), 0u);
-  EXPECT_EQ(program->Bar().Command(CommandBar::kLeftSlot), 0);
-  EXPECT_EQ(program->Bar().Command(CommandBar::kRightSlot), 1);
-}
-
-TEST_F(ProgramTest, IsFoundByItsClassAndCaptionAndHasADevicesStyle) {
+TEST_F(ProgramTest, ListsTheGroupsInOrderInAWindowOfADevicesStyle) {
   Start();
   EXPECT_EQ(FindWindowW(L"TW_OPTIONS", L"TW Options"), Window());
   EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(Window(), GWL_STYLE)), 0x14000800u);
   EXPECT_NE(static_cast<DWORD>(GetWindowLongW(Window(), GWL_EXSTYLE)) & 0x80000000u, 0u);
+  EXPECT_EQ(Captions(), (std::vector<std::wstring>{
+                            L"text 617", L"text 618", L"text 619", L"text 1259", L"text 1432",
+                            L"text 1260", L"text 620", L"text 621", L"text 622", L"text 624",
+                            L"text 625", L"text 626", L"About Tidewell"}));
+  EXPECT_EQ(Commands(), (std::vector{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
+  EXPECT_EQ(program->List().Selected(), 0u);
+  EXPECT_EQ(program->Bar().Command(CommandBar::kLeftSlot), 0);
+  EXPECT_EQ(program->Bar().Command(CommandBar::kRightSlot), 1);
 }
 
 TEST_F(ProgramTest, WithoutLibrariesTheListStillWorks) {
   SetDword(L"MyVgaMode", 0);
   device.libraries = MemoryLibraries();
   Start();
-  EXPECT_EQ(program->List().Entries()[0].caption, L"");
-  EXPECT_EQ(program->List().Entries()[12].caption, L"About Tidewell");
+  EXPECT_EQ(Captions().front(), L"");
+  EXPECT_EQ(Captions().back(), L"About Tidewell");
   TapBar(true);
   EXPECT_EQ(Commands(), (std::vector{21, 22, 23}));
   answer = IDYES;
@@ -67,21 +55,17 @@ TEST_F(ProgramTest, TheListFillsTheWindowAboveTheBar) {
 TEST_F(ProgramTest, ToolsComeAndGoByTheBar) {
   Start();
   TapBar(true);
-  const auto& entries = program->List().Entries();
   ASSERT_EQ(Commands(), (std::vector{21, 22, 23}));
-  EXPECT_EQ(entries[0].caption, L"Export Settings");
-  EXPECT_EQ(entries[1].caption, L"Import Settings");
-  EXPECT_EQ(entries[2].caption, L"Exit Settings");
+  EXPECT_EQ(Captions(),
+            (std::vector<std::wstring>{L"Export Settings", L"Import Settings", L"Exit Settings"}));
   EXPECT_EQ(program->Bar().Command(CommandBar::kLeftSlot), std::nullopt);
   EXPECT_EQ(program->Bar().Command(CommandBar::kRightSlot), 2);
   TapBar(false);
   ASSERT_TRUE(IsOpen()) << "the left button is gone";
   TapBar(true);
   EXPECT_EQ(Commands().size(), 13u);
-}
 
-TEST_F(ProgramTest, TheSoftKeysPressTheBar) {
-  Start();
+  // The soft keys press the bar.
   SendMessageW(Window(), WM_COMMAND, ID_RIGHT_BUTTON, 0);
   EXPECT_EQ(Commands().size(), 3u);
   SendMessageW(Window(), WM_COMMAND, ID_LEFT_BUTTON, 0);
@@ -109,16 +93,15 @@ class DoneTest : public ProgramTest {
 };
 
 TEST_F(DoneTest, SavesTellsTheItemAndEnds) {
-  const auto done = [](ProgramTest&, HWND window) { SendMessageW(window, WM_COMMAND, IDOK, 0); };
-  const auto tap = [](ProgramTest&, HWND window) {
-    Tap(window, {5, ClientRect(window).bottom - 5});
-  };
-  for (const auto& way : {std::function<void(ProgramTest&, HWND)>(done),
-                          std::function<void(ProgramTest&, HWND)>(tap)}) {
+  for (const bool byTap : {false, true}) {
     heard.clear();
     Start();
     program->Settings().root.OnClick.Set(program->Settings().root.OnClick.Value() + 1);
-    way(*this, Window());
+    if (byTap) {
+      TapBar(false);
+    } else {
+      SendMessageW(Window(), WM_COMMAND, IDOK, 0);
+    }
     EXPECT_FALSE(IsOpen());
     PumpMessages();
     EXPECT_EQ(heard, (std::vector<std::pair<WPARAM, LPARAM>>{{0, 0}}));
@@ -172,20 +155,14 @@ TEST_F(DoneTest, ADragThatEndsOverTheBarIsNoTapOnIt) {
   EXPECT_TRUE(IsOpen());
 }
 
-TEST_F(ProgramTest, AGroupWithoutAPageLeavesTheListAsItIs) {
+TEST_F(ProgramTest, EachGroupOpensItsPage) {
   Start();
   RunRow(3);
-  EXPECT_EQ(pagesAsked, std::vector{3});
-  EXPECT_EQ(CaptionOf(Window()), L"TW Options");
+  EXPECT_EQ(CaptionOf(Window()), L"TW Options") << "a group without a page changes nothing";
   EXPECT_EQ(Commands().size(), 13u);
-}
-
-TEST_F(ProgramTest, EachGroupOpensItsPage) {
   hasPages = true;
-  Start();
   for (int row = 0; row < 12; ++row) {
-    SelectRow(row);
-    PressKey(Window(), VK_RETURN);
+    RunRow(row);
     ASSERT_EQ(pagesAsked.back(), row);
     EXPECT_EQ(captionsSeen.back(), L"") << "the host's caption is empty before the page is made";
     EXPECT_EQ(CaptionOf(Window()), L"");
@@ -208,14 +185,11 @@ TEST_F(DoneTest, DoneClosesAPageFirst) {
   EXPECT_FALSE(IsOpen());
   PumpMessages();
   EXPECT_EQ(heard.size(), 1u);
-}
 
-TEST_F(ProgramTest, APageStillOpenGoesWithTheWindow) {
-  hasPages = true;
   Start();
   RunRow(0);
   DestroyWindow(Window());
-  EXPECT_EQ(pagesDestroyed, 1);
+  EXPECT_EQ(pagesDestroyed, 2) << "a page still open goes with the window";
 }
 
 TEST_F(DoneTest, ABackupGoesOutAndComesBack) {

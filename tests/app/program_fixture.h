@@ -12,6 +12,7 @@
 #include "platform/memory/memory_machine.h"
 #include "platform/memory/metered_registry.h"
 #include "tests/support/catalog_support.h"
+#include "tests/support/registry_support.h"
 #include "tests/support/window_support.h"
 
 namespace tidewell {
@@ -37,9 +38,10 @@ class ProgramTest : public testing::Test {
   }
 
   void Start() {
-    program = std::make_unique<MainWindow>(
-        GetModuleHandleW(nullptr),
-        Machine{registry, device.files, device.locale, device.libraries, device.system}, Parts());
+    StartOn({registry, device.files, device.locale, device.libraries, device.system}, Parts());
+  }
+  void StartOn(Machine machine, MainWindowParts parts) {
+    program = std::make_unique<MainWindow>(GetModuleHandleW(nullptr), machine, std::move(parts));
     ASSERT_TRUE(program->Create());
     PumpMessages();
   }
@@ -60,14 +62,11 @@ class ProgramTest : public testing::Test {
   }
 
   void SetDword(const std::wstring& name, std::uint32_t value) {
-    const auto key = device.registry.Create(RegistryRoot::kCurrentUser, kRootKey);
-    key->Set(name, kTypeDword, std::as_bytes(std::span(&value, 1)));
+    tidewell::SetDword(device.registry, RegistryRoot::kCurrentUser, kRootKey, name, value);
   }
   bool HasValue(const std::wstring& name, const wchar_t* subkey = L"") {
-    ValueInfo info;
-    const auto key =
-        device.registry.Open(RegistryRoot::kCurrentUser, std::wstring(kRootKey) + subkey);
-    return key && key->Query(name, {}, info) == kStatusSuccess;
+    const std::wstring key = std::wstring(kRootKey) + subkey;
+    return FindDword(device.registry, RegistryRoot::kCurrentUser, key, name).has_value();
   }
 
   HWND Window() const { return program->Window(); }
@@ -76,18 +75,21 @@ class ProgramTest : public testing::Test {
     const RECT client = ClientRect(Window());
     Tap(Window(), {right ? client.right - 5 : 5, client.bottom - 5});
   }
-  void SelectRow(int row) {
+  void RunRow(int row) {
     for (int i = 0; i < 13; ++i) PressKey(Window(), VK_UP);
     for (int i = 0; i < row; ++i) PressKey(Window(), VK_DOWN);
-  }
-  void RunRow(int row) {
-    SelectRow(row);
     PressKey(Window(), VK_RETURN);
   }
   std::vector<int> Commands() const {
     std::vector<int> commands;
     for (const auto& entry : program->List().Entries()) commands.push_back(entry.command);
     return commands;
+  }
+
+  std::vector<std::wstring> Captions() const {
+    std::vector<std::wstring> captions;
+    for (const auto& entry : program->List().Entries()) captions.push_back(entry.caption);
+    return captions;
   }
 
   // A page is a bare window over its host; none unless a test wants pages.

@@ -1,4 +1,5 @@
 // In which order the program asks the machine for things when it starts, and lets go of them.
+#include "app/single_instance.h"
 #include "program_fixture.h"
 
 namespace tidewell {
@@ -51,17 +52,13 @@ class JournalSystem final : public System {
 
 class StartOrderTest : public ProgramTest {
  protected:
-  std::unique_ptr<MainWindow> StartWithJournal() {
+  void StartWithJournal() {
     MainWindowParts parts = Parts();
     parts.openCategories = [this](const std::wstring& icons) {
       journal.push_back(L"categories " + icons);
       return std::make_unique<ListedCategories>(categories);
     };
-    auto started = std::make_unique<MainWindow>(
-        GetModuleHandleW(nullptr),
-        Machine{registry, device.files, device.locale, libraries, system}, std::move(parts));
-    EXPECT_TRUE(started->Create());
-    return started;
+    StartOn({registry, device.files, device.locale, libraries, system}, std::move(parts));
   }
 
   Journal journal;
@@ -72,31 +69,60 @@ class StartOrderTest : public ProgramTest {
 TEST_F(StartOrderTest, ScaleSettingsLibrariesCategoriesAndEverythingIsFreedInOrder) {
   const std::wstring english = kEnglishLibrary;
   const std::wstring pictures = L"\\Program Files\\Velmont\\Tidewell\\LowDpiRes.dll";
-  auto started = StartWithJournal();
+  StartWithJournal();
   // MyVgaMode is read alone, through a key of its own, before the screen's scale is fixed.
   EXPECT_EQ(journal, (Journal{L"screen after 1 key", L"load " + english, L"load " + pictures,
                               L"categories \\Program Files\\Velmont\\Tidewell\\CategoryIcons"}));
   journal.clear();
-  DestroyWindow(started->Window());
+  DestroyWindow(Window());
   EXPECT_EQ(journal, (Journal{L"free " + english, L"free " + pictures}));
   EXPECT_TRUE(PumpMessages()) << "the message loop ends";
 }
 
 TEST_F(StartOrderTest, TheScreenChoosesTheResolutionLibrary) {
-  struct Case {
+  const struct {
     int dpi;
     std::uint32_t vgaMode;
     const wchar_t* library;
-  };
-  for (const Case& c : {Case{96, 0, L"LowDpiRes.dll"}, Case{131, 0, L"LowDpiRes.dll"},
-                        Case{144, 0, L"HighDpiRes.dll"}, Case{192, 0, L"HighDpiRes.dll"},
-                        Case{96, 1, L"HighDpiRes.dll"}}) {
+  } cases[] = {{131, 0, L"LowDpiRes.dll"}, {144, 0, L"HighDpiRes.dll"}, {96, 1, L"HighDpiRes.dll"}};
+  for (const auto& c : cases) {
     system.screen.dpiX = system.screen.dpiY = c.dpi;
     SetDword(L"MyVgaMode", c.vgaMode);
     journal.clear();
     StartWithJournal();
     EXPECT_TRUE(journal.at(2).ends_with(c.library)) << c.dpi << " " << c.vgaMode;
+    program.reset();
   }
+}
+
+TEST_F(ProgramTest, ARunningInstanceIsFoundAlsoWhileAPageHasTakenItsCaption) {
+  EXPECT_FALSE(BringRunningInstanceForward());
+  hasPages = true;
+  Start();
+  EXPECT_TRUE(BringRunningInstanceForward());
+  RunRow(0);
+  ASSERT_EQ(CaptionOf(Window()), L"");
+  EXPECT_TRUE(BringRunningInstanceForward());
+}
+
+// Waits for its turn on a thread of its own, as a second process would.
+DWORD WINAPI TryToStart(void* started) {
+  StartTurn turn;
+  SetEvent(static_cast<HANDLE>(started));
+  return 0;
+}
+
+TEST(StartTurn, StartsGoOneAfterTheOther) {
+  const HANDLE started = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  StartTurn first;
+  ASSERT_TRUE(first.IsOurs());
+  const HANDLE thread = CreateThread(nullptr, 0, TryToStart, started, 0, nullptr);
+  EXPECT_EQ(WaitForSingleObject(started, 20), static_cast<DWORD>(WAIT_TIMEOUT));
+  first.End();
+  EXPECT_EQ(WaitForSingleObject(started, 5000), WAIT_OBJECT_0);
+  WaitForSingleObject(thread, 5000);
+  CloseHandle(thread);
+  CloseHandle(started);
 }
 
 }  // namespace

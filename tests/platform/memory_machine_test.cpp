@@ -70,6 +70,13 @@ TEST(MeteredRegistry, FailsTheCallsItIsToldTo) {
   registry.Meter().FailEvery(RegistryCall::kSet);
   EXPECT_EQ(setThree(), "[Key]\n");
   EXPECT_EQ(setThree(), "[Key]\n1 = 0\n2 = 0\n3 = 0\n");
+
+  registry.SetFailure(kStatusMoreData);
+  const auto key = registry.Create(RegistryRoot::kCurrentUser, L"Key");
+  registry.Meter().FailFrom(1);
+  EXPECT_EQ(key->DeleteValue(L"1"), kStatusMoreData);
+  EXPECT_EQ(registry.DeleteTree(RegistryRoot::kCurrentUser, L"Key"), kStatusMoreData);
+  EXPECT_TRUE(memory.Open(RegistryRoot::kCurrentUser, L"Key"));
 }
 
 TEST(MeteredFiles, FailsEveryKindOfCallAndLeavesTheFilesAlone) {
@@ -95,6 +102,7 @@ TEST(MeteredFiles, FailsEveryKindOfCallAndLeavesTheFilesAlone) {
   EXPECT_EQ(memory.Contents(L"\\file")->size(), 4u);
   EXPECT_EQ(memory.Contents(L"\\other")->size(), 0u);
   EXPECT_FALSE(memory.Find(L"\\folder"));
+  EXPECT_TRUE(memory.Remove(L"\\other")) << "closed all the same";
 }
 
 // What stood in the file's place and what an earlier attempt left beside it; the disk has room for

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/utf8.h"
+
 namespace tidewell {
 
 struct LibraryCloser {
@@ -25,13 +27,6 @@ inline std::wstring Widen(const std::string& utf8) {
   return text;
 }
 
-inline std::string Narrow(const std::wstring& text) {
-  std::string utf8(text.size() * 3, '\0');
-  utf8.resize(size_t(WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), utf8.data(),
-                                         int(utf8.size()), nullptr, nullptr)));
-  return utf8;
-}
-
 // `name` is relative to the install folder.
 inline Library OpenLibrary(const std::string& name) {
   return Library(LoadLibraryW(Widen(INSTALL_FOLDER "/" + name).c_str()));
@@ -44,7 +39,7 @@ inline std::vector<std::string> LanguageLibraryNames() {
   const HANDLE search = FindFirstFileW(Widen(INSTALL_FOLDER "/LangRes/*.dll").c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return names;
   do {
-    names.push_back(Narrow(found.cFileName));
+    names.push_back(Utf8(found.cFileName));
   } while (FindNextFileW(search, &found));
   FindClose(search);
   return names;

@@ -4,6 +4,7 @@
 #include <set>
 #include <sstream>
 
+#include "platform/gdi.h"
 #include "tests/resources/library.h"
 
 namespace tidewell {
@@ -38,44 +39,22 @@ std::vector<Place> ReadPlaces() {
 
 constexpr int kTabChrome = 14;
 
-// Text widths in Tahoma, 12 pixels high, as every page has it at 96 dots per inch.
-class Ruler {
- public:
-  Ruler() : dc_(CreateCompatibleDC(nullptr)) {}
-  Ruler(const Ruler&) = delete;
-  Ruler& operator=(const Ruler&) = delete;
-  ~Ruler() {
-    DeleteDC(dc_);
-    for (const HFONT font : fonts_) DeleteObject(font);
-  }
-
-  int Width(const std::wstring& text, bool isBold) {
-    SelectObject(dc_, fonts_[isBold]);
-    SIZE size{};
-    GetTextExtentPoint32W(dc_, text.data(), int(text.size()), &size);
-    return size.cx;
-  }
-  std::wstring Face() {
-    SelectObject(dc_, fonts_[0]);
-    wchar_t face[LF_FACESIZE] = L"";
-    GetTextFaceW(dc_, LF_FACESIZE, face);
-    return face;
-  }
-
- private:
-  static HFONT Tahoma(int weight) {
-    return CreateFontW(12, 0, 0, 0, weight, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma");
-  }
-
-  HDC dc_;
-  HFONT fonts_[2] = {Tahoma(0), Tahoma(700)};
-};
-
+// Measures in Tahoma, 12 pixels high, as every page has it at 96 dots per inch.
 class TextFit : public testing::TestWithParam<std::string> {
  protected:
-  void SetUp() override { ASSERT_EQ(ruler_.Face(), L"Tahoma"); }
+  int Width(const std::wstring& text, bool isBold) {
+    const WindowDc dc(nullptr);
+    const Font font(
+        CreateFontW(12, 0, 0, 0, isBold ? FW_BOLD : FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma"));
+    const Selected selected(dc.Dc(), font.Get());
+    wchar_t face[LF_FACESIZE] = L"";
+    GetTextFaceW(dc.Dc(), LF_FACESIZE, face);
+    EXPECT_STREQ(face, L"Tahoma");
+    SIZE size{};
+    GetTextExtentPoint32W(dc.Dc(), text.data(), int(text.size()), &size);
+    return size.cx;
+  }
 
-  Ruler ruler_;
   const std::map<int, std::wstring> texts_ = TextsOf(OpenLibrary("LangRes/" + GetParam()));
 };
 INSTANTIATE_TEST_SUITE_P(Every, TextFit, testing::ValuesIn(LanguageLibraryNames()), BareName);
@@ -87,14 +66,14 @@ TEST_P(TextFit, EveryTextHasAPlaceAndFitsIt) {
     int rowWidth = 0;
     for (const int id : place.ids) {
       placed.insert(id);
-      const int width = ruler_.Width(texts_.at(id), place.isBold);
+      const int width = Width(texts_.at(id), place.isBold);
       rowWidth += width + kTabChrome;
       EXPECT_LE(isRow ? rowWidth : width, place.width)
-          << place.name << ": " << id << " " << Narrow(texts_.at(id));
+          << place.name << ": " << id << " " << Utf8(texts_.at(id));
     }
   }
   for (const auto& [id, text] : texts_) {
-    EXPECT_EQ(placed.count(id), 1u) << id << " " << Narrow(text) << " is shown nowhere";
+    EXPECT_EQ(placed.count(id), 1u) << id << " " << Utf8(text) << " is shown nowhere";
   }
 }
 
