@@ -1,6 +1,7 @@
 #include "tests/support/registry_support.h"
 
-#include <algorithm>
+#include <map>
+#include <set>
 
 #include "platform/text.h"
 #include "tests/support/utf8.h"
@@ -50,22 +51,16 @@ std::string Hex(std::span<const std::byte> data) {
   return text;
 }
 
-std::string Render(const EnumeratedValue& value) {
-  if (value.type == kTypeDword && value.data.size() == 4) {
-    return std::to_string(NumberOf(value.data));
+std::string Render(std::uint32_t type, std::span<const std::byte> data) {
+  if (type == kTypeDword && data.size() == 4) return std::to_string(NumberOf(data));
+  if (type == kTypeString && IsProperString(data)) {
+    return '"' + Utf8(TextOfBytes(data.first(data.size() - 2))) + '"';
   }
-  if (value.type == kTypeString && IsProperString(value.data)) {
-    const std::wstring text = TextOfBytes(value.data);
-    return '"' + Utf8(std::wstring_view(text).substr(0, text.size() - 1)) + '"';
-  }
-  if (value.type == kTypeDword) return "dword" + Hex(value.data);
-  if (value.type == kTypeString) return "string" + Hex(value.data);
-  if (value.type == kTypeBinary) return "binary" + Hex(value.data);
-  return "type " + std::to_string(value.type) + Hex(value.data);
-}
-
-bool ComesBefore(const std::wstring& left, const std::wstring& right) {
-  return CompareFolded(left, right) < 0;
+  const std::string name = type == kTypeDword    ? "dword"
+                           : type == kTypeString ? "string"
+                           : type == kTypeBinary ? "binary"
+                                                 : "type " + std::to_string(type);
+  return name + Hex(data);
 }
 
 }  // namespace
@@ -112,24 +107,26 @@ std::optional<std::wstring> FindString(Registry& registry, RegistryRoot root,
 std::string DumpTree(Registry& registry, RegistryRoot root, const std::wstring& path) {
   const auto key = registry.Open(root, path);
   if (!key) return {};
-  std::vector<EnumeratedValue> values;
+  struct FoldedOrder {
+    bool operator()(const std::wstring& left, const std::wstring& right) const {
+      return CompareFolded(left, right) < 0;
+    }
+  };
+  std::map<std::wstring, std::string, FoldedOrder> values;
   EnumeratedValue value;
   for (std::uint32_t i = 0;
        key->EnumValue(i, kNameCapacity, kDataCapacity, value) == kStatusSuccess; ++i) {
-    values.push_back(value);
+    values.emplace(value.name, Render(value.type, value.data));
   }
-  std::vector<std::wstring> subkeys;
+  std::set<std::wstring, FoldedOrder> subkeys;
   std::wstring name;
   for (std::uint32_t i = 0; key->EnumSubkey(i, kNameCapacity, name) == kStatusSuccess; ++i) {
-    subkeys.push_back(name);
+    subkeys.insert(name);
   }
-  std::sort(values.begin(), values.end(),
-            [](const auto& left, const auto& right) { return ComesBefore(left.name, right.name); });
-  std::sort(subkeys.begin(), subkeys.end(), ComesBefore);
 
   std::string text = '[' + Utf8(path) + "]\n";
-  for (const auto& each : values) text += Utf8(each.name) + " = " + Render(each) + '\n';
-  for (const auto& each : subkeys) {
+  for (const auto& [each, data] : values) text += Utf8(each) + " = " + data + '\n';
+  for (const std::wstring& each : subkeys) {
     text += DumpTree(registry, root, path.empty() ? each : JoinPath(path, each));
   }
   return text;

@@ -4,40 +4,21 @@
 
 namespace tidewell {
 
-namespace {
-
-bool IsBetween(wchar_t unit, unsigned first, unsigned last) {
-  return static_cast<unsigned>(unit) >= first && static_cast<unsigned>(unit) <= last;
-}
-
-}  // namespace
-
 std::string Utf8(std::wstring_view text) {
   std::string bytes;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    auto code = static_cast<std::uint32_t>(text[i]) & 0xFFFFu;
-    if (IsBetween(text[i], 0xD800, 0xDBFF) && i + 1 < text.size() &&
-        IsBetween(text[i + 1], 0xDC00, 0xDFFF)) {
-      code =
-          0x10000u + ((code - 0xD800u) << 10) + (static_cast<std::uint32_t>(text[++i]) - 0xDC00u);
-    }
-    const auto tail = [&](unsigned shift) {
-      bytes += static_cast<char>(0x80u | ((code >> shift) & 0x3Fu));
+    const auto unitAt = [&](std::size_t at) {
+      return at < text.size() ? static_cast<std::uint32_t>(text[at]) & 0xFFFFu : 0u;
     };
-    if (code < 0x80) {
-      bytes += static_cast<char>(code);
-    } else if (code < 0x800) {
-      bytes += static_cast<char>(0xC0u | (code >> 6));
-      tail(0);
-    } else if (code < 0x10000) {
-      bytes += static_cast<char>(0xE0u | (code >> 12));
-      tail(6);
-      tail(0);
-    } else {
-      bytes += static_cast<char>(0xF0u | (code >> 18));
-      tail(12);
-      tail(6);
-      tail(0);
+    std::uint32_t code = unitAt(i);
+    if ((code & 0xFC00u) == 0xD800u && (unitAt(i + 1) & 0xFC00u) == 0xDC00u) {
+      code = 0x10000u + ((code & 0x3FFu) << 10) + (unitAt(++i) & 0x3FFu);
+    }
+    const unsigned tails = code < 0x80 ? 0 : code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    constexpr std::uint32_t kMarks[] = {0, 0xC0, 0xE0, 0xF0};
+    bytes += static_cast<char>(kMarks[tails] | code >> 6 * tails);
+    for (unsigned tail = tails; tail-- > 0;) {
+      bytes += static_cast<char>(0x80u | (code >> 6 * tail & 0x3Fu));
     }
   }
   return bytes;

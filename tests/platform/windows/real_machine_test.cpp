@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <shellapi.h>
+
 #include "platform/text.h"
 #include "platform/windows/windows_machine.h"
 #include "tests/platform/contracts.h"
@@ -18,22 +20,12 @@ std::wstring TestFolder() {
 }
 
 void RemoveFolder(const std::wstring& folder) {
-  WindowsFiles files;
-  std::vector<FileEntry> entries;
-  files.List(JoinPath(folder, L"*"), [&](const FileEntry& entry) {
-    entries.push_back(entry);
-    return true;
-  });
-  for (const FileEntry& entry : entries) {
-    const std::wstring path = JoinPath(folder, entry.name);
-    if (entry.isFolder) {
-      RemoveFolder(path);
-    } else {
-      SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-      files.Remove(path);
-    }
-  }
-  RemoveDirectoryW(folder.c_str());
+  const std::wstring list = folder + L'\0';  // two zeros end it
+  SHFILEOPSTRUCTW removal{};
+  removal.wFunc = FO_DELETE;
+  removal.pFrom = list.c_str();
+  removal.fFlags = FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_SILENT;
+  SHFileOperationW(&removal);
 }
 
 class WindowsFilesUnderTest final : public FilesUnderTest {
