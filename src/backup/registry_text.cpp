@@ -144,7 +144,7 @@ class RegistryTextImport {
   bool ReadSectionLine() { return stream_.ReadLine(line_) && line_ != kEmptyLine; }
 
   // Either marker is written whatever value they hold now: a string unless it is the sentinel, a
-  // number because it never equals the next one.
+  // number because it never equals the next one. The caller flushes when all is in.
   bool ReadValues(const std::wstring& path) {
     static const std::wstring kSentinel = L"not_the_same";
     const std::unique_ptr<RegistryKey> key = registry_.Create(RegistryRoot::kCurrentUser, path);
@@ -162,7 +162,6 @@ class RegistryTextImport {
         WriteDwordOrDelete(key.get(), name_, value, value + 1);
       }
     }
-    key->Flush();
     return true;
   }
 
