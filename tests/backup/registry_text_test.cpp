@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "platform/memory/metered_registry.h"
+#include "tests/backup/rules_file.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/utf8.h"
@@ -180,20 +181,6 @@ TEST_F(RegistryText, ATextThatDoesNotBeginWithAnEmptyLineIsRejected) {
   } stuck;
   TextReader reader(stuck);
   EXPECT_FALSE(ImportRegistryText(registry, catalog, reader));
-}
-
-// A line of the rules with its end, <CR>, <END> and <5 x> replaced by what they stand for.
-std::wstring Expanded(const std::string& line) {
-  std::wstring text(line.begin(), line.end());
-  if (text.ends_with(L"<END>")) return text.substr(0, text.size() - 5);
-  const std::size_t from = text.find(L'<');
-  const std::size_t to = text.find(L'>', from);
-  if (to != std::wstring::npos) {
-    const auto count = static_cast<std::size_t>(ParseNumber(text.substr(from + 1), 10));
-    const auto meant = count == 0 ? L"\r"s : std::wstring(count, text[to - 1]);
-    text.replace(from, to + 1 - from, meant);
-  }
-  return text + L'\n';
 }
 
 // What an import left on a device that held nothing.
