@@ -59,9 +59,7 @@ One line in the struct of its key, at the place where it is to be loaded and sav
 
     DwordSetting IndentItems{*this, L"IndentItems", 0};
 
-Loading, saving, this page and the test that walks every setting follow. Enter it into
-`tests/settings/catalogue.expected.txt` as well, which says independently what the Today item
-expects.
+Loading, saving, this page and the test that walks every setting follow.
 )";
 
 struct KeyText {
