@@ -13,36 +13,32 @@ class PageFixture : public testing::Test {
  protected:
   // A VGA device, which has every row.
   PageFixture() {
-    machine.system.screen = {480, 640, 192, 192};
+    UseScreen(480, 640, 192);
     for (const wchar_t* name : {L"Business", L"Family"}) categories.Add({name, 1});
   }
-  void Load() {
-    store.Load(door, scale, language);
-    context.language = language.get();
+  void UseScreen(int width, int height, int dpi) {
+    machine.system.screen = {width, height, dpi, dpi};
+    context.scale = ScreenScale(dpi, dpi, false);
+    std::unique_ptr<ResourceLibrary> unused;
+    store.Load(door, context.scale, unused);
   }
-  void Install(RegistryRoot root, const wchar_t* key, const wchar_t* value) {
+  void Install(const wchar_t* key, const wchar_t* value,
+               RegistryRoot root = RegistryRoot::kCurrentUser) {
     machine.registry.Create(root, key)->Set(value, kTypeString, {});
+  }
+  void InstallCompanion() { Install(L"SOFTWARE\\Velmont Calendar", L"ExecutablePath"); }
+  void InstallOtherPrograms() {
+    Install(L"Software\\WebIS\\PocketInformant", L"version");
+    Install(L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath");
+    Install(L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion", L"VerMajor",
+            RegistryRoot::kLocalMachine);
   }
 
   MemoryMachine machine;
   Machine door = machine.Door();
-  ScreenScale scale{192, 192, false};
   SettingsStore store;
-  std::unique_ptr<ResourceLibrary> language;
   CategoryCatalog categories{door, store};
-  PageContext context{door, store, categories, nullptr, scale};
+  PageContext context{door, store, categories, nullptr, {}};
 };
-
-// The row that has a control of that id.
-inline const Row& RowOf(const PageTable& table, int controlId) {
-  for (const PageTab& tab : table) {
-    for (const Row& row : tab.rows) {
-      if (row.controlId == controlId) return row;
-    }
-  }
-  static const Row none;
-  ADD_FAILURE() << "no row with a control " << controlId;
-  return none;
-}
 
 }  // namespace tidewell

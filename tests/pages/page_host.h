@@ -1,22 +1,18 @@
-// A page as a real window with real controls, over a host of its own, on a machine in memory with
-// the real language library; worked by messages as a finger would.
+// A page as a real window with real controls, over a host of its own, on a QVGA device in memory
+// with the real language library; worked by messages as a finger would.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <windows.h>
 
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
+#include <commctrl.h>
 
 #include "pages/create_page.h"
 #include "pages/page_dialogs.h"
 #include "pages/page_list.h"
-#include "platform/memory/memory_machine.h"
-#include "platform/memory/metered_registry.h"
+#include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_libraries.h"
-#include "settings/settings_store.h"
+#include "tests/pages/page_fixture.h"
+#include "tests/support/window_support.h"
 
 namespace tidewell {
 
@@ -24,70 +20,126 @@ namespace tidewell {
 class FakeDialogs final : public PageDialogs {
  public:
   void ShowMessage(HWND, const std::wstring& text, const std::wstring& caption) override {
-    messages.push_back(caption + L": " + text);
+    shown.push_back(caption + L": " + text);
   }
   std::optional<std::wstring> ChooseFolder(HWND, const PageContext&, const std::wstring& title,
                                            const std::wstring& present) override {
-    asked.push_back(title + L": " + present);
+    shown.push_back(title + L": " + present);
     return answer;
   }
 
-  std::vector<std::wstring> messages;
-  std::vector<std::wstring> asked;
+  std::vector<std::wstring> shown;
   std::optional<std::wstring> answer;
 };
 
-class PageHost : public testing::Test {
+class PageHost : public PageFixture {
  protected:
-  PageHost();
-  ~PageHost() override;
+  PageHost() {
+    [[maybe_unused]] static const bool installed = (InstallDeviceShell(), true);
+    context.dialogs = &dialogs_;
+    UseScreen(240, 320, 96);
+    UseLanguage(L"TWEngRc.dll");
+  }
+  ~PageHost() override {
+    if (page_) Close();
+  }
+  void UseScreen(int width, int height, int dpi) {
+    PageFixture::UseScreen(width, height, dpi);
+    const int strip = context.scale.ScaleY(26);
+    MoveWindow(host_.Get(), 0, strip, width, height - strip, FALSE);
+  }
+  void UseLanguage(const std::wstring& library) {
+    language_ = WindowsLibraries().Load(LANGUAGE_FOLDER + library);
+    ASSERT_TRUE(language_) << "not built";
+    context.language = language_.get();
+  }
 
-  void Load();
-  // A screen of other pixels and dots per inch, and the language of a library.
-  void UseScreen(int width, int height, int dpi);
-  void UseLanguage(const std::wstring& library);
-
-  void Open(PageIndex page);
   // Until its first tab is painted.
-  void BeginToOpen(PageIndex page);
-  void HandleMessages();
+  void BeginToOpen(PageIndex page) {
+    page_ = CreatePage(static_cast<int>(page), host_.Get(), context);
+    ASSERT_TRUE(page_);
+  }
+  void Open(PageIndex page) {
+    BeginToOpen(page);
+    PumpMessages();
+  }
   // As the host does on OK. The settings have what the page's controls held.
-  void Close();
-  // Closes, saves as Done does, and returns what reached the registry, each as "name".
-  std::vector<std::wstring> CloseAndSave();
+  void Close() {
+    SetActiveWindow(host_.Get());
+    DestroyWindow(page_->Window());
+    page_.reset();
+  }
 
   HWND Control(int id) const { return GetDlgItem(page_->Window(), id); }
-  HWND Tabs() const;
-  bool IsShown(int id) const;
-  bool IsUsable(int id) const { return Control(id) && IsWindowEnabled(Control(id)); }
-  int Selection(int id) const;
-  int Count(int id) const;
-  std::wstring Line(int id, int line) const;
-  std::wstring TextOfControl(int id) const;
-  bool IsChecked(int id) const;
+  LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+    return SendMessageW(Control(id), message, wParam, lParam);
+  }
+  HWND Tabs() const { return FindWindowExW(page_->Window(), nullptr, WC_TABCONTROLW, nullptr); }
+  bool IsShown(int id) const { return Control(id) && IsWindowVisible(Control(id)); }
+  // Those of the ids from `first` to `last` that take a finger when their tab is turned to.
+  std::vector<int> Enabled(int first, int last) const {
+    std::vector<int> ids;
+    for (int id = first; id <= last; ++id) {
+      if (IsWindowEnabled(Control(id))) ids.push_back(id);
+    }
+    return ids;
+  }
+  int Selection(int id) const { return static_cast<int>(Send(id, CB_GETCURSEL)); }
+  std::wstring TextOfControl(int id) const { return CaptionOf(Control(id)); }
+  bool IsChecked(int id) const { return Send(id, BM_GETCHECK) == BST_CHECKED; }
+  // Within the page.
+  RECT Place(HWND control) const {
+    RECT place = WindowRect(control);
+    MapWindowPoints(nullptr, page_->Window(), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+  }
 
-  void Tap(int id);
+  static void TapMiddle(HWND window, const RECT& area) {
+    const LPARAM middle = MAKELPARAM((area.left + area.right) / 2, (area.top + area.bottom) / 2);
+    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, middle);
+    SendMessageW(window, WM_LBUTTONUP, 0, middle);
+  }
+  void TapControl(int id) const { TapMiddle(Control(id), ClientRect(Control(id))); }
+  void Turn(int tab) const {
+    RECT area;
+    TabCtrl_GetItemRect(Tabs(), tab, &area);
+    TapMiddle(Tabs(), area);
+  }
   // As the list does when a line is tapped.
-  void Choose(int id, int line);
-  void Type(int id, const wchar_t* text);
-  void Turn(int tab);
-  // To the control that has the focus.
-  void Press(WPARAM key);
-  int FocusedId() const;
+  void Choose(int id, int line) const {
+    SetFocus(Control(id));
+    Send(id, CB_SHOWDROPDOWN, TRUE);
+    while (Selection(id) != line) {
+      const int before = Selection(id);
+      Send(id, WM_KEYDOWN, before < line ? VK_DOWN : VK_UP);
+      ASSERT_NE(Selection(id), before) << id << " has no line " << line;
+    }
+    Send(id, WM_KEYDOWN, VK_RETURN);
+  }
+  void Type(int id, const wchar_t* text) const {
+    const HWND inner = GetWindow(Control(id), GW_CHILD);
+    const HWND edit = inner ? inner : Control(id);
+    SetFocus(edit);
+    SendMessageW(edit, EM_SETSEL, 0, -1);
+    for (; *text; ++text) SendMessageW(edit, WM_CHAR, *text, 1);
+  }
+  // Through the queue to the control that has the focus.
+  static void Press(WPARAM key) {
+    PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
+    PumpMessages();
+    PostMessageW(GetFocus(), WM_KEYUP, key, 1);
+    PumpMessages();
+  }
+  // 0 for the row of tabs.
+  int FocusedId() const {
+    const HWND focus = GetFocus();
+    return GetDlgCtrlID(GetParent(focus) == page_->Window() ? focus : GetParent(focus));
+  }
 
-  MemoryMachine machine_;
-  MeteredRegistry registry_{machine_.registry};
-  WindowsLibraries libraries_;
-  ResourceLibraries* installed_ = &libraries_;  // what a scan for language packs meets
-  std::optional<Machine> door_;
   FakeDialogs dialogs_;
-  SettingsStore store_;
-  std::optional<CategoryCatalog> categories_;
   std::unique_ptr<ResourceLibrary> language_;
-  std::optional<PageContext> context_;
+  TestWindow host_{WS_POPUP | WS_VISIBLE, 0};
   std::unique_ptr<HostedPage> page_;
-  HWND host_ = nullptr;
-  bool askedToClose_ = false;
 };
 
 }  // namespace tidewell

@@ -21,8 +21,7 @@ class FreePage final : public SettingsPage {
   using SettingsPage::MoveListItem;
   using SettingsPage::SettingsPage;
 
-  std::vector<UINT> previews;
-  int destroyed = 0;
+  std::vector<std::string> told;
 
  private:
   int GetTabCount() const override { return 0; }
@@ -36,13 +35,11 @@ class FreePage final : public SettingsPage {
   void ShowTab(HWND window, int command) override {
     ShowControlRange(window, kList, kName + 5, command);
   }
-  void OnDestroy(HWND) override { ++destroyed; }
-  LRESULT OnPreviewMessage1(HWND, WPARAM, LPARAM) override {
-    previews.push_back(kPreviewMessage1);
-    return 0;
-  }
-  LRESULT OnPreviewMessage2(HWND, WPARAM, LPARAM) override {
-    previews.push_back(kPreviewMessage2);
+  void OnDestroy(HWND) override { told.push_back("destroyed"); }
+  LRESULT OnPreviewMessage1(HWND, WPARAM, LPARAM) override { return Told("first"); }
+  LRESULT OnPreviewMessage2(HWND, WPARAM, LPARAM) override { return Told("second"); }
+  LRESULT Told(const char* what) {
+    told.push_back(what);
     return 0;
   }
 };
@@ -50,10 +47,9 @@ class FreePage final : public SettingsPage {
 class BasePage : public PageHost {
  protected:
   void SetUp() override {
-    Load();
-    auto made = std::make_unique<FreePage>(*context_);
+    auto made = std::make_unique<FreePage>(context);
     free_ = made.get();
-    ASSERT_TRUE(made->Create(host_, L"FreeWin", L"Free"));
+    ASSERT_TRUE(made->Create(host_.Get(), L"FreeWin", L"Free"));
     page_ = std::move(made);
   }
   std::wstring Row(int row) const {
@@ -69,45 +65,44 @@ class BasePage : public PageHost {
 
 TEST_F(BasePage, WithoutTabsHasNoTabRowAndItsControlsShow) {
   EXPECT_EQ(Tabs(), nullptr);
-  for (int id = kList; id <= kName; ++id) EXPECT_TRUE(IsShown(id)) << id;
-  EXPECT_EQ(TextOfControl(kEdit), L"\\My Documents");
-  EXPECT_EQ(TextOfControl(kClear), L"Clear");
-  EXPECT_EQ(TextOfControl(kBrowse), L"Browse");
+  const wchar_t* const texts[] = {L"", L"\\My Documents", L"Clear", L"Browse", L"Name"};
+  for (int id = kList; id <= kName; ++id) {
+    EXPECT_TRUE(IsShown(id)) << id;
+    EXPECT_EQ(TextOfControl(id), texts[id - kList]);
+  }
 }
 
 TEST_F(BasePage, MovesAListRowWithItsCheckAndItsData) {
   const HWND list = Control(kList);
   ListView_SetExtendedListViewStyle(list, LVS_EX_CHECKBOXES);
   ListView_SetCheckState(list, 1, TRUE);
-  for (int row = 0; row < 3; ++row) {
-    LVITEMW item{};
-    item.mask = LVIF_PARAM;
-    item.iItem = row;
-    item.lParam = 100 + row;
-    ListView_SetItem(list, &item);
-  }
+  LVITEMW item{};
+  item.mask = LVIF_PARAM;
+  item.iItem = 1;
+  item.lParam = 101;
+  ListView_SetItem(list, &item);
   Select(1);
   free_->MoveListItem(page_->Window(), kList, true);
-  EXPECT_EQ(Rows(), (std::vector<std::wstring>{L"Calendar", L"General", L"Tasks"}));
+  const std::vector<std::wstring> moved{L"Calendar", L"General", L"Tasks"};
+  EXPECT_EQ(Rows(), moved);
   EXPECT_TRUE(ListView_GetCheckState(list, 0));
   EXPECT_FALSE(ListView_GetCheckState(list, 1));
-  LVITEMW moved{};
-  moved.mask = LVIF_PARAM;
-  ListView_GetItem(list, &moved);
-  EXPECT_EQ(moved.lParam, 101);
+  item.iItem = 0;
+  ListView_GetItem(list, &item);
+  EXPECT_EQ(item.lParam, 101);
   EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_SELECTED), 0);
   EXPECT_EQ(GetFocus(), list);
 
   free_->MoveListItem(page_->Window(), kList, true);
   Select(2);
   free_->MoveListItem(page_->Window(), kList, false);
-  EXPECT_EQ(Rows(), (std::vector<std::wstring>{L"Calendar", L"General", L"Tasks"})) << "the ends";
-  EXPECT_TRUE(dialogs_.messages.empty());
+  EXPECT_EQ(Rows(), moved) << "the ends";
+  EXPECT_TRUE(dialogs_.shown.empty());
 }
 
 TEST_F(BasePage, MovingNoRowAsksForOne) {
   free_->MoveListItem(page_->Window(), kList, false);
-  EXPECT_THAT(dialogs_.messages,
+  EXPECT_THAT(dialogs_.shown,
               testing::ElementsAre(L"Nothing selected: Select an entry in the list first."));
 }
 
@@ -124,38 +119,30 @@ TEST_F(BasePage, KeysLeaveAListAtItsEnds) {
 }
 
 TEST_F(BasePage, DrawsASwatchOfAColorAndOfNone) {
-  const HDC screen = GetDC(nullptr);
-  {
-    const MemoryBitmap canvas(screen, 60, 40);
-    const RECT all{0, 0, 60, 40};
-    FillPlain(canvas.Dc(), all, RGB(1, 2, 3));
-    free_->DrawColorSwatch(canvas.Dc(), RGB(200, 100, 50), 2, 2);
-    EXPECT_EQ(GetPixel(canvas.Dc(), 2, 2), RGB(0, 0, 0));
-    EXPECT_EQ(GetPixel(canvas.Dc(), 45, 21), RGB(0, 0, 0));
-    EXPECT_EQ(GetPixel(canvas.Dc(), 46, 22), RGB(1, 2, 3)) << "44 by 20";
-    EXPECT_EQ(GetPixel(canvas.Dc(), 3, 3), RGB(200, 100, 50));
-    free_->DrawColorSwatch(canvas.Dc(), static_cast<COLORREF>(-1), 2, 2);
-    EXPECT_EQ(GetPixel(canvas.Dc(), 3, 3), RGB(255, 255, 255));
-    int inked = 0;
-    for (int x = 4; x < 44; ++x) {
-      for (int y = 4; y < 20; ++y) inked += GetPixel(canvas.Dc(), x, y) != RGB(255, 255, 255);
-    }
-    EXPECT_GT(inked, 20) << "it says Auto";
+  const WindowDc screen(nullptr);
+  const MemoryBitmap canvas(screen.Dc(), 60, 40);
+  FillPlain(canvas.Dc(), {0, 0, 60, 40}, RGB(1, 2, 3));
+  free_->DrawColorSwatch(canvas.Dc(), RGB(200, 100, 50), 2, 2);
+  EXPECT_EQ(GetPixel(canvas.Dc(), 2, 2), RGB(0, 0, 0));
+  EXPECT_EQ(GetPixel(canvas.Dc(), 45, 21), RGB(0, 0, 0));
+  EXPECT_EQ(GetPixel(canvas.Dc(), 46, 22), RGB(1, 2, 3)) << "44 by 20";
+  EXPECT_EQ(GetPixel(canvas.Dc(), 3, 3), RGB(200, 100, 50));
+  free_->DrawColorSwatch(canvas.Dc(), static_cast<COLORREF>(-1), 2, 2);
+  EXPECT_EQ(GetPixel(canvas.Dc(), 3, 3), RGB(255, 255, 255));
+  int inked = 0;
+  for (int x = 4; x < 44; ++x) {
+    for (int y = 4; y < 20; ++y) inked += GetPixel(canvas.Dc(), x, y) != RGB(255, 255, 255);
   }
-  ReleaseDC(nullptr, screen);
+  EXPECT_GT(inked, 20) << "it says Auto";
 }
 
-TEST_F(BasePage, HandsOnThePreviewsMessages) {
+TEST_F(BasePage, HandsOnThePreviewsMessagesAndStoresOnceWhenItsWindowGoes) {
   SendMessageW(page_->Window(), 1788, 0, 0);
   SendMessageW(page_->Window(), 1789, 0, 0);
-  EXPECT_EQ(free_->previews, (std::vector<UINT>{kPreviewMessage1, kPreviewMessage2}));
-}
-
-TEST_F(BasePage, StoresOnceWhenItsWindowGoes) {
-  SetActiveWindow(host_);
+  SetActiveWindow(host_.Get());
   DestroyWindow(page_->Window());
-  EXPECT_EQ(free_->destroyed, 1);
   EXPECT_EQ(page_->Window(), nullptr);
+  EXPECT_THAT(free_->told, testing::ElementsAre("first", "second", "destroyed"));
   page_.reset();
 }
 

@@ -1,0 +1,217 @@
+// The pages as windows: what each shows, what a finger does to it, what it stores.
+#include <gmock/gmock.h>
+
+#include "pages/general_table.h"
+#include "pages/pim_table.h"
+#include "resources/text/text_ids.h"
+#include "tests/pages/page_host.h"
+
+namespace tidewell {
+namespace {
+
+using testing::ElementsAre;
+using Ids = std::vector<int>;
+
+// ---- What holds for every page
+
+// On a device that has every row.
+class EachPage : public PageHost, public testing::WithParamInterface<PageIndex> {
+ protected:
+  EachPage() {
+    UseScreen(480, 640, 192);
+    InstallCompanion();
+    InstallOtherPrograms();
+    table_ = kPages[static_cast<std::size_t>(GetParam())].table(context);
+    for (const PageTab& tab : table_) {
+      for (const Row& row : tab.rows) {
+        if (row.stored < Stored::kByPage) storing_.push_back(&row);
+      }
+    }
+  }
+  ControlState StateOfControl(const Row& row) const {
+    ControlState state;
+    if (row.kind == RowKind::kCheck) {
+      state.checked = IsChecked(row.controlId);
+    } else if (row.kind == RowKind::kList) {
+      state.selection = Selection(row.controlId);
+    } else {
+      state.text = TextOfControl(row.controlId);
+    }
+    return state;
+  }
+  void Change(const Row& row) {
+    const int last = static_cast<int>(row.choices.size()) - 1;
+    if (row.kind == RowKind::kCheck) {
+      TapControl(row.controlId);
+    } else if (row.kind == RowKind::kList) {
+      Choose(row.controlId, Selection(row.controlId) == last ? 0 : last);
+    } else {
+      Type(row.controlId, L"0x50");
+    }
+  }
+  // The setting has what its row makes of a control's state.
+  static void ExpectStored(const Row& row, const ControlState& state) {
+    const std::uint32_t number = row.number ? row.number->Value() : 0;
+    const std::wstring text = row.text ? row.text->Value() : L"";
+    Store(row, state);
+    EXPECT_EQ(number, row.number ? row.number->Value() : 0) << row.controlId;
+    EXPECT_EQ(text, row.text ? row.text->Value() : L"") << row.controlId;
+  }
+
+  PageTable table_;
+  std::vector<const Row*> storing_;  // something by themselves
+};
+
+INSTANTIATE_TEST_SUITE_P(Pages, EachPage,
+                         testing::Values(PageIndex::kGeneral, PageIndex::kMessages,
+                                         PageIndex::kSpecialEvents, PageIndex::kPim));
+
+TEST_P(EachPage, ShowsEveryStoredValueAndStoresWhatItShows) {
+  for (const std::uint32_t value : {0u, 1u, 3u, 16u, 480u, ~0u}) {
+    std::vector<ControlState> expected;
+    for (const Row* row : storing_) {
+      if (row->number) row->number->Set(value);
+      if (row->text) row->text->Set(value ? L"FAMILY" : L"");
+      expected.push_back(StateOf(*row));
+    }
+    BeginToOpen(GetParam());
+    // A page that goes before it has built all of its tabs stores no less.
+    const bool goesEarly = value == 480;
+    if (!goesEarly) PumpMessages();
+    for (std::size_t i = 0; i < storing_.size() && !goesEarly; ++i) {
+      EXPECT_EQ(StateOfControl(*storing_[i]), expected[i]) << storing_[i]->controlId;
+    }
+    Close();
+    for (std::size_t i = 0; i < storing_.size(); ++i) ExpectStored(*storing_[i], expected[i]);
+  }
+}
+
+// From below: a control that greys others stands above them.
+TEST_P(EachPage, ShowsATabAtATimeAndStoresWhatAFingerChanges) {
+  store.root.AutoHeight.Set(0);
+  Open(GetParam());
+  std::vector<std::pair<const Row*, ControlState>> changed;
+  for (std::size_t tab = 0; tab < table_.size(); ++tab) {
+    Turn(static_cast<int>(tab));
+    for (auto row = storing_.rbegin(); row != storing_.rend(); ++row) {
+      const int id = (*row)->controlId;
+      EXPECT_EQ(IsShown(id), id >= table_[tab].firstId && id <= table_[tab].lastId) << id;
+      if (!IsShown(id) || !IsWindowEnabled(Control(id)) || (*row)->kind == RowKind::kPath) continue;
+      const ControlState before = StateOfControl(**row);
+      Change(**row);
+      EXPECT_NE(StateOfControl(**row), before) << id;
+      changed.emplace_back(*row, StateOfControl(**row));
+    }
+  }
+  Close();
+  EXPECT_GE(changed.size(), 6u);
+  for (const auto& [row, state] : changed) ExpectStored(*row, state);
+}
+
+// ---- The General page
+
+class GeneralPage : public PageHost {};
+
+TEST_F(GeneralPage, GreysTheLimitsOfAHeightThatFits) {
+  Open(PageIndex::kGeneral);
+  EXPECT_EQ(Enabled(1206, 1210), Ids{1206});
+  TapControl(general_ids::kAutoHeight);
+  EXPECT_EQ(Enabled(1206, 1210), (Ids{1206, 1207, 1208, 1209, 1210}));
+}
+
+TEST_F(GeneralPage, TurnsTheGroupsOfTheDPad) {
+  Open(PageIndex::kGeneral);
+  Turn(2);
+  EXPECT_EQ(Enabled(1220, 1228), (Ids{1220, 1221, 1222, 1223, 1224, 1227, 1228}));
+  Choose(general_ids::kDPadGroup, 1);
+  EXPECT_EQ(Enabled(1220, 1228), (Ids{1220, 1221, 1222, 1225, 1226, 1228}));
+  TapControl(general_ids::kDPadEnabled);
+  EXPECT_EQ(Enabled(1220, 1228), Ids{1220});
+}
+
+TEST_F(GeneralPage, AsksForTheSkinFolder) {
+  store.root.SkinPath.Set(L"\\My Documents\\Skins");
+  Open(PageIndex::kGeneral);
+  Turn(1);
+  Type(general_ids::kSkinPath, L"it can only be read");
+  TapControl(general_ids::kBrowseSkin);
+  EXPECT_THAT(dialogs_.shown, ElementsAre(L"Select Skin Path: \\My Documents\\Skins"));
+  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"\\My Documents\\Skins") << "cancelled";
+  dialogs_.answer = L"\\Storage Card\\Skins";
+  TapControl(general_ids::kBrowseSkin);
+  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"\\Storage Card\\Skins");
+  TapControl(general_ids::kClearSkin);
+  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"");
+}
+
+// A library without a name has no line, but a slot: here English has the second one.
+TEST_F(GeneralPage, StoresTheLanguageOfTheChosenSlot) {
+  const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\";
+  const auto open = [&](int lines, int selection) {
+    Open(PageIndex::kGeneral);
+    EXPECT_EQ(Send(general_ids::kLanguage, CB_GETCOUNT), lines);
+    EXPECT_EQ(Selection(general_ids::kLanguage), selection);
+  };
+  open(0, -1);
+  Close();
+  EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWEngRc.dll") << "none to choose";
+  const std::pair<const wchar_t*, MemoryLibraries::Texts> packs[] = {
+      {L"AAA.dll", {}},
+      {L"TWEngRc.dll", {{IDS_LANGUAGE_NAME, L"English"}}},
+      {L"TWGerRc.dll", {{IDS_LANGUAGE_NAME, L"Deutsch"}}}};
+  for (const auto& [name, texts] : packs) {
+    machine.files.Put(folder + name, "MZ");
+    machine.libraries.Put(folder + name, texts);
+  }
+  open(2, 1);
+  Close();
+  EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWEngRc.dll");
+}
+
+// ---- The PIM page
+
+class PimPage : public PageHost {
+ protected:
+  DwordSetting& program() { return store.customPim.PimSw; }
+};
+
+TEST_F(PimPage, StoresAProgramAtOnceAndGreysWhatItDoesNotHave) {
+  InstallOtherPrograms();
+  Open(PageIndex::kPim);
+  struct Case {
+    int line;
+    std::uint32_t stored;
+    Ids enabled;
+  };
+  const Case cases[] = {{2, 1, {1206, 1207, 1209}},
+                        {3, 2, {1206, 1207, 1208, 1209}},
+                        {4, 3, {1206, 1207, 1209}},
+                        {0, 0, {1202, 1203, 1204, 1205}}};
+  for (const Case& c : cases) {
+    Choose(pim_ids::kProgram, c.line);
+    EXPECT_EQ(program().Value(), c.stored);
+    EXPECT_EQ(Enabled(1202, 1209), c.enabled);
+  }
+}
+
+TEST_F(PimPage, TakesTheCompanionOnlyWhereItIs) {
+  program().Set(1);  // which is not there any more
+  Open(PageIndex::kPim);
+  EXPECT_EQ(Send(pim_ids::kProgram, CB_GETCOUNT), 2);
+  EXPECT_EQ(Selection(pim_ids::kProgram), 0);
+  Choose(pim_ids::kProgram, 1);
+  EXPECT_THAT(dialogs_.shown,
+              ElementsAre(L"Not installed: Velmont Calendar is not installed on this device."));
+  EXPECT_EQ(Selection(pim_ids::kProgram), 0);
+  EXPECT_EQ(program().Value(), 0u);
+  EXPECT_EQ(Enabled(1202, 1209), (Ids{1202, 1203, 1204, 1205}));
+
+  InstallCompanion();
+  Press(VK_RIGHT);  // turned by a key, the list stores its program too
+  EXPECT_EQ(dialogs_.shown.size(), 1u);
+  EXPECT_EQ(program().Value(), 4u);
+  EXPECT_EQ(Enabled(1202, 1209), (Ids{1206, 1207, 1209}));
+}
+
+}  // namespace
+}  // namespace tidewell
