@@ -8,6 +8,7 @@
 
 #include "device_fixture.h"
 #include "settings/settings_store.h"
+#include "tests/settings/store_fixture.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell::device {
@@ -22,80 +23,27 @@ constexpr wchar_t kFiltersFile[] = L"C:\\Program Files\\Velmont\\Tidewell\\TWFil
 
 enum class Tool { kExport = 0, kImport = 1 };  // their rows
 
-std::string ReadFileBytes(const wchar_t* path) {
-  std::string bytes;
-  const HANDLE file =
-      CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return bytes;
-  bytes.resize(GetFileSize(file, nullptr));
-  DWORD read = 0;
-  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
-  CloseHandle(file);
-  bytes.resize(read);
-  return bytes;
-}
-
-void WriteFileBytes(const wchar_t* path, const std::string& bytes) {
-  const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-  DWORD written = 0;
-  WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-  CloseHandle(file);
-}
-
-// A text as the reg tool takes it between quotes.
-std::string Escaped(const std::string& text) {
-  std::string escaped;
-  for (const char c : text) {
-    if (c == '\\' || c == '"') escaped += '\\';
-    escaped += c;
-  }
-  return escaped;
-}
-
-// Every stored setting with a value that is not its default, as the reg tool reads it.
-class ChangedSettings final : public SettingVisitor {
- public:
-  using SettingVisitor::Visit;
-  void Visit(DwordSetting& setting) override {
-    Head(setting.Key());
-    char line[16];
-    std::snprintf(line, sizeof line, "%08x", ++number_);
-    text_ += '"' + Utf8(setting.Name()) + "\"=dword:" + line + '\n';
-  }
-  void Visit(StringSetting& setting) override {
-    Head(setting.Key());
-    // The filters file stays where it is.
-    if (setting.Name() == L"TWFiltersFileFolder") return;
-    text_ += '"' + Utf8(setting.Name()) + "\"=\"" +
-             Escaped("\\text " + std::to_string(++number_) + " \"50%\"") + "\"\n";
-  }
-  void Visit(FlagArraySetting&) override {}
-
-  std::string Take() { return std::move(text_); }
-
- private:
-  void Head(SettingKey key) {
-    if (key == key_) return;
-    key_ = key;
-    text_ += "\n[HKEY_CURRENT_USER\\" + Utf8(LocationOf(key).path) + "]\n";
-  }
-
-  SettingKey key_ = SettingKey::kTodayItem;
-  unsigned number_ = 1000;
-  std::string text_;
-};
-
+// Every setting of the product with a value that is not its default, as the reg tool reads it.
 std::string EverySettingChanged() {
   SettingsStore store;
-  ChangedSettings changed;
+  std::string text;
+  unsigned number = 1000;
   for (SettingGroup* group : store.Groups()) {
-    const KeyLocation location = LocationOf(group->Key());
-    if (location.root == RegistryRoot::kCurrentUser &&
-        std::wstring_view(location.path).starts_with(L"Software\\Velmont")) {
-      group->Accept(changed);
+    const std::string path = Utf8(LocationOf(group->Key()).path);
+    if (!path.starts_with("Software\\Velmont")) continue;
+    text += "\n[HKEY_CURRENT_USER\\" + path + "]\n";
+    const SettingLines lines(*group);
+    for (const DwordSetting* setting : lines.dwords) {
+      text += '"' + Utf8(setting->Name()) + "\"=dword:" + std::to_string(++number) + '\n';
+    }
+    for (const StringSetting* setting : lines.strings) {
+      // The filters file stays where it is.
+      if (setting->Name() == L"TWFiltersFileFolder") continue;
+      text += '"' + Utf8(setting->Name()) + "\"=\"\\\\text " + std::to_string(++number) +
+              " \\\"50%\\\"\"\n";
     }
   }
-  return changed.Take();
+  return text;
 }
 
 class BackupDeviceTest : public DeviceTest {
@@ -134,11 +82,6 @@ class BackupDeviceTest : public DeviceTest {
     if (!told) return false;
     PostMessageW(message, WM_COMMAND, IDOK, 0);
     return true;
-  }
-  static void EndWithDone(DrivenProgram& program) {
-    program.TapRightButton();
-    program.TapOk();
-    EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
   }
   // An export from beginning to end; the backup's bytes.
   static std::string Export() {
@@ -205,9 +148,9 @@ TEST_F(BackupDeviceTest, AWipedDeviceIsTheSameAfterTheImportOfItsBackup) {
   listener_.onHeard = [&] { treeWhenHeard = QueryProductTree(); };
   DrivenProgram program;
   ASSERT_TRUE(RunTool(program, Tool::kImport));
-  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  EXPECT_TRUE(program.Ended());
   listener_.HearAllPosted();
-  EXPECT_EQ(listener_.heard, (std::vector<std::pair<WPARAM, LPARAM>>{{0, 0}}));
+  EXPECT_EQ(listener_.heard, kOnce);
   EXPECT_EQ(QueryProductTree(), tree);
   EXPECT_EQ(treeWhenHeard, tree);
   EXPECT_EQ(ReadFileBytes(kFiltersFile).size(), 6362u);  // the 32 defaults
@@ -250,7 +193,7 @@ TEST_F(BackupDeviceTest, AKilledImportLeavesTheBackupAndACopyOfWhatWasThere) {
   // Whatever moment was the last: the program starts, and the import comes to its end.
   DrivenProgram program;
   ASSERT_TRUE(RunTool(program, Tool::kImport));
-  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  EXPECT_TRUE(program.Ended());
   EXPECT_EQ(Export(), old);
 }
 
@@ -259,7 +202,7 @@ TEST_F(BackupDeviceTest, AKilledDoneLeavesTheOldFiltersFileOrTheNewOne) {
     DrivenProgram program;
     ASSERT_TRUE(program.WaitForMainWindow());
     program.TapOk();
-    ASSERT_EQ(program.GetProcess().WaitForExit(), 0u);
+    ASSERT_TRUE(program.Ended());
   }
   const std::string defaults = ReadFileBytes(kFiltersFile);
   ASSERT_EQ(defaults.size(), 6362u);

@@ -36,7 +36,8 @@ class Listener {
     WaitUntil([this, marker] { return seenMarker_ == marker; });
   }
 
-  std::vector<std::pair<WPARAM, LPARAM>> heard;
+  using Heard = std::vector<std::pair<WPARAM, LPARAM>>;
+  Heard heard;
   std::function<void()> onHeard = [] {};
 
  private:
@@ -70,10 +71,14 @@ inline int CountMainWindows() {
 class DeviceTest : public testing::Test {
  protected:
   void SetUp() override {
+    SetCursorPos(0, 0);  // a list that opens below the pointer would choose the line there
     ForgetProductKeys();
     ASSERT_EQ(CountMainWindows(), 0) << "a program is left over from before";
   }
   void TearDown() override { ForgetProductKeys(); }
+
+  // What a listener has heard after one Done.
+  inline static const Listener::Heard kOnce = {{0, 0}};
 
   Listener listener_;
 };

@@ -28,18 +28,14 @@ class HiddenFile {
   std::wstring hidden_;
 };
 
-void AskToExit(DrivenProgram& program) {
+// The program asks whether to exit, and is answered.
+void AnswerExit(DrivenProgram& program, WPARAM answer) {
   program.TapRightButton();
   program.Press(VK_DOWN, kExitRow);
   program.Press(VK_RETURN);
-}
-
-TEST_F(DeviceTest, DoneOnANewDeviceStoresNoValue) {
-  DrivenProgram program;
-  ASSERT_TRUE(program.WaitForMainWindow());
-  program.TapOk();
-  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
-  EXPECT_EQ(QueryProductTree(), "");
+  const HWND question = program.WaitForPopup();
+  ASSERT_TRUE(question);
+  PostMessageW(question, WM_COMMAND, answer, 0);
 }
 
 TEST_F(DeviceTest, DoneStoresTheRepairsOfWhatTheRegToolFilledIn) {
@@ -75,7 +71,7 @@ TEST_F(DeviceTest, DoneStoresTheRepairsOfWhatTheRegToolFilledIn) {
   DrivenProgram program;
   ASSERT_TRUE(program.WaitForMainWindow());
   program.TapLeftButton();
-  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  EXPECT_TRUE(program.Ended());
   EXPECT_EQ(QueryProductTree(), R"([]
     ActiveTab = REG_DWORD 0x9
     NotOurs = REG_SZ kept
@@ -106,7 +102,7 @@ TEST_F(DeviceTest, ASecondStartBringsTheFirstForwardAndEndsWithZero) {
     ASSERT_TRUE(WaitUntil([&] { return GetForegroundWindow() == listener_.Window(); }));
 
     DrivenProgram second;
-    EXPECT_EQ(second.GetProcess().WaitForExit(), 0u);
+    EXPECT_TRUE(second.Ended());
     const HWND front = GetLastActivePopup(first.Main());
     EXPECT_TRUE(WaitUntil([&] { return GetForegroundWindow() == front; }));
     EXPECT_EQ(CountMainWindows(), 1);
@@ -136,44 +132,26 @@ TEST_F(DeviceTest, DoneTellsTheTodayItemOnceAndAfterTheRegistryIsWritten) {
   ASSERT_TRUE(AddValue(L"\\Calendar", L"dNumOfDays", L"REG_DWORD", L"121"));
   std::string treeWhenHeard = "never heard";
   listener_.onHeard = [&] { treeWhenHeard = QueryProductTree(); };
-
   DrivenProgram program;
   ASSERT_TRUE(program.WaitForMainWindow());
   program.TapOk();
-  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  EXPECT_TRUE(program.Ended());
   listener_.HearAllPosted();
-  EXPECT_EQ(listener_.heard, (std::vector<std::pair<WPARAM, LPARAM>>{{0, 0}}));
-  EXPECT_EQ(treeWhenHeard, "");
+  EXPECT_EQ(listener_.heard, kOnce);
+  EXPECT_EQ(treeWhenHeard, "") << "repaired to the defaults, which are not stored";
 }
 
 TEST_F(DeviceTest, ExitAnsweredYesWritesAndTellsNothing) {
   ASSERT_TRUE(AddValue(L"\\Calendar", L"dNumOfDays", L"REG_DWORD", L"121"));
   const std::string before = QueryProductTree();
-
+  ASSERT_NE(before, "");
   DrivenProgram program;
   ASSERT_TRUE(program.WaitForMainWindow());
-  AskToExit(program);
-  const HWND question = program.WaitForPopup();
-  ASSERT_TRUE(question);
-  PostMessageW(question, WM_COMMAND, IDYES, 0);
-  EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+  AnswerExit(program, IDYES);
+  EXPECT_TRUE(program.Ended());
   listener_.HearAllPosted();
   EXPECT_TRUE(listener_.heard.empty());
   EXPECT_EQ(QueryProductTree(), before);
-  EXPECT_NE(before, "");
-}
-
-TEST_F(DeviceTest, ExitAnsweredNoKeepsTheToolsList) {
-  DrivenProgram program;
-  ASSERT_TRUE(program.WaitForMainWindow());
-  AskToExit(program);
-  const HWND question = program.WaitForPopup();
-  ASSERT_TRUE(question);
-  PostMessageW(question, WM_COMMAND, IDNO, 0);
-  ASSERT_TRUE(program.WaitForPopupToGo());
-  // The selection still stands on the exit entry of the tools.
-  program.Press(VK_RETURN);
-  EXPECT_TRUE(program.WaitForPopup());
 }
 
 TEST_F(DeviceTest, OnlyTheExactWordAboutOpensTheAboutBox) {
@@ -193,7 +171,7 @@ TEST_F(DeviceTest, OnlyTheExactWordAboutOpensTheAboutBox) {
       EXPECT_TRUE(program.WaitForPopupToGo());
       program.TapOk();
     }
-    EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+    EXPECT_TRUE(program.Ended());
   }
 }
 
@@ -212,54 +190,40 @@ TEST_F(DeviceTest, MissingLibrariesLeaveAUsableProgram) {
 
     DrivenProgram program;
     ASSERT_TRUE(program.WaitForMainWindow());
-    AskToExit(program);
-    const HWND question = program.WaitForPopup();
-    ASSERT_TRUE(question);
-    PostMessageW(question, WM_COMMAND, IDNO, 0);
+    AnswerExit(program, IDNO);
     ASSERT_TRUE(program.WaitForPopupToGo());
     program.TapRightButton();  // back to the groups
     program.TapLeftButton();
-    EXPECT_EQ(program.GetProcess().WaitForExit(), 0u);
+    EXPECT_TRUE(program.Ended());
     EXPECT_EQ(QueryProductTree(), "");
   }
 }
 
-TEST_F(DeviceTest, TheMainWindowIsWhatADeviceKnows) {
+TEST_F(DeviceTest, TheMainWindowFillsTheScreenBelowItsTitleStripAndHasNoFrame) {
   DrivenProgram program;
   const HWND window = program.WaitForMainWindow();
   ASSERT_TRUE(window);
   EXPECT_EQ(FindWindowW(kMainClass, kMainCaption), window);
-  constexpr DWORD kStyle = 0x14000800;
   const auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
-  EXPECT_EQ(style & kStyle, kStyle);
-  EXPECT_EQ(style & (WS_CAPTION | WS_THICKFRAME | WS_DISABLED), 0u);
+  EXPECT_EQ(style & (0x14000800 | WS_CAPTION | WS_THICKFRAME | WS_DISABLED), 0x14000800u);
   EXPECT_NE(static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE)) & 0x80000000, 0u);
-}
 
-TEST_F(DeviceTest, TheMainWindowFillsTheScreenBelowItsTitleStrip) {
-  DrivenProgram program;
-  const HWND window = program.WaitForMainWindow();
-  ASSERT_TRUE(window);
   RECT screen;
   RECT place;
   RECT client;
+  RECT above;
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
   GetWindowRect(window, &place);
   GetClientRect(window, &client);
-  EXPECT_EQ(place.left, screen.left);
-  EXPECT_EQ(place.right, screen.right);
-  EXPECT_EQ(place.bottom, screen.bottom);
-  EXPECT_EQ(client.bottom, place.bottom - place.top) << "no frame of its own";
-  EXPECT_EQ(client.right, place.right - place.left);
-
   const HWND strip = WindowFromPoint({screen.right / 2, screen.top});
-  RECT above;
-  ASSERT_TRUE(GetWindowRect(strip, &above));
   EXPECT_EQ(GetWindow(strip, GW_OWNER), window);
-  EXPECT_EQ(above.top, screen.top);
-  EXPECT_EQ(above.left, screen.left);
-  EXPECT_EQ(above.right, screen.right);
-  EXPECT_EQ(above.bottom, place.top);
+  ASSERT_TRUE(GetWindowRect(strip, &above));
+  const RECT below{screen.left, above.bottom, screen.right, screen.bottom};
+  const RECT top{screen.left, screen.top, screen.right, above.bottom};
+  EXPECT_TRUE(EqualRect(&place, &below));
+  EXPECT_TRUE(EqualRect(&above, &top));
+  EXPECT_EQ(client.right, place.right - place.left) << "no frame of its own";
+  EXPECT_EQ(client.bottom, place.bottom - place.top);
 }
 
 }  // namespace

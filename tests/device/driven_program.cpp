@@ -48,28 +48,21 @@ bool WaitUntil(const std::function<bool()>& condition, DWORD milliseconds) {
   return true;
 }
 
-Process::Process(const std::wstring& path, const std::wstring& commandLine) {
+Process::Process(const std::wstring& path, const std::wstring& commandLine, HANDLE output) {
   std::wstring line = L"\"" + path + L"\"";
   if (!commandLine.empty()) line += L" " + commandLine;
   STARTUPINFOW start{};
   start.cb = sizeof start;
+  start.hStdOutput = output;
+  if (output) start.dwFlags = STARTF_USESTDHANDLES;
   PROCESS_INFORMATION made{};
-  if (!CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, L"C:\\",
-                      &start, &made)) {
+  if (!CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, output != nullptr, 0, nullptr,
+                      L"C:\\", &start, &made)) {
     return;
   }
   CloseHandle(made.hThread);
   handle_ = made.hProcess;
   id_ = made.dwProcessId;
-}
-
-Process::Process(Process&& other) noexcept
-    : handle_(std::exchange(other.handle_, nullptr)), id_(std::exchange(other.id_, 0)) {}
-
-Process& Process::operator=(Process&& other) noexcept {
-  std::swap(handle_, other.handle_);
-  std::swap(id_, other.id_);
-  return *this;
 }
 
 std::optional<DWORD> Process::WaitForExit(DWORD milliseconds) const {

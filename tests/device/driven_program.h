@@ -20,14 +20,13 @@ bool WaitUntil(const std::function<bool()>& condition, DWORD milliseconds = kPat
 // A process of our own; one that still runs is ended with its owner.
 class Process {
  public:
-  Process() = default;
-  // `commandLine` stands behind the program's quoted path, after one blank, exactly as given.
-  Process(const std::wstring& path, const std::wstring& commandLine);
-  Process(Process&& other) noexcept;
-  Process& operator=(Process&& other) noexcept;
+  // `commandLine` stands behind the program's quoted path, after one blank, exactly as given. What
+  // it prints goes to `output`, where that is not null.
+  Process(const std::wstring& path, const std::wstring& commandLine, HANDLE output = nullptr);
+  Process(const Process&) = delete;
+  Process& operator=(const Process&) = delete;
   ~Process() { Kill(); }
 
-  bool Started() const { return handle_ != nullptr; }
   HANDLE Handle() const { return handle_; }
   DWORD Id() const { return id_; }
   // Nothing while it runs on after that time.
@@ -44,6 +43,8 @@ class DrivenProgram {
   explicit DrivenProgram(const std::wstring& commandLine = L"");
 
   Process& GetProcess() { return process_; }
+  // Whether the program ended as it should.
+  bool Ended() const { return process_.WaitForExit() == 0u; }
   // The main window once it is visible and painted; null when that never comes.
   HWND WaitForMainWindow();
   // A message box or a dialog over the main window, visible and painted.

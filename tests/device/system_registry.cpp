@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <fstream>
+#include <iterator>
 #include <sstream>
 
 #include "driven_program.h"
@@ -12,37 +14,17 @@ namespace {
 
 constexpr wchar_t kRegTool[] = L"C:\\windows\\system32\\reg.exe";
 constexpr wchar_t kImportFile[] = L"C:\\device_test.reg";
+constexpr wchar_t kPrinted[] = L"C:\\device_test.printed";
 constexpr char kProductKeyInFull[] = "HKEY_CURRENT_USER\\Software\\Velmont\\Tidewell";
 
+// What the tool prints stays in a file.
 bool RunRegTool(const std::wstring& arguments) {
-  return Process(kRegTool, arguments).WaitForExit() == 0u;
-}
-
-// What the tool prints, through a pipe of its own.
-std::string ReadRegTool(const std::wstring& arguments) {
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-  HANDLE from = nullptr;
-  HANDLE to = nullptr;
-  CreatePipe(&from, &to, &inherited, 0);
-  SetHandleInformation(from, HANDLE_FLAG_INHERIT, 0);
-  STARTUPINFOW start{};
-  start.cb = sizeof start;
-  start.dwFlags = STARTF_USESTDHANDLES;
-  start.hStdOutput = to;
-  PROCESS_INFORMATION made{};
-  std::wstring line = std::wstring(kRegTool) + L" " + arguments;
-  const bool started = CreateProcessW(kRegTool, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                      nullptr, &start, &made);
-  CloseHandle(to);
-  std::string output;
-  char buffer[4096];
-  DWORD read = 0;
-  while (ReadFile(from, buffer, sizeof buffer, &read, nullptr) && read) output.append(buffer, read);
-  CloseHandle(from);
-  if (!started) return {};
-  CloseHandle(made.hThread);
-  CloseHandle(made.hProcess);
-  return output;
+  const HANDLE printed =
+      CreateFileW(kPrinted, GENERIC_WRITE, 0, &inherited, CREATE_ALWAYS, 0, nullptr);
+  const bool done = Process(kRegTool, arguments, printed).WaitForExit() == 0u;
+  CloseHandle(printed);
+  return done;
 }
 
 // "    name    REG_SZ    data" with its three parts told apart.
@@ -56,13 +38,17 @@ std::string ShownValue(const std::string& line) {
 
 }  // namespace
 
+std::string ReadFileBytes(const wchar_t* path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteFileBytes(const wchar_t* path, const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
 bool ImportRegistry(const std::string& text) {
-  const HANDLE file =
-      CreateFileW(kImportFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-  const std::string whole = "REGEDIT4\r\n\r\n" + text;
-  DWORD written = 0;
-  WriteFile(file, whole.data(), static_cast<DWORD>(whole.size()), &written, nullptr);
-  CloseHandle(file);
+  WriteFileBytes(kImportFile, "REGEDIT4\r\n\r\n" + text);
   const bool taken = RunRegTool(std::wstring(L"import ") + kImportFile);
   DeleteFileW(kImportFile);
   return taken;
@@ -75,7 +61,8 @@ bool AddValue(const std::wstring& subkey, const std::wstring& name, const std::w
 }
 
 std::string QueryProductTree() {
-  std::istringstream lines(ReadRegTool(std::wstring(L"query ") + kProductKey + L" /s"));
+  RunRegTool(std::wstring(L"query ") + kProductKey + L" /s");
+  std::istringstream lines(ReadFileBytes(kPrinted));
   std::string shown;
   std::string head;
   for (std::string line; std::getline(lines, line);) {

@@ -19,6 +19,10 @@ bool AddValue(const std::wstring& subkey, const std::wstring& name, const std::w
 // Empty when there is no such key.
 std::string QueryProductTree();
 
+// A file's bytes; empty for none.
+std::string ReadFileBytes(const wchar_t* path);
+void WriteFileBytes(const wchar_t* path, const std::string& bytes);
+
 // Takes the product's keys away as if it had never run.
 void ForgetProductKeys();
 

@@ -60,6 +60,9 @@ TEST_F(PageWindow, KeysWalkThroughWhatCanBeUsedAndTurnTheTabs) {
   SetFocus(host_.Get());
   SetFocus(page_->Window());
   EXPECT_EQ(FocusedId(), 1203) << "the focus comes back with the window";
+  NMHDR hiding{Tabs(), 0, static_cast<UINT>(TCN_SELCHANGING)};
+  SendMessageW(page_->Window(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&hiding));
+  EXPECT_EQ(GetFocus(), Tabs()) << "and leaves a tab that is hidden";
 }
 
 // ---- More rows than the screen has room for
