@@ -8,7 +8,7 @@
 
 #include "device_fixture.h"
 #include "settings/settings_store.h"
-#include "tests/settings/store_fixture.h"
+#include "tests/support/setting_lines.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell::device {

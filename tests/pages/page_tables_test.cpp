@@ -7,7 +7,7 @@
 #include "pages/page_list.h"
 #include "platform/text.h"
 #include "tests/pages/page_fixture.h"
-#include "tests/settings/store_fixture.h"
+#include "tests/support/setting_lines.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
