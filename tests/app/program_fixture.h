@@ -51,11 +51,11 @@ class ProgramTest : public testing::Test {
             [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
             [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
               asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
-              return answer;
+              return IDNO;
             },
             [this](const DialogContext&, FileNameRequest& request) {
-              backupsAsked.push_back(request.title + L"|" + request.folder + L"|" +
-                                     request.initialName + L"|" + request.extension);
+              backupAsked = request.title + L"|" + request.folder + L"|" + request.initialName +
+                            L"|" + request.extension;
               request.resultPath = backup;
               return !backup.empty();
             }};
@@ -71,10 +71,8 @@ class ProgramTest : public testing::Test {
 
   HWND Window() const { return program->Window(); }
   bool IsOpen() const { return program->Window() != nullptr; }
-  void TapBar(bool right) {
-    const RECT client = ClientRect(Window());
-    Tap(Window(), {right ? client.right - 5 : 5, client.bottom - 5});
-  }
+  void TapAt(LONG y, bool right) { Tap(Window(), {right ? ClientRect(Window()).right - 5 : 5, y}); }
+  void TapBar(bool right) { TapAt(ClientRect(Window()).bottom - 5, right); }
   void RunRow(int row) {
     for (int i = 0; i < 13; ++i) PressKey(Window(), VK_UP);
     for (int i = 0; i < row; ++i) PressKey(Window(), VK_DOWN);
@@ -95,9 +93,7 @@ class ProgramTest : public testing::Test {
   // A page is a bare window over its host; none unless a test wants pages.
   class Page final : public HostedPage {
    public:
-    Page(HWND host, int& destroyed)
-        : window_(0x90000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), WindowRect(host), host),
-          destroyed_(destroyed) {}
+    Page(HWND host, int& destroyed) : window_(WS_POPUP, 0, {}, host), destroyed_(destroyed) {}
     ~Page() override { ++destroyed_; }
     HWND Window() const override { return window_.Get(); }
 
@@ -105,29 +101,23 @@ class ProgramTest : public testing::Test {
     TestWindow window_;
     int& destroyed_;
   };
-
   std::unique_ptr<HostedPage> MakePage(int page, HWND host) {
-    pagesAsked.push_back(page);
-    captionsSeen.push_back(CaptionOf(host));
-    if (!hasPages) return nullptr;
-    auto made = std::make_unique<Page>(host, pagesDestroyed);
-    pageWindow = made->Window();
-    return made;
+    pageAsked = page;
+    captionSeen = CaptionOf(host);
+    return hasPages ? std::make_unique<Page>(host, pagesDestroyed) : nullptr;
   }
 
   MemoryMachine device;
   MeteredRegistry registry{device.registry};
   std::unique_ptr<MainWindow> program;
   std::vector<PimCategory> categories;
-  std::vector<std::wstring> asked;
-  int answer = IDNO;
-  std::wstring backup;  // chosen in the file name dialog; empty cancels it
-  std::vector<std::wstring> backupsAsked;
+  std::vector<std::wstring> asked;  // each question, answered with no
+  std::wstring backup;              // chosen in the file name dialog; empty cancels it
+  std::wstring backupAsked;
   bool hasPages = false;
-  std::vector<int> pagesAsked;
-  std::vector<std::wstring> captionsSeen;
+  int pageAsked = -1;
+  std::wstring captionSeen;
   int pagesDestroyed = 0;
-  HWND pageWindow = nullptr;
 };
 
 }  // namespace tidewell

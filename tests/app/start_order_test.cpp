@@ -8,46 +8,36 @@ namespace {
 
 using Journal = std::vector<std::wstring>;
 
-class JournalLibraries final : public ResourceLibraries {
+class JournalLibrary final : public ResourceLibrary {
  public:
-  explicit JournalLibraries(Journal& journal) : journal_(journal) {}
-  std::unique_ptr<ResourceLibrary> Load(const std::wstring& path) override {
-    journal_.push_back(L"load " + path);
-    return std::make_unique<Library>(path, journal_);
+  JournalLibrary(std::wstring path, Journal& journal) : path_(std::move(path)), journal_(journal) {
+    journal_.push_back(L"load " + path_);
   }
+  ~JournalLibrary() override { journal_.push_back(L"free " + path_); }
+  std::optional<std::wstring> FindText(std::uint32_t) const override { return std::nullopt; }
+  void* Handle() const override { return nullptr; }
 
  private:
-  class Library final : public ResourceLibrary {
-   public:
-    Library(std::wstring path, Journal& journal) : path_(std::move(path)), journal_(journal) {}
-    ~Library() override { journal_.push_back(L"free " + path_); }
-    std::optional<std::wstring> FindText(std::uint32_t) const override { return std::nullopt; }
-    void* Handle() const override { return nullptr; }
-
-   private:
-    std::wstring path_;
-    Journal& journal_;
-  };
-
+  std::wstring path_;
   Journal& journal_;
 };
 
-class JournalSystem final : public System {
- public:
-  JournalSystem(Journal& journal, const MeteredRegistry& registry)
-      : journal_(journal), registry_(registry) {}
+// Notes down as well how many keys were opened before it was asked for the screen.
+struct JournalMachine final : ResourceLibraries, System {
+  explicit JournalMachine(const MeteredRegistry& metered) : registry(metered) {}
+  std::unique_ptr<ResourceLibrary> Load(const std::wstring& path) override {
+    return std::make_unique<JournalLibrary>(path, journal);
+  }
   ScreenFacts Screen() override {
-    const int keys = registry_.Count(RegistryCall::kOpen) + registry_.Count(RegistryCall::kCreate);
-    journal_.push_back(L"screen after " + std::to_wstring(keys) + L" key");
+    const int keys = registry.Count(RegistryCall::kOpen) + registry.Count(RegistryCall::kCreate);
+    journal.push_back(L"screen after " + std::to_wstring(keys) + L" key");
     return screen;
   }
   SystemVersion Version() override { return {}; }
 
+  const MeteredRegistry& registry;
   ScreenFacts screen;
-
- private:
-  Journal& journal_;
-  const MeteredRegistry& registry_;
+  Journal journal;
 };
 
 class StartOrderTest : public ProgramTest {
@@ -58,12 +48,11 @@ class StartOrderTest : public ProgramTest {
       journal.push_back(L"categories " + icons);
       return std::make_unique<ListedCategories>(categories);
     };
-    StartOn({registry, device.files, device.locale, libraries, system}, std::move(parts));
+    StartOn({registry, device.files, device.locale, machine, machine}, std::move(parts));
   }
 
-  Journal journal;
-  JournalLibraries libraries{journal};
-  JournalSystem system{journal, registry};
+  JournalMachine machine{registry};
+  Journal& journal = machine.journal;
 };
 
 TEST_F(StartOrderTest, ScaleSettingsLibrariesCategoriesAndEverythingIsFreedInOrder) {
@@ -86,7 +75,7 @@ TEST_F(StartOrderTest, TheScreenChoosesTheResolutionLibrary) {
     const wchar_t* library;
   } cases[] = {{131, 0, L"LowDpiRes.dll"}, {144, 0, L"HighDpiRes.dll"}, {96, 1, L"HighDpiRes.dll"}};
   for (const auto& c : cases) {
-    system.screen.dpiX = system.screen.dpiY = c.dpi;
+    machine.screen.dpiX = machine.screen.dpiY = c.dpi;
     SetDword(L"MyVgaMode", c.vgaMode);
     journal.clear();
     StartWithJournal();
@@ -103,26 +92,6 @@ TEST_F(ProgramTest, ARunningInstanceIsFoundAlsoWhileAPageHasTakenItsCaption) {
   RunRow(0);
   ASSERT_EQ(CaptionOf(Window()), L"");
   EXPECT_TRUE(BringRunningInstanceForward());
-}
-
-// Waits for its turn on a thread of its own, as a second process would.
-DWORD WINAPI TryToStart(void* started) {
-  StartTurn turn;
-  SetEvent(static_cast<HANDLE>(started));
-  return 0;
-}
-
-TEST(StartTurn, StartsGoOneAfterTheOther) {
-  const HANDLE started = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-  StartTurn first;
-  ASSERT_TRUE(first.IsOurs());
-  const HANDLE thread = CreateThread(nullptr, 0, TryToStart, started, 0, nullptr);
-  EXPECT_EQ(WaitForSingleObject(started, 20), static_cast<DWORD>(WAIT_TIMEOUT));
-  first.End();
-  EXPECT_EQ(WaitForSingleObject(started, 5000), WAIT_OBJECT_0);
-  WaitForSingleObject(thread, 5000);
-  CloseHandle(thread);
-  CloseHandle(started);
 }
 
 }  // namespace

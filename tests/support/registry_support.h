@@ -21,10 +21,8 @@ bool SetBinary(Registry& registry, RegistryRoot root, const std::wstring& path,
 bool SetRaw(Registry& registry, RegistryRoot root, const std::wstring& path,
             const std::wstring& name, std::uint32_t type, std::span<const std::byte> data);
 
-// Nothing when the key or the value is absent, or is no number of four bytes or no string.
+// Nothing when the key or the value is absent, or is no number of four bytes.
 std::optional<std::uint32_t> FindDword(Registry& registry, RegistryRoot root,
-                                       const std::wstring& path, const std::wstring& name);
-std::optional<std::wstring> FindString(Registry& registry, RegistryRoot root,
                                        const std::wstring& path, const std::wstring& name);
 
 // The whole tree as UTF-8 text, whatever the order of enumeration: names sorted, a key's values

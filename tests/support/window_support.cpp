@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/gdi.h"
-
 namespace tidewell {
 
 namespace {
@@ -15,22 +13,6 @@ constexpr wchar_t kTestClass[] = L"TidewellTestWindow";
 std::function<void()>& ModalAction() {
   static std::function<void()> action;
   return action;
-}
-
-struct Search {
-  const wchar_t* className;
-  HWND owner;  // null: whatever the owner
-  HWND found;
-};
-
-BOOL CALLBACK Compare(HWND window, LPARAM data) {
-  auto& search = *reinterpret_cast<Search*>(data);
-  wchar_t name[64];
-  GetClassNameW(window, name, ARRAYSIZE(name));
-  if (std::wstring(name) != search.className) return TRUE;
-  if (search.owner && GetWindow(window, GW_OWNER) != search.owner) return TRUE;
-  search.found = window;
-  return FALSE;
 }
 
 }  // namespace
@@ -46,20 +28,22 @@ bool PumpMessages() {
   return ended;
 }
 
-HWND FindOwnWindow(const wchar_t* className) {
-  return FindStrip(nullptr, className);
+HWND FindOwnWindow(const wchar_t* className, HWND owner) {
+  HWND window = nullptr;
+  while ((window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr) {
+    const bool isOurs = GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
+    if (isOurs && (!owner || GetWindow(window, GW_OWNER) == owner)) break;
+  }
+  return window;
 }
 
-HWND FindStrip(HWND owner, const wchar_t* className) {
-  Search search{className, owner, nullptr};
-  EnumThreadWindows(GetCurrentThreadId(), Compare, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+void PostTap(HWND window, POINT point, UINT downMessage) {
+  PostMessageW(window, downMessage, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+  PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
 }
 
 void Tap(HWND window, POINT point) {
-  const LPARAM where = MAKELPARAM(point.x, point.y);
-  PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, where);
-  PostMessageW(window, WM_LBUTTONUP, 0, where);
+  PostTap(window, point);
   PumpMessages();
 }
 
@@ -87,20 +71,10 @@ std::wstring CaptionOf(HWND window) {
 }
 
 Screenshot::Screenshot(HWND window)
-    : width_(ClientRect(window).right), height_(ClientRect(window).bottom) {
-  const WindowDc screen(window);
-  MemoryBitmap copy(screen.Dc(), width_, height_);
-  BitBlt(copy.Dc(), 0, 0, width_, height_, screen.Dc(), 0, 0, SRCCOPY);
-  pixels_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
-  for (int y = 0; y < height_; ++y) {
-    for (int x = 0; x < width_; ++x) {
-      pixels_[static_cast<std::size_t>(y * width_ + x)] = GetPixel(copy.Dc(), x, y);
-    }
-  }
-}
-
-COLORREF Screenshot::At(int x, int y) const {
-  return pixels_[static_cast<std::size_t>(y * width_ + x)];
+    : width_(ClientRect(window).right),
+      height_(ClientRect(window).bottom),
+      copy_(WindowDc(window).Dc(), width_, height_) {
+  BitBlt(copy_.Dc(), 0, 0, width_, height_, WindowDc(window).Dc(), 0, 0, SRCCOPY);
 }
 
 int Screenshot::FirstDrawnRow(int top) const {
@@ -147,10 +121,7 @@ LRESULT CALLBACK TestWindow::WindowProc(HWND window, UINT message, WPARAM wParam
         reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
   }
   auto* self = reinterpret_cast<TestWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self) {
-    self->messages.push_back({message, wParam, lParam});
-    self->onMessage(self->messages.back());
-  }
+  if (self) self->messages.push_back({message, wParam});
   return DefWindowProcW(window, message, wParam, lParam);
 }
 

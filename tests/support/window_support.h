@@ -4,9 +4,10 @@
 #include <windows.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
+
+#include "platform/gdi.h"
 
 namespace tidewell {
 
@@ -14,11 +15,11 @@ namespace tidewell {
 // program's loop.
 bool PumpMessages();
 
-// The window of a class that this thread shows, or null.
-HWND FindOwnWindow(const wchar_t* className);
-// A window's strip of a class, such as its title strip; null where it has none.
-HWND FindStrip(HWND owner, const wchar_t* className);
+// The window of a class that this thread shows, of an owner when that is not null; or null.
+HWND FindOwnWindow(const wchar_t* className, HWND owner = nullptr);
 
+void PostTap(HWND window, POINT point, UINT downMessage = WM_LBUTTONDOWN);
+// These wait until all that they caused was dealt with.
 void Tap(HWND window, POINT point);
 void PressKey(HWND window, WPARAM key);
 
@@ -32,14 +33,14 @@ class Screenshot {
   explicit Screenshot(HWND window);
   int Width() const { return width_; }
   int Height() const { return height_; }
-  COLORREF At(int x, int y) const;
+  COLORREF At(int x, int y) const { return GetPixel(copy_.Dc(), x, y); }
   // The first row from `top` on that is not of one colour; the height where there is none.
   int FirstDrawnRow(int top) const;
 
  private:
   int width_;
   int height_;
-  std::vector<DWORD> pixels_;
+  MemoryBitmap copy_;
 };
 
 // Where the system is to place a program's main window.
@@ -51,7 +52,6 @@ class TestWindow {
   struct Message {
     UINT id;
     WPARAM wParam;
-    LPARAM lParam;
   };
 
   TestWindow(DWORD style, DWORD extendedStyle, const RECT& place = {0, 0, 100, 100},
@@ -65,8 +65,6 @@ class TestWindow {
   // The commands received, in order; forgets all messages.
   std::vector<int> TakeCommands();
   std::vector<Message> messages;
-  // Called for every message before the system's own answer.
-  std::function<void(const Message&)> onMessage = [](const Message&) {};
 
  private:
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -15,21 +15,15 @@ constexpr UINT kPeriod = 10;  // milliseconds
 
 DialogDriver* running = nullptr;
 
-void PostTap(HWND window, UINT downMessage, LONG x, LONG y) {
-  PostMessageW(window, downMessage, MK_LBUTTON, MAKELPARAM(x, y));
-  PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
-}
-
 void PostTapOnRow(UINT downMessage, int row) {
   RECT place{};
   ListView_GetItemRect(List(), row, &place, LVIR_LABEL);
-  PostTap(List(), downMessage, place.left + 4, (place.top + place.bottom) / 2);
+  PostTap(List(), {place.left + 4, (place.top + place.bottom) / 2}, downMessage);
 }
 
 void TapSoftKey(int quarter) {
   const HWND bar = SHFindMenuBar(FrontDialog());
-  const RECT area = ClientRect(bar);
-  PostTap(bar, WM_LBUTTONDOWN, area.right * quarter / 4, area.bottom / 2);
+  PostTap(bar, {ClientRect(bar).right * quarter / 4, 1});
 }
 
 }  // namespace
@@ -89,12 +83,11 @@ HWND List() {
 }
 
 std::wstring RowsShown() {
-  constexpr int kShortList = 10;
   const int marked = ListView_GetNextItem(List(), -1, LVNI_SELECTED);
   const int count = ListView_GetItemCount(List());
   std::wstring rows;
   for (int row = 0; row < count; ++row) {
-    if (count > kShortList && row != marked) continue;
+    if (count > 10 && row != marked) continue;
     wchar_t text[300] = {};
     ListView_GetItemText(List(), row, 0, text, 300);
     rows.append(rows.empty() ? L" " : L", ").append(row == marked ? L">" : L"").append(text);

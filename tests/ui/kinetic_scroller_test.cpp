@@ -33,15 +33,13 @@ class Recorder : public ScrollerHost, public ScrollerClient {
   void Update() override { Note("update"); }
   void Wait(unsigned milliseconds) override { Note("wait", milliseconds); }
 
-  int Paint(int clientId, void* surface, void* context, int offset, int, int) override {
-    EXPECT_EQ(clientId, 7);
+  int Paint(int, void* surface, void* context, int offset, int, int) override {
     EXPECT_EQ(surface, this);
     if (context) Note("context");
     Note("paint", offset);
     return contentHeight;
   }
-  bool Highlight(int clientId, int x, int contentY) override {
-    EXPECT_EQ(clientId, 7);
+  bool Highlight(int, int x, int contentY) override {
     Note("highlight", x, contentY);
     return repaintHighlight;
   }
@@ -83,16 +81,13 @@ std::vector<Gesture> ReadGestures() {
   std::ifstream file(TIDEWELL_GESTURES);
   bool inGesture = false;
   for (std::string line; std::getline(file, line); inGesture = !line.empty()) {
-    line.erase(std::min(line.find("  #"), line.size()));
-    if (line.empty() || line[0] == '#') {
-      line.clear();
-    } else if (inGesture) {
+    line.erase(std::min(line.find(line[0] == '#' ? "#" : "  #"), line.size()));
+    if (inGesture && !line.empty()) {
       gestures.back().transcript.append(line).append("\n");
-    } else {
+    } else if (!line.empty()) {
       Gesture& gesture = gestures.emplace_back();
-      std::istringstream heading(line);
-      heading >> gesture.name >> gesture.contentHeight >> gesture.offset;
-      if (int dpi = 0; heading >> dpi) gesture.dpi = dpi;
+      std::istringstream(line) >> gesture.name >> gesture.contentHeight >> gesture.offset >>
+          gesture.dpi;
     }
   }
   return gestures;
@@ -100,9 +95,9 @@ std::vector<Gesture> ReadGestures() {
 
 class Gestures : public testing::TestWithParam<Gesture> {
  protected:
-  void Initialise(ScrollerClient* client, int dpi) {
-    constexpr ScrollView kView{10, 20, 200, 100};
-    scroller_.Initialise(7, recorder_, client, ScreenScale(dpi, dpi, false), kView);
+  void Initialise(ScrollerClient* client) {
+    const ScreenScale scale(GetParam().dpi, GetParam().dpi, false);
+    scroller_.Initialise(7, recorder_, client, scale, {10, 20, 200, 100});
   }
 
   std::string Perform(const std::string& input) {
@@ -122,12 +117,12 @@ class Gestures : public testing::TestWithParam<Gesture> {
         {"resize", [&] { return scroller_.Resize(200, first); }},
         {"context", [&] { return scroller_.SetPaintContext(first ? this : nullptr, second); }},
         {"show", [&] { return scroller_.BringIntoView(first, second), true; }},
-        {"initialise", [&] { return Initialise(&recorder_, 96), true; }},
-        {"clientless", [&] { return Initialise(nullptr, 96), true; }},
+        {"initialise", [&] { return Initialise(&recorder_), true; }},
+        {"clientless", [&] { return Initialise(nullptr), true; }},
         {"grow", [&] { return recorder_.contentHeight = first; }},
         {"unmarked", [&] { return !(recorder_.repaintHighlight = false); }},
         {"refilling", [&] {
-           recorder_.onActivate = [this] { Initialise(&recorder_, 96); };
+           recorder_.onActivate = [this] { Initialise(&recorder_); };
            return true;
          }}};
     if (verb == "run") return Run();
@@ -155,7 +150,7 @@ INSTANTIATE_TEST_SUITE_P(Every, Gestures, testing::ValuesIn(ReadGestures()),
 
 TEST_P(Gestures, FollowTheRules) {
   recorder_.contentHeight = GetParam().contentHeight;
-  Initialise(&recorder_, GetParam().dpi);
+  Initialise(&recorder_);
   scroller_.BringIntoView(-GetParam().offset, -GetParam().offset + 100);
   recorder_.TakeNotes();
   std::istringstream lines(GetParam().transcript);

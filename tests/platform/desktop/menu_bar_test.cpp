@@ -14,7 +14,6 @@ namespace {
 constexpr UINT kSampleBar = 100;
 constexpr UINT kBrokenBar = 103;
 constexpr UINT kMenuOnly = 104;
-constexpr UINT kAbsentBar = 9999;
 
 class MenuBarTest : public testing::Test {
  protected:
@@ -39,29 +38,11 @@ class MenuBarTest : public testing::Test {
   TestWindow window{0x90000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), {0, 60, 200, 200}};
 };
 
-TEST_F(MenuBarTest, KeysComeFromTheResourceOrAMenu) {
-  const struct {
-    UINT id;
-    DWORD flags;
-    int leftCommand;
-    UINT popup;
-  } cases[] = {
-      {kSampleBar, 0, 11, 12},
-      {kMenuOnly, SHCMBF_HMENU, 31, 0},
-      {kSampleBar, SHCMBF_EMPTYBAR, 0, 0},
-      {kBrokenBar, 0, 0, 0},
-      {kAbsentBar, 0, 0, 0},
-      {kAbsentBar, SHCMBF_HMENU, 0, 0},
-  };
-  for (const auto& c : cases) {
-    const HWND bar = CreateBar(c.id, c.flags);
-    ASSERT_NE(bar, nullptr) << c.id;
-    EXPECT_EQ(TapKey(bar, false), c.leftCommand) << c.id;
-    const auto popup = reinterpret_cast<HMENU>(SendMessageW(bar, SHCMBM_GETSUBMENU, 0, c.popup));
-    EXPECT_EQ(GetMenuItemCount(popup), c.popup ? 2 : -1) << c.id;
-    if (c.leftCommand != 0) continue;
-    EXPECT_EQ(TapKey(bar, true), 0) << c.id;
-  }
+TEST_F(MenuBarTest, TheLeftKeyComesFromTheResourceOrAMenu) {
+  EXPECT_EQ(TapKey(CreateBar(kSampleBar), false), 11);
+  EXPECT_EQ(TapKey(CreateBar(kMenuOnly, SHCMBF_HMENU), false), 31);
+  EXPECT_EQ(TapKey(CreateBar(kSampleBar, SHCMBF_EMPTYBAR), false), 0);
+  EXPECT_EQ(TapKey(CreateBar(kBrokenBar), false), 0);
 }
 
 TEST_F(MenuBarTest, KeysAreChangedByAToolbarsMessages) {
@@ -69,13 +50,9 @@ TEST_F(MenuBarTest, KeysAreChangedByAToolbarsMessages) {
   EXPECT_TRUE(SendMessageW(bar, TB_ENABLEBUTTON, 11, FALSE));
   EXPECT_FALSE(SendMessageW(bar, TB_ISBUTTONENABLED, 11, 0));
   EXPECT_EQ(TapKey(bar, false), 0);
-  EXPECT_FALSE(SendMessageW(bar, TB_ENABLEBUTTON, 77, TRUE));
 
-  TBBUTTONINFOW info{};
-  info.cbSize = sizeof info;
-  info.dwMask = TBIF_COMMAND | TBIF_STATE;
-  info.idCommand = 15;
-  info.fsState = TBSTATE_ENABLED;
+  TBBUTTONINFOW info{
+      sizeof info, TBIF_COMMAND | TBIF_STATE, 15, 0, TBSTATE_ENABLED, 0, 0, 0, nullptr, 0};
   EXPECT_TRUE(SendMessageW(bar, TB_SETBUTTONINFOW, 11, reinterpret_cast<LPARAM>(&info)));
   EXPECT_EQ(TapKey(bar, false), 15);
 }

@@ -1,0 +1,47 @@
+// The contracts' answers by the twins in memory.
+#include "platform/memory/memory_machine.h"
+#include "platform/memory/metered_files.h"
+#include "platform/memory/metered_registry.h"
+#include "tests/platform/contracts.h"
+
+namespace tidewell {
+
+namespace {
+
+struct MeteredMemoryRegistry {
+  MemoryRegistry memory;
+  MeteredRegistry metered{memory};
+};
+
+class MemoryFilesUnderTest final : public FilesUnderTest {
+ public:
+  MemoryFilesUnderTest() { files_.Put(L"\\Temp\\Test\\", ""); }
+  Files& Door() override { return metered_; }
+  std::wstring Folder() const override { return L"\\Temp\\Test"; }
+  std::shared_ptr<void> Lock(const std::wstring& path) override {
+    files_.SetLocked(path, true);
+    return {&files_, [path](MemoryFiles* files) { files->SetLocked(path, false); }};
+  }
+  void MakeReadOnly(const std::wstring& path) override { files_.SetReadOnly(path, true); }
+
+ private:
+  MemoryFiles files_;
+  MeteredFiles metered_{files_};
+};
+
+}  // namespace
+
+std::vector<Answer<Registry>> RegistryAnswers() {
+  using Order = MemoryRegistry::Order;
+  return {{"Sorted", [] { return std::make_shared<MemoryRegistry>(Order::kSorted); }},
+          {"Metered", [] {
+             const auto both = std::make_shared<MeteredMemoryRegistry>();
+             return std::shared_ptr<Registry>(both, &both->metered);
+           }}};
+}
+
+std::vector<Answer<FilesUnderTest>> FilesAnswers() {
+  return {{"Metered", [] { return std::make_shared<MemoryFilesUnderTest>(); }}};
+}
+
+}  // namespace tidewell
