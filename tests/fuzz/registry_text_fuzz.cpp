@@ -1,30 +1,19 @@
-#include <string>
-
 #include "tests/fuzz/fuzz_targets.h"
 #include "tests/support/catalog_support.h"
 
 namespace tidewell::fuzz {
 
-namespace {
-
-// With names that the seeds and the dictionary use.
-std::wstring ExportAfter(Bytes bytes, bool& accepted) {
+// Whatever was read, the device has a backup that the reader takes, no line of it too long.
+void registry_text(Bytes bytes) {
   static MemoryMachine machine;
   static const SettingsStore store;
   MemoryRegistry registry;
   CategoryCatalog catalog(machine.Door(), store);
   catalog.Add({L"Home", 1, false});
   catalog.Add({L"Work", 2, true});
-  accepted = ImportBytes(registry, catalog, bytes);
-  return ExportText(registry, catalog);
-}
+  ImportBytes(registry, catalog, bytes);
 
-}  // namespace
-
-// Whatever was read, the device has a backup that the reader takes, no line of it too long.
-void registry_text(Bytes bytes) {
-  bool accepted = false;
-  const std::wstring backup = ExportAfter(bytes, accepted);
+  const std::wstring backup = ExportText(registry, catalog);
   Require(backup.starts_with(L"\n[Software\\Velmont\\Tidewell]\n"));
   Require(backup.find(L"\n[::Categories::]\n\"Category\"=\"Home\"\n") != std::wstring::npos);
   for (std::size_t start = 0; start < backup.size();) {
@@ -32,9 +21,7 @@ void registry_text(Bytes bytes) {
     Require(end - start < kBackupLimits.lineCapacity);
     start = end + 1;
   }
-  bool again = false;
-  ExportAfter(BytesOf(backup), again);
-  Require(again);
+  Require(ImportText(registry, catalog, backup));
 }
 
 }  // namespace tidewell::fuzz

@@ -3,20 +3,18 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <vector>
+#include <string>
 
 #include "tests/fuzz/fuzz_targets.h"
 
 namespace tidewell::fuzz {
 namespace {
 
-void FeedSeeds(const char* folder, void (*target)(Bytes)) {
+void FeedSeeds(const std::string& folder, void (*target)(Bytes)) {
   int count = 0;
-  for (const auto& entry :
-       std::filesystem::directory_iterator(std::filesystem::path(TIDEWELL_FUZZ_SEEDS) / folder)) {
-    SCOPED_TRACE(entry.path().string());
+  for (const auto& entry : std::filesystem::directory_iterator(TIDEWELL_FUZZ_SEEDS + folder)) {
     std::ifstream file(entry.path(), std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     target(std::as_bytes(std::span(bytes)));
     ++count;
   }
@@ -24,9 +22,9 @@ void FeedSeeds(const char* folder, void (*target)(Bytes)) {
 }
 
 TEST(FuzzSeeds, EveryTargetTakesItsOwn) {
-  FeedSeeds("registry_text", registry_text);
-  FeedSeeds("filters_file", filters_file);
-  FeedSeeds("pim_volume", pim_volume);
+  FeedSeeds("/registry_text", registry_text);
+  FeedSeeds("/filters_file", filters_file);
+  FeedSeeds("/pim_volume", pim_volume);
 }
 
 }  // namespace

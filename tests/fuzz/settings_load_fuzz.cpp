@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 
 #include "platform/memory/memory_machine.h"
 #include "tests/fuzz/fuzz_targets.h"
@@ -9,37 +8,32 @@ namespace tidewell::fuzz {
 
 namespace {
 
-Bytes Take(Bytes& input, std::size_t count) {
-  const Bytes taken = input.first(std::min(count, input.size()));
-  input = input.subspan(taken.size());
-  return taken;
-}
-
 std::uint8_t TakeNumber(Bytes& input) {
-  const Bytes taken = Take(input, 1);
-  return taken.empty() ? std::uint8_t{0} : std::to_integer<std::uint8_t>(taken[0]);
+  if (input.empty()) return 0;
+  const auto number = std::to_integer<std::uint8_t>(input[0]);
+  input = input.subspan(1);
+  return number;
 }
 
-// Each record is a setting (or a hosted tab's value), a type, a size and data.
+// Each record is a setting (or a hosted tab's order), a type, a size and data.
 void Fill(Registry& registry, Bytes input) {
   static SettingsStore catalogue;
   static const SettingLines lines(catalogue);
-  constexpr std::array kHostedNames = {L"Enabled", L"Order",       L"Type",
-                                       L"DLL",     L"InstallPath", L"CustomIconName"};
   while (!input.empty()) {
     const std::size_t low = TakeNumber(input);
     const std::size_t index = low | std::size_t{TakeNumber(input)} << 8;
     const std::uint32_t type = TakeNumber(input);
-    const Bytes data = Take(input, TakeNumber(input));
+    const std::size_t size = TakeNumber(input);
+    const Bytes data = input.first(std::min(size, input.size()));
+    input = input.subspan(data.size());
     if (index < lines.all.size()) {
       const Setting& setting = *lines.all[index];
       CreateSettingKey(registry, setting.Key()).Get()->Set(setting.Name(), type, data);
-      continue;
+    } else {
+      const KeyLocation tabs = LocationOf(SettingKey::kTabSettings);
+      const std::wstring plugin = {L'\\', static_cast<wchar_t>(L'A' + index % 23)};
+      registry.Create(tabs.root, tabs.path + plugin)->Set(L"Order", type, data);
     }
-    const std::wstring plugin(1 + index % 3, static_cast<wchar_t>(L'A' + index % 23));
-    const auto key = registry.Create(RegistryRoot::kCurrentUser,
-                                     L"Software\\Velmont\\Tidewell\\TabSettings\\" + plugin);
-    key->Set(kHostedNames[index % kHostedNames.size()], type, data);
   }
 }
 
