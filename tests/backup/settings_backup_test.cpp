@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/metered_files.h"
-#include "platform/memory/metered_registry.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/utf8.h"
@@ -13,7 +11,7 @@ namespace {
 
 constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kRoot(kProductKey);
-const std::wstring kInstall = L"\\Program Files\\Velmont\\Tidewell";
+const std::wstring kFiltersFile = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
 const std::wstring kBackup = L"\\My Documents\\a.twsb";
 const std::wstring kCopy = L"\\My Documents\\TW_BeforeImport.twsb";
 
@@ -21,39 +19,24 @@ class SettingsBackupTest : public testing::Test {
  protected:
   SettingsBackupTest() {
     files.Put(L"\\My Documents\\");
-    files.Put(kInstall + L"\\");
+    files.Put(L"\\Program Files\\Velmont\\Tidewell\\");
     SetDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays", 14);
     machine.Start({L"Home", L"Work"});
   }
 
-  ImportResult Import(const std::wstring& path = kBackup) { return ImportBy(backup, path); }
-  ImportResult ImportBy(SettingsBackup& by, const std::wstring& path) {
-    return by.ImportFrom(path, ScreenScale(), machine.language);
-  }
-  SettingsBackup BackupOn(Registry& itsRegistry, Files& itsFiles) {
-    const Machine door = machine.memory.Door();
-    return {{itsRegistry, itsFiles, door.locale, door.libraries, door.system},
-            machine.store,
-            machine.catalog};
+  ImportResult Import(const std::wstring& path = kBackup) {
+    return backup.ImportFrom(path, ScreenScale(), machine.language);
   }
   void PutText(const std::wstring& path, std::wstring_view text) { files.Put(path, BytesOf(text)); }
   std::string TextOf(const std::wstring& path) {
     return Utf8(TextOfBytes(files.Contents(path).value_or(std::vector<std::byte>())));
   }
   std::string Tree() { return DumpTree(registry, kUser, kRoot); }
-  bool BackupIsAlone() {
-    std::wstring names;
-    files.List(L"\\My Documents\\*", [&](const FileEntry& entry) {
-      names += entry.name;
-      return true;
-    });
-    return names == L"a.twsb";
-  }
 
   CatalogMachine machine;
   MemoryRegistry& registry = machine.memory.registry;
   MemoryFiles& files = machine.memory.files;
-  SettingsBackup backup = BackupOn(registry, files);
+  SettingsBackup backup{machine.MeteredDoor(), machine.store, machine.catalog};
 };
 
 TEST_F(SettingsBackupTest, TheDefaultNameBearsTheDate) {
@@ -62,23 +45,24 @@ TEST_F(SettingsBackupTest, TheDefaultNameBearsTheDate) {
 }
 
 TEST_F(SettingsBackupTest, AnExportedAndImportedDeviceIsTheSameAndItsStoresAreSaved) {
-  SetString(registry, kUser, kRoot, L"SkinPath", L"\\Skin");
+  SetString(registry, kUser, kRoot, L"a b%", L"100% \"quoted\" =dword: [\x0100]");
+  SetString(registry, kUser, kRoot + L"\\Tab [1]\\\x4E2D", L"n", std::wstring(127, L'\x20AC'));
   machine.catalog.FindCategory(L"Work")->color = 0xFF;
   machine.catalog.Filters()[0].title = L"Mine";
   machine.catalog.SaveCategoryValues();
   machine.catalog.SaveFiltersFile();
   const std::string tree = Tree();
-  const std::string filters = TextOf(kInstall + L"\\TWFilters.txt");
+  const std::string filters = TextOf(kFiltersFile);
   ASSERT_TRUE(backup.ExportTo(kBackup));
-  EXPECT_TRUE(BackupIsAlone());
 
   registry.DeleteTree(kUser, kRoot);
-  files.Remove(kInstall + L"\\TWFilters.txt");
+  files.Remove(kFiltersFile);
   machine.Start({L"Home", L"Work"});
+  SetDword(registry, kUser, kRoot + L"\\Later", L"x", 1);
   EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 7u);
   ASSERT_EQ(Import(), ImportResult::kDone);
   EXPECT_EQ(Tree(), tree);
-  EXPECT_EQ(TextOf(kInstall + L"\\TWFilters.txt"), filters);
+  EXPECT_EQ(TextOf(kFiltersFile), filters);
   EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 14u);
 }
 
@@ -88,30 +72,25 @@ TEST_F(SettingsBackupTest, AFileThatIsNoBackupChangesNothingAndCostsNoCopy) {
   const std::string tree = Tree();
   EXPECT_EQ(Import(L"\\My Documents\\gone.twsb"), ImportResult::kUnreadable);
   EXPECT_EQ(Import(), ImportResult::kRejected);
+  machine.files.Meter().FailEvery(FileCall::kRead);
+  EXPECT_EQ(Import(), ImportResult::kUnreadable);
   EXPECT_EQ(Tree(), tree);
   EXPECT_EQ(TextOf(kCopy), "kept");
 }
 
 TEST_F(SettingsBackupTest, ThePresentSettingsAreCopiedBeforeTheImportAndComeBackFromTheCopy) {
   SetString(registry, kUser, kRoot, L"SkinPath", std::wstring(900, L's'));
-  SetString(registry, kUser, kRoot, L"Zone", L"after the long one");
-  machine.catalog.FindCategory(L"Home")->color = 5;
-  machine.catalog.SaveCategoryValues();
   const std::string tree = Tree();
-  PutText(kBackup,
-          L"\n[Software\\Velmont\\Tidewell]\n\"OnClick\"=dword:1\n\n[::Categories::]\n"
-          L"\"Category\"=\"Home\"\n\"FiltersFlag\"=dword:0\n\"Color\"=dword:-1\n");
+  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n\"OnClick\"=dword:1\n");
   ASSERT_EQ(Import(), ImportResult::kDone);
   EXPECT_EQ(FindDword(registry, kUser, kRoot, L"OnClick"), 1u);
   EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays"), std::nullopt);
-
   ASSERT_EQ(Import(kCopy), ImportResult::kDone);
   EXPECT_EQ(Tree(), tree);
 }
 
 TEST_F(SettingsBackupTest, TheCategoriesOfTheRecordsWinOverTheirImportedValues) {
   machine.catalog.FindCategory(L"Work")->color = 0xFF;
-  machine.catalog.SaveCategoryValues();
   PutText(kBackup,
           L"\n[Software\\Velmont\\Tidewell]\n\n[Software\\Velmont\\Tidewell\\Categories]\n"
           L"\"CatColor.Work\"=dword:1\n\"CatFilter.Work\"=dword:2\n\"CatColor.Gone\"=dword:3\n");
@@ -122,31 +101,27 @@ TEST_F(SettingsBackupTest, TheCategoriesOfTheRecordsWinOverTheirImportedValues) 
 
 TEST_F(SettingsBackupTest, AKeyThatCannotBeCreatedRejectsTheRestWithoutAReload) {
   PutText(kBackup, L"\n[Software\\Velmont\\Tidewell\\Calendar]\n\"dNumOfDays\"=dword:3\n");
-  MeteredRegistry metered(registry);
-  metered.Meter().FailEvery(RegistryCall::kCreate);
-  SettingsBackup failing = BackupOn(metered, files);
-  EXPECT_EQ(ImportBy(failing, kBackup), ImportResult::kRejected);
+  machine.registry.Meter().FailEvery(RegistryCall::kCreate);
+  EXPECT_EQ(Import(), ImportResult::kRejected);
   EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 14u);
 }
 
 TEST_F(SettingsBackupTest, WhateverFailsABackupIsTheOldOrTheNewOneWhole) {
   ASSERT_TRUE(backup.ExportTo(kBackup));
   const std::string whole = TextOf(kBackup);
-  const std::size_t size = files.Contents(kBackup)->size();
   PutText(kBackup, L"old backup");
   for (int call = 1; call <= 4; ++call) {  // create, write, close, replace
-    MeteredFiles metered(files);
-    metered.Meter().FailNth(call);
-    EXPECT_FALSE(BackupOn(registry, metered).ExportTo(kBackup)) << call;
+    machine.files.Meter().Reset();
+    machine.files.Meter().FailNth(call);
+    EXPECT_FALSE(backup.ExportTo(kBackup)) << call;
     EXPECT_EQ(TextOf(kBackup), "old backup") << call;
-    EXPECT_TRUE(BackupIsAlone()) << call;
+    EXPECT_FALSE(files.Find(kBackup + L".new").has_value()) << call;
   }
-  for (std::size_t room = 0; room < size; room += 97) {
-    files.SetFreeBytes(room);
-    EXPECT_FALSE(backup.ExportTo(kBackup)) << room;
-    EXPECT_EQ(TextOf(kBackup), "old backup") << room;
-  }
-  files.SetFreeBytes(size);
+  machine.files.Meter().Reset();
+  files.SetFreeBytes(whole.size());  // two bytes a unit are twice that
+  EXPECT_FALSE(backup.ExportTo(kBackup));
+  EXPECT_EQ(TextOf(kBackup), "old backup");
+  files.SetFreeBytes({});
   EXPECT_TRUE(backup.ExportTo(kBackup));
   EXPECT_EQ(TextOf(kBackup), whole);
 }

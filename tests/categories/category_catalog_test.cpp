@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "categories/filters_file.h"
-#include "platform/memory/metered_files.h"
-#include "platform/memory/metered_registry.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/utf8.h"
@@ -24,26 +22,18 @@ class Catalog : public testing::Test {
     SetString(registry, kUser, std::wstring(kProductKey), L"TWFiltersFileFolder", L"\\Card");
     machine.Start();
   }
-  void Rebuild(std::vector<PimCategory> categories) {
-    ListedCategories source(std::move(categories));
-    catalog.Rebuild(source, L"Everything");
-  }
-  Machine MeteredDoor() {
-    const Machine door = machine.memory.Door();
-    return {meteredRegistry, meteredFiles, door.locale, door.libraries, door.system};
-  }
 
   CatalogMachine machine;
   MemoryRegistry& registry = machine.memory.registry;
   MemoryFiles& files = machine.memory.files;
-  MeteredRegistry meteredRegistry{registry};
-  MeteredFiles meteredFiles{files};
-  CategoryCatalog catalog{MeteredDoor(), machine.store};
+  CategoryCatalog& catalog = machine.catalog;
 };
 
 TEST_F(Catalog, CategoriesStandByNameAndTheFirstOfEqualNamesStays) {
-  Rebuild({{L"Old", 1}, {L"b", 2}});
-  Rebuild({{L"b", 5}, {L"A", 3}, {L"B", 6}, {L"", 7}, {L"d", PimCategory::kNoId}, {L"c", 65534}});
+  machine.Start({L"Old", L"b"});
+  ListedCategories source(
+      {{L"b", 5}, {L"A", 3}, {L"B", 6}, {L"", 7}, {L"d", PimCategory::kNoId}, {L"c", 65534}});
+  catalog.Rebuild(source, L"Everything");
   std::wstring text;
   for (const auto& category : catalog.Categories()) {
     text += category->name + FormatDecimal(category->pimId) + L" ";
@@ -56,11 +46,12 @@ TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
   SetDword(registry, kUser, kCategories, L"CatColor.Gone", 7);
   SetDword(registry, kUser, kCategories, L"CatColor.C", 8);
   SetBinary(registry, kUser, kCategories, L"CatFilter.C", {1, 2, 3, 4});
-  Rebuild({{L"A", 1}, {L"B \x00DC", 2}, {L"C", 3}});
+  machine.registry.Meter().Reset();
+  machine.Start({L"A", L"B \x00DC", L"C"});
   CategoryRecord& c = *catalog.FindCategory(L"C");
   EXPECT_EQ(c.color, 8u);
   EXPECT_EQ(c.filterFlags, 0x04030201u) << "four bytes of any type";
-  EXPECT_EQ(meteredRegistry.Count(RegistryCall::kCreate), 1);
+  EXPECT_EQ(machine.registry.Count(RegistryCall::kCreate), 1);
 
   c.color = CategoryRecord::kNoColor;
   c.filterFlags = 0;
@@ -72,7 +63,7 @@ TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
   for (int save = 1; save <= 2; ++save) {
     catalog.SaveCategoryValues();
     EXPECT_EQ(DumpTree(registry, kUser, kCategories), saved);
-    EXPECT_EQ(meteredRegistry.CountWrites(), 4);
+    EXPECT_EQ(machine.registry.CountWrites(), 4);
   }
   // Whatever wrote the values since, the records win.
   SetBinary(registry, kUser, kCategories, L"CatColor.A", {0, 0, 0, 0});
@@ -83,8 +74,8 @@ TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
 
 TEST_F(Catalog, ARegistryThatRefusesLeavesTheDefaults) {
   SetDword(registry, kUser, kCategories, L"CatColor.A", 1);
-  meteredRegistry.Meter().FailFrom(1);
-  Rebuild({{L"A", 1}});
+  machine.registry.Meter().FailFrom(1);
+  machine.Start({L"A"});
   EXPECT_EQ(catalog.FindCategory(L"A")->color, CategoryRecord::kNoColor);
   catalog.SaveCategoryValues();
   EXPECT_EQ(FindDword(registry, kUser, kCategories, L"CatColor.A"), 1u);
@@ -94,9 +85,9 @@ TEST_F(Catalog, WhateverCallFailsTheFiltersFileIsTheOldOrTheNewOneAndUnchangedNo
   ASSERT_TRUE(catalog.SaveFiltersFile());
   const auto old = files.Contents(kFiltersFile);
   ASSERT_EQ(old, BytesOf(FormatFilters(DefaultFilters())));
-  meteredFiles.Meter().Reset();
+  machine.files.Meter().Reset();
   EXPECT_TRUE(catalog.SaveFiltersFile());
-  EXPECT_EQ(meteredFiles.Count(FileCall::kOpenForWriting), 0);
+  EXPECT_EQ(machine.files.Count(FileCall::kOpenForWriting), 0);
 
   FilterSet filters = DefaultFilters();
   filters[4].title = catalog.Filters()[4].title = L"Fifth";
@@ -104,8 +95,8 @@ TEST_F(Catalog, WhateverCallFailsTheFiltersFileIsTheOldOrTheNewOneAndUnchangedNo
   int saves = 0;
   for (int n = 1; n <= 10; ++n) {
     files.Put(kFiltersFile, *old);
-    meteredFiles.Meter().Reset();
-    meteredFiles.Meter().FailNth(n);
+    machine.files.Meter().Reset();
+    machine.files.Meter().FailNth(n);
     const bool saved = catalog.SaveFiltersFile();
     saves += saved;
     EXPECT_EQ(files.Contents(kFiltersFile), saved ? changed : *old) << n;
@@ -141,8 +132,7 @@ TEST_F(Catalog, EveryViewHasItsOwnCategoryByItsExactNameElseAFilterElseAll) {
       SetDword(registry, kUser, kRoot + name, name + L"SelFilter", filter);
       SetString(registry, kUser, kRoot + name, name + L"SelCategory", isExact ? name : L"TASKS");
     }
-    machine.Start();
-    Rebuild({{L"Calendar", 1}, {L"Tasks", 2}, {L"Contacts", 3}, {L"SEvents", 4}});
+    machine.Start({L"Calendar", L"Tasks", L"Contacts", L"SEvents"});
     for (const auto& [view, name, filter, shown] : views) {
       EXPECT_EQ(Show(catalog.Selected(view)), isExact ? Utf8(name) : shown);
     }

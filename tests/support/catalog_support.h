@@ -1,4 +1,5 @@
-// A machine in memory with a settings store and a catalogue on it, and the files that both make.
+// A machine in memory with a settings store and, its calls counted, a catalogue on it; and the
+// files that both make.
 #pragma once
 
 #include <string>
@@ -8,6 +9,8 @@
 #include "backup/registry_text.h"
 #include "categories/category_catalog.h"
 #include "platform/memory/memory_machine.h"
+#include "platform/memory/metered_files.h"
+#include "platform/memory/metered_registry.h"
 #include "platform/text.h"
 
 namespace tidewell {
@@ -26,10 +29,15 @@ class ListedCategories final : public CategorySource {
 
 struct CatalogMachine {
   MemoryMachine memory;
+  MeteredRegistry registry{memory.registry};
+  MeteredFiles files{memory.files};
   SettingsStore store;
   std::unique_ptr<ResourceLibrary> language;
-  CategoryCatalog catalog{memory.Door(), store};
+  CategoryCatalog catalog{MeteredDoor(), store};
 
+  Machine MeteredDoor() {
+    return {registry, files, memory.locale, memory.libraries, memory.system};
+  }
   // Loads the store and rebuilds the catalogue with these categories.
   void Start(const std::vector<std::wstring>& names = {}) {
     Machine door = memory.Door();
