@@ -28,8 +28,6 @@ class RegistryText : public testing::Test {
     EXPECT_TRUE(writer.Flush());
     return Utf8(TextOfBytes(sink.bytes));
   }
-  std::wstring Export() { return ExportText(registry, catalog); }
-  bool Import(std::wstring_view text) { return ImportText(registry, catalog, text); }
   std::string Dump(const std::wstring& path) { return DumpTree(registry, kUser, path); }
   void Put(const wchar_t* name, std::uint32_t type, std::span<const std::byte> data) {
     SetRaw(registry, kUser, L"K", name, type, data);
@@ -54,7 +52,7 @@ TEST_F(RegistryText, ABackupHoldsTheTreeDepthFirstThenCategoriesThenFilters) {
   catalog.FindCategory(L"Work")->filterFlags = 0x80000001;
   catalog.FindCategory(L"Work")->color = 0x00FF8000;
   catalog.Filters()[31] = {L"Last", 3, false, true, 32};
-  const std::string text = Utf8(Export());
+  const std::string text = Utf8(ExportText(registry, catalog));
   EXPECT_EQ(text.substr(0, text.find("\"FilterName\"=\"Filter 2\"")),
             "\n[Software\\Velmont\\Tidewell]\n"
             "\"SkinPath\"=\"\\My \"Skin\"\"\n"
@@ -124,7 +122,7 @@ TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
   machine.Start({std::wstring(786, L'c'), std::wstring(787, L'd')});
   catalog.Filters()[0].title = std::wstring(784, L't');
   catalog.Filters()[1].title = std::wstring(785, L'u');
-  const std::wstring text = Export();
+  const std::wstring text = ExportText(registry, catalog);
   const auto holds = [&](std::wstring_view part) { return text.find(part) != std::wstring::npos; };
   EXPECT_TRUE(holds(std::wstring(786, L'c')));
   EXPECT_FALSE(holds(L"ddd"));
@@ -145,9 +143,9 @@ TEST_F(RegistryText, ATextThatDoesNotBeginWithAnEmptyLineIsRejected) {
   for (const std::wstring& text : {L""s, section, L"\r\n" + section,
                                    L"\xFEFF\n" + section,                    // a byte-order mark
                                    L"\0\n"s + section, L"\x0A0A\x4B5B"s}) {  // one byte a character
-    EXPECT_FALSE(Import(text)) << Utf8(text);
+    EXPECT_FALSE(ImportText(registry, catalog, text)) << Utf8(text);
   }
-  EXPECT_TRUE(Import(L"\n\n\nnoise"));
+  EXPECT_TRUE(ImportText(registry, catalog, L"\n\n\nnoise"));
   EXPECT_EQ(Dump(L""), "[]\n");
 }
 

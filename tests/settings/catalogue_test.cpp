@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 #include "settings/settings_table.h"
 #include "tests/support/utf8.h"
@@ -11,15 +11,10 @@
 namespace tidewell {
 namespace {
 
-std::string FileText(const char* path) {
-  std::ostringstream text;
-  text << std::ifstream(path, std::ios::binary).rdbuf();
-  return text.str();
-}
-
 TEST(Catalogue, IsWhatTheSettingsPageSays) {
+  std::ifstream page(TIDEWELL_SETTINGS_PAGE, std::ios::binary);
   SettingsStore store;
-  EXPECT_EQ(Utf8(SettingsTable(store)), FileText(TIDEWELL_SETTINGS_PAGE))
+  EXPECT_EQ(Utf8(SettingsTable(store)), std::string(std::istreambuf_iterator<char>(page), {}))
       << "docs/settings.md is stale: it tells how to write it again";
 }
 

@@ -9,35 +9,27 @@ namespace {
 
 class RefusingRegistryTest : public StoreFixture {
  protected:
-  // A device whose user has changed a few settings and hosts two plug-ins.
-  void Fill() {
+  // Loads, changes a setting and saves, on a registry that refuses as `arrange` says and on the
+  // device of a user with settings of every kind and two plug-ins. Returns how many calls could
+  // have been refused.
+  template <typename Arrange>
+  int Run(SettingsStore& refused, Arrange arrange) {
+    registry->DeleteTree(RegistryRoot::kCurrentUser, L"Software");
     PutNumbers(SettingKey::kRoot, "OnClick=5");
     Put(SettingKey::kRoot, L"SkinPath", std::wstring(4000, L's'));
-    PutNumbers(SettingKey::kNotes, "NotesSearchMode=7");
     KeyOf(SettingKey::kTasks).Get()->Set(L"FoldState", kTypeBinary, kFolded);
-    for (const std::wstring name : {L"One", L"Two"}) {
-      const std::wstring path = L"Software\\Velmont\\Tidewell\\TabSettings\\" + name;
-      SetString(*registry, RegistryRoot::kCurrentUser, path, L"DLL", L"plug-in.dll");
+    for (const wchar_t* name : {L"\\One", L"\\Two"}) {
+      const KeyLocation tabs = LocationOf(SettingKey::kTabSettings);
+      SetString(*registry, tabs.root, std::wstring(tabs.path) + name, L"DLL", L"plug-in.dll");
     }
-  }
-
-  // Loads, changes two settings and saves, on a registry that refuses as `arrange` says. Returns
-  // how many calls could have been refused.
-  template <typename Arrange>
-  int Run(Arrange arrange) {
-    registry->DeleteTree(RegistryRoot::kCurrentUser, L"Software");
-    Fill();
     metered.Meter().Reset();
     arrange(metered.Meter());
-    SettingsStore refused;
     LoadInto(refused);
     ExpectWholeValues(refused);
-    refused.calendar.HideEmptyGroups.Set(0);
     refused.contacts.ContactsCustomSearchBarSelected.Set(L"abc");
     refused.Save(metered, scale);
     // Whatever is refused, a value that nobody changed stays as it was.
     EXPECT_EQ(Stored(SettingKey::kRoot, L"OnClick"), 5u);
-    EXPECT_EQ(Stored(SettingKey::kNotes, L"NotesSearchMode"), 7u);
     EXPECT_EQ(Stored(SettingKey::kRoot, L"ActiveTab"), std::nullopt);
     return metered.Meter().FailableCount();
   }
@@ -66,18 +58,19 @@ class RefusingRegistryTest : public StoreFixture {
 
 TEST_P(RefusingRegistryTest, ARefusalCostsNoMoreThanWhatItWasFor) {
   using Meter = CallMeter<RegistryCall>;
-  Fill();
-  Load();
-  const int calls = Run([](Meter&) {});
+  const int calls = Run(store, [](Meter&) {});
   ASSERT_GT(calls, 480);
   for (int n = 1; n <= calls && !HasFailure(); ++n) {
     SCOPED_TRACE(n);
+    SettingsStore once;
     metered.SetFailure(kStatusMoreData);  // the answer that invites a second question
-    Run([n](Meter& meter) { meter.FailNth(n); });
+    Run(once, [n](Meter& meter) { meter.FailNth(n); });
+    SettingsStore everSince;
     metered.SetFailure(kStatusAccessDenied);
-    Run([n](Meter& meter) { meter.FailFrom(n); });
+    Run(everSince, [n](Meter& meter) { meter.FailFrom(n); });
   }
-  Run([](Meter& meter) { meter.FailEvery(RegistryCall::kDeleteTree); });
+  SettingsStore refused;
+  Run(refused, [](Meter& meter) { meter.FailEvery(RegistryCall::kDeleteTree); });
   EXPECT_EQ(metered.Count(RegistryCall::kDeleteTree), 2) << "each plug-in's subkey once";
 }
 

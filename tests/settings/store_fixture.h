@@ -36,7 +36,7 @@ class StoreFixture : public testing::TestWithParam<RegistryKind> {
   int Sets() const { return metered.Count(RegistryCall::kSet); }
   int Deletes() const { return metered.Count(RegistryCall::kDeleteValue); }
 
-  // The values of a setting's key, which is made when missing.
+  // All below make a setting's key when it is missing.
   FlushedKey KeyOf(SettingKey key) { return CreateSettingKey(*registry, key); }
   void Put(SettingKey key, const std::wstring& name, std::uint32_t number) {
     SetDword(*registry, LocationOf(key).root, LocationOf(key).path, name, number);
