@@ -9,7 +9,6 @@
 #include "ui/picture.h"
 
 namespace tidewell {
-
 namespace {
 
 constexpr LONG kBarHeight = 80;  // at 192 dots per inch
@@ -52,5 +51,4 @@ TEST(AboutBox, LogoAndTextsStandBelowEachOtherUntilDoneIsTapped) {
 }
 
 }  // namespace
-
 }  // namespace tidewell

@@ -4,7 +4,6 @@
 #include "program_fixture.h"
 
 namespace tidewell {
-
 namespace {
 
 const std::vector kTools{21, 22, 23};
@@ -17,17 +16,6 @@ TEST_F(ProgramTest, ListsTheGroupsInOrder) {
                             L"text 625", L"text 626", L"About Tidewell"}));
   EXPECT_EQ(Commands(), (std::vector{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
   EXPECT_EQ(program->List().Selected(), 0u);
-}
-
-TEST_F(ProgramTest, TheListFillsTheWindowAboveTheBar) {
-  SetDword(L"MyVgaMode", 1);
-  Start();
-  EXPECT_EQ(SendMessageW(Window(), WM_SIZE, 0, MAKELPARAM(200, 180)), 1);
-  for (const int height : {190, 250}) {
-    MoveWindow(Window(), 0, 60, 220, height, TRUE);
-    TapAt(ClientRect(Window()).bottom - 79, true);
-    EXPECT_EQ(Commands() == kTools, height == 190) << "each tap on the bar changes the list";
-  }
 }
 
 TEST_F(ProgramTest, ToolsComeAndGoByTheBarAndTheSoftKeys) {
@@ -76,13 +64,6 @@ TEST_F(DoneTest, SavesTheSettingsTheCategoriesAndTheFiltersFile) {
   EXPECT_TRUE(HasValue(L"CatColor.Work", L"\\Categories"));
   EXPECT_FALSE(HasValue(L"CatColor.Home", L"\\Categories"));
   EXPECT_GT(device.files.Contents(kFiltersFile)->size(), 1000u);
-}
-
-TEST_F(DoneTest, WritesNothingWhenNothingWasChanged) {
-  Start();
-  registry.Meter().Reset();
-  Done();
-  EXPECT_EQ(registry.CountWrites(), 0);
 }
 
 TEST_F(DoneTest, ADragThatEndsOverTheBarIsNoTapOnIt) {
@@ -156,5 +137,4 @@ TEST_F(DoneTest, AFileThatIsNoBackupIsRefusedAndTheProgramGoesOn) {
 }
 
 }  // namespace
-
 }  // namespace tidewell

@@ -71,8 +71,10 @@ class ProgramTest : public testing::Test {
 
   HWND Window() const { return program->Window(); }
   bool IsOpen() const { return program->Window() != nullptr; }
-  void TapAt(LONG y, bool right) { Tap(Window(), {right ? ClientRect(Window()).right - 5 : 5, y}); }
-  void TapBar(bool right) { TapAt(ClientRect(Window()).bottom - 5, right); }
+  void TapBar(bool right) {
+    const RECT client = ClientRect(Window());
+    Tap(Window(), {right ? client.right - 5 : 5, client.bottom - 5});
+  }
   void RunRow(int row) {
     for (int i = 0; i < 13; ++i) PressKey(Window(), VK_UP);
     for (int i = 0; i < row; ++i) PressKey(Window(), VK_DOWN);

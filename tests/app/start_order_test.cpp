@@ -3,7 +3,6 @@
 #include "program_fixture.h"
 
 namespace tidewell {
-
 namespace {
 
 using Journal = std::vector<std::wstring>;
@@ -95,5 +94,4 @@ TEST_F(ProgramTest, ARunningInstanceIsFoundAlsoWhileAPageHasTakenItsCaption) {
 }
 
 }  // namespace
-
 }  // namespace tidewell

@@ -5,7 +5,6 @@
 #include "tests/platform/contracts.h"
 
 namespace tidewell {
-
 namespace {
 
 struct MeteredMemoryRegistry {

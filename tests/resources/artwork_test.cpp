@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 #include <vector>
 
 #include "platform/gdi.h"
@@ -45,8 +44,7 @@ INSTANTIATE_TEST_SUITE_P(Both, Artwork,
                          testing::Values(std::pair("LowDpiRes.dll", 1),
                                          std::pair("HighDpiRes.dll", 2)));
 
-TEST_P(Artwork, EveryIconIsSquareWithPremultipliedAlphaAndLikeNoOther) {
-  std::set<std::vector<int>> seen;
+TEST_P(Artwork, EveryIconIsSquareWithPremultipliedAlpha) {
   for (int id = IDB_CALENDAR; id <= IDB_TOOLS; ++id) {
     const Picture icon = PictureOf(library_, id);
     ASSERT_EQ(icon.bits, 32) << id;
@@ -54,12 +52,9 @@ TEST_P(Artwork, EveryIconIsSquareWithPremultipliedAlphaAndLikeNoOther) {
     ASSERT_EQ(icon.height, 28 * factor_) << id;
     EXPECT_EQ(icon.At(0, 0).rgbReserved, 0) << id << ": the corner shows the background";
     EXPECT_EQ(icon.At(icon.width / 2, icon.height / 2).rgbReserved, 255) << id;
-    std::vector<int> colors;
     for (const RGBQUAD& pixel : icon.pixels) {
       ASSERT_LE(std::max({pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue}), pixel.rgbReserved) << id;
-      colors.push_back(pixel.rgbRed << 16 | pixel.rgbGreen << 8 | pixel.rgbBlue);
     }
-    EXPECT_TRUE(seen.insert(colors).second) << id;
   }
 }
 
@@ -68,14 +63,10 @@ TEST_P(Artwork, TheLogoIsKeyedWithPureRedAndHasNoRedFringe) {
   ASSERT_EQ(logo.bits, 24);
   EXPECT_EQ(logo.width, 144 * factor_);
   EXPECT_EQ(logo.height, 84 * factor_);
-  std::size_t keyed = 0;
   for (const RGBQUAD& pixel : logo.pixels) {
     const bool key = pixel.rgbRed == 255 && pixel.rgbGreen == 0 && pixel.rgbBlue == 0;
-    keyed += key;
     EXPECT_TRUE(key || pixel.rgbRed - std::max(pixel.rgbGreen, pixel.rgbBlue) < 40);
   }
-  EXPECT_GT(keyed, logo.pixels.size() / 4);
-  EXPECT_LT(keyed, logo.pixels.size() * 3 / 4);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "ui/look.h"
 
 namespace tidewell {
-
 namespace {
 
 constexpr int kWidth = 240;
@@ -87,5 +86,4 @@ TEST_F(CommandListTest, AHeldRowLooksSelectedUntilItIsDragged) {
 }
 
 }  // namespace
-
 }  // namespace tidewell

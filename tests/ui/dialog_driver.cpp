@@ -8,14 +8,13 @@
 #include "tests/support/window_support.h"
 
 namespace tidewell {
-
 namespace {
 
 constexpr UINT kPeriod = 10;  // milliseconds
 
 DialogDriver* running = nullptr;
 
-void PostTapOnRow(UINT downMessage, int row) {
+void TapOnRow(int row, UINT downMessage) {
   RECT place{};
   ListView_GetItemRect(List(), row, &place, LVIR_LABEL);
   PostTap(List(), {place.left + 4, (place.top + place.bottom) / 2}, downMessage);
@@ -100,13 +99,13 @@ std::function<void()> Key(WPARAM key) {
 }
 
 std::function<void()> TapRow(int row) {
-  return [row] { PostTapOnRow(WM_LBUTTONDOWN, row); };
+  return [row] { TapOnRow(row, WM_LBUTTONDOWN); };
 }
 
 std::function<void()> DoubleTapRow(int row) {
   return [row] {
-    PostTapOnRow(WM_LBUTTONDOWN, row);
-    PostTapOnRow(WM_LBUTTONDBLCLK, row);
+    TapOnRow(row, WM_LBUTTONDOWN);
+    TapOnRow(row, WM_LBUTTONDBLCLK);
   };
 }
 

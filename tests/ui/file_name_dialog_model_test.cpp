@@ -4,7 +4,6 @@
 
 #include "platform/memory/fixed_locale.h"
 #include "platform/memory/memory_files.h"
-#include "platform/memory/memory_libraries.h"
 
 namespace tidewell {
 namespace {
@@ -84,17 +83,6 @@ TEST_F(FileNameDialogModelTest, TheNextOpeningStartsWhereTheLastOneEnded) {
   EXPECT_EQ(FolderConfirmedLast(files, L"\\My Documents"), L"\\My Documents\\Business");
   model.Confirm(L"gone\\year");
   EXPECT_EQ(FolderConfirmedLast(files, L"\\My Documents"), L"\\My Documents");
-}
-
-TEST_F(FileNameDialogModelTest, TextsComeFromTheLibraryTheRequestOrTheProgram) {
-  MemoryLibraries libraries;
-  libraries.Put(L"\\german.dll", {{2000, L"Abbrechen"}, {2002, L"Dateiname"}});
-  request.extensionCaption = L"Type";
-  const FileNameDialogTexts texts(libraries.Load(L"\\german.dll").get(), request);
-  EXPECT_EQ(texts.cancel, L"Abbrechen");
-  EXPECT_EQ(texts.nameLabel, L"Dateiname");
-  EXPECT_EQ(texts.extensionLabel, L"Type");
-  EXPECT_EQ(texts.errorCaption, L"File Name Error");
 }
 
 TEST(FileNameLayoutTest, StacksTheRowsAndGivesTheRestToTheList) {

@@ -95,9 +95,9 @@ std::vector<Gesture> ReadGestures() {
 
 class Gestures : public testing::TestWithParam<Gesture> {
  protected:
-  void Initialise(ScrollerClient* client) {
+  void Initialise() {
     const ScreenScale scale(GetParam().dpi, GetParam().dpi, false);
-    scroller_.Initialise(7, recorder_, client, scale, {10, 20, 200, 100});
+    scroller_.Initialise(7, recorder_, &recorder_, scale, {10, 20, 200, 100});
   }
 
   std::string Perform(const std::string& input) {
@@ -117,12 +117,10 @@ class Gestures : public testing::TestWithParam<Gesture> {
         {"resize", [&] { return scroller_.Resize(200, first); }},
         {"context", [&] { return scroller_.SetPaintContext(first ? this : nullptr, second); }},
         {"show", [&] { return scroller_.BringIntoView(first, second), true; }},
-        {"initialise", [&] { return Initialise(&recorder_), true; }},
-        {"clientless", [&] { return Initialise(nullptr), true; }},
         {"grow", [&] { return recorder_.contentHeight = first; }},
         {"unmarked", [&] { return !(recorder_.repaintHighlight = false); }},
         {"refilling", [&] {
-           recorder_.onActivate = [this] { Initialise(&recorder_); };
+           recorder_.onActivate = [this] { Initialise(); };
            return true;
          }}};
     if (verb == "run") return Run();
@@ -150,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Every, Gestures, testing::ValuesIn(ReadGestures()),
 
 TEST_P(Gestures, FollowTheRules) {
   recorder_.contentHeight = GetParam().contentHeight;
-  Initialise(&recorder_);
+  Initialise();
   scroller_.BringIntoView(-GetParam().offset, -GetParam().offset + 100);
   recorder_.TakeNotes();
   std::istringstream lines(GetParam().transcript);

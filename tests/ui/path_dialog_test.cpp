@@ -88,9 +88,7 @@ TEST_F(PathDialogTest, AFileIsMarkedByATapAndTakenByTheSoftKeyOrASecondTap) {
 }
 
 TEST_F(PathDialogTest, ShowsFiveThousandEntriesAndFindsOneByItsFirstLetters) {
-  for (int i = 0; i < 5000; ++i) {
-    memory.files.Put(L"\\Card\\" + FormatDecimal(10000 + i) + L".wav");
-  }
+  for (int i = 0; i < 5000; ++i) memory.files.Put(L"\\Card\\" + FormatDecimal(10000 + i) + L".wav");
   const auto typeLetters = [] {
     for (const wchar_t letter : {L'1', L'2', L'3'}) PostMessageW(List(), WM_CHAR, letter, 1);
   };

@@ -7,7 +7,6 @@
 #include "tests/support/window_support.h"
 
 namespace tidewell {
-
 namespace {
 
 // The parts that can be seen; an icon's control without an icon cannot.
@@ -53,5 +52,4 @@ TEST(MessageBoxTest, AQuestionTooWideForTheScreenWrapsAndItsPartsStayApart) {
 }
 
 }  // namespace
-
 }  // namespace tidewell
