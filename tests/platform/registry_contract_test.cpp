@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "platform/text.h"
 #include "tests/platform/contracts.h"
 #include "tests/support/registry_support.h"
@@ -143,6 +141,7 @@ TEST_P(RegistryContract, DataComesBackAsStoredWhateverItsTypeSays) {
     EnumeratedValue value;
     ASSERT_EQ(key->EnumValue(0, kAnyName, kAnyData, value), kStatusSuccess);
     EXPECT_EQ(value.data, data);
+    EXPECT_EQ(value.type, type);
   }
 }
 
