@@ -48,9 +48,6 @@ class RefusingRegistryTest : public StoreFixture {
     const auto folded = refused.tasks.FoldState.Bytes();
     EXPECT_TRUE(std::ranges::equal(folded, kFolded) ||
                 std::ranges::count(folded, std::byte(0)) == 6);
-    for (const TabEntry& entry : refused.tabs) {
-      EXPECT_TRUE(entry.dll.empty() || entry.dll == L"plug-in.dll");
-    }
   }
 
   const std::vector<std::byte> kFolded = std::vector<std::byte>(6, std::byte(0x5A));

@@ -102,23 +102,9 @@ TEST_P(SettingTest, AFontIsSixNumbersAndTheFaceAndQualityOfItsTime) {
   Save(font);
   EXPECT_EQ(Dump(kFonts),
             "[Software\\Velmont\\Tidewell\\Fonts]\n"
-            "FontMailUnreadlfColor = 65280\n"
-            "FontMailUnreadlfStrikeOut = 1\n"
-            "FontMailUnreadlfUnderline = 1\n"
-            "FontMailUnreadlfWeight = 400\n");
+            "FontMailUnreadlfColor = 65280\nFontMailUnreadlfStrikeOut = 1\n"
+            "FontMailUnreadlfUnderline = 1\nFontMailUnreadlfWeight = 400\n");
   EXPECT_EQ(Deletes(), 2) << "height and slant";
-}
-
-TEST_P(SettingTest, ASettingUsedAloneOpensFlushesAndClosesItsOwnKey) {
-  DwordSetting mode(SettingKey::kRoot, L"MyVgaMode", 0);
-  mode.LoadAlone(metered, {});
-  mode.Set(1);
-  mode.SaveAlone(metered);
-  EXPECT_EQ(metered.Meter().Paths(RegistryCall::kCreate),
-            std::vector<std::wstring>(2, L"HKCU\\Software\\Velmont\\Tidewell"));
-  EXPECT_EQ(metered.Count(RegistryCall::kFlush), 2);
-  EXPECT_EQ(metered.Count(RegistryCall::kClose), 2);
-  EXPECT_EQ(Stored(SettingKey::kRoot, L"MyVgaMode"), 1u);
 }
 
 INSTANTIATE_TEST_SUITE_P(On, SettingTest, testing::ValuesIn(RegistryKinds()),

@@ -109,7 +109,6 @@ TEST_P(SettingsStoreTest, ValuesThatCannotBeAreRepairedAtLoadAndTheRepairIsSaved
   for (const auto& [stored, expected] :
        {std::pair("dNumOfDays=0", ""),
         {"dNumOfDays=121", ""},
-        {"dNumOfDays=-1", ""},
         {"dNumOfDays=1", "dNumOfDays=1 "},
         {"dNumOfDays=120", "dNumOfDays=120 "},
         // The default length with any start reaches past midnight.

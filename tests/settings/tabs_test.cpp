@@ -79,23 +79,14 @@ TEST_P(TabsTest, HostedTabsStandBehindEqualOrdersAndAreWrittenAnewFromTheList) {
   Save();
   EXPECT_EQ(Dump(kTabs),
             "[Software\\Velmont\\Tidewell\\TabSettings]\n"
-            "ContactsTabOrder = 5\n"
-            "MailTabOrder = 6\n"
-            "NotesTabOrder = 4\n"
-            "SEventsTabOrder = 7\n"
+            "ContactsTabOrder = 5\nMailTabOrder = 6\nNotesTabOrder = 4\nSEventsTabOrder = 7\n"
             "[Software\\Velmont\\Tidewell\\TabSettings\\Bare]\n"
             "Type = 1\n"
             "[Software\\Velmont\\Tidewell\\TabSettings\\contacts]\n"
-            "Enabled = 1\n"
-            "Order = 8\n"
-            "Type = 1\n"
+            "Enabled = 1\nOrder = 8\nType = 1\n"
             "[Software\\Velmont\\Tidewell\\TabSettings\\Weather]\n"
-            "CustomIconName = \"weather.ico\"\n"
-            "DLL = \"weather.dll\"\n"
-            "Enabled = 1\n"
-            "InstallPath = \"\\Weather\"\n"
-            "Order = 3\n"
-            "Type = 1\n");
+            "CustomIconName = \"weather.ico\"\nDLL = \"weather.dll\"\nEnabled = 1\n"
+            "InstallPath = \"\\Weather\"\nOrder = 3\nType = 1\n");
 }
 
 TEST_P(TabsTest, TheSubkeyContactsIsKeptAsItIs) {

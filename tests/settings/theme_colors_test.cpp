@@ -67,10 +67,9 @@ TEST_P(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
         {kAgendaFusion, kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion",
          L"VerMajor"},
         {kAgendaOne, kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"}}) {
-    EXPECT_FALSE(IsInstalled(metered, program)) << "no key";
-    const FlushedKey key(registry->Create(root, path));
+    registry->Create(root, path);
     EXPECT_FALSE(IsInstalled(metered, program)) << "no value";
-    key.Get()->Set(value, 99, {});
+    SetRaw(*registry, root, path, value, 99, {});
     EXPECT_TRUE(IsInstalled(metered, program)) << "an empty value of any type";
   }
   EXPECT_EQ(metered.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";
