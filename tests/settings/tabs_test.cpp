@@ -77,6 +77,7 @@ TEST_P(TabsTest, HostedTabsStandBehindEqualOrdersAndAreWrittenAnewFromTheList) {
   store.tabs.remove_if([](const TabEntry& entry) { return entry.caption == L"Gone"; });
   Renumber(store.tabs);
   Save();
+  EXPECT_EQ(metered.Count(RegistryCall::kDeleteTree), 4) << "each of the old ones";
   EXPECT_EQ(Dump(kTabs),
             "[Software\\Velmont\\Tidewell\\TabSettings]\n"
             "ContactsTabOrder = 5\nMailTabOrder = 6\nNotesTabOrder = 4\nSEventsTabOrder = 7\n"
