@@ -74,6 +74,18 @@ TEST_P(SettingTest, ASaveWritesWhatWasSetAndDeletesWhatIsTheDefault) {
   }
 }
 
+TEST_P(SettingTest, AloneItOpensFlushesAndClosesItsOwnKeyAndMakesItWhereItIsMissing) {
+  DwordSetting number(kKey, L"Number", 1);
+  number.LoadAlone(metered, {});
+  EXPECT_EQ(number.Value(), 1u);
+  number.Set(5);
+  number.SaveAlone(metered);
+  EXPECT_EQ(Stored(kKey, L"Number"), 5u);
+  for (const RegistryCall call :
+       {RegistryCall::kCreate, RegistryCall::kFlush, RegistryCall::kClose})
+    EXPECT_EQ(metered.Count(call), 2);
+}
+
 TEST_P(SettingTest, FlagsAreRoundedUpToBytesAndFilledWhenAbsent) {
   FlagArraySetting clear(kKey, L"Flags", 8, FlagFill::kAllClear);
   FlagArraySetting set(kKey, L"Flags", 9, FlagFill::kAllSet);
