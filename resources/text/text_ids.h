@@ -78,7 +78,7 @@
 #define IDS_ON_DOUBLE_TAP_OPEN 1000               // Open
 #define IDS_ON_DOUBLE_TAP_PREVIEW 1001            // Preview
 #define IDS_ON_DOUBLE_TAP_NOTHING 1002            // Do nothing
-#define IDS_AUTO_HEIGHT 1490                      // Fit the height to the content
+#define IDS_AUTO_HEIGHT 1490                      // Fit height to the content
 #define IDS_HEIGHT_LIMIT 1003                     // Height
 #define IDS_HEIGHT_LIMIT_LANDSCAPE 1004           // Height, landscape
 #define IDS_SKIN_FOLDER 988                       // Skin folder
