@@ -56,16 +56,19 @@ Process::Process(const std::wstring& path, const std::wstring& commandLine, HAND
   start.hStdOutput = output;
   if (output) start.dwFlags = STARTF_USESTDHANDLES;
   PROCESS_INFORMATION made{};
-  if (!CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, output != nullptr, 0, nullptr,
-                      L"C:\\", &start, &made)) {
-    return;
-  }
+  const auto make = [&] {
+    return CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, output != nullptr, 0,
+                          nullptr, L"C:\\", &start, &made);
+  };
+  // Of some thousand processes Wine fails to make one, for no reason that lasts.
+  if (!make() && !(GetLastError() == ERROR_INTERNAL_ERROR && make())) return;
   CloseHandle(made.hThread);
   handle_ = made.hProcess;
   id_ = made.dwProcessId;
 }
 
 std::optional<DWORD> Process::WaitForExit(DWORD milliseconds) const {
+  if (!handle_) return std::nullopt;  // it never started
   DWORD code = 0;
   const bool ended =
       WaitUntil([this] { return WaitForSingleObject(handle_, 0) == WAIT_OBJECT_0; }, milliseconds);
