@@ -3,24 +3,16 @@
 #include <aygshell.h>
 #include <windowsx.h>
 
+#include "platform/window_owner.h"
 #include "resources/art/bitmap_ids.h"
 #include "ui/command_bar.h"
+#include "ui/empty_dialog.h"
 #include "ui/look.h"
 #include "ui/picture.h"
 
 namespace tidewell {
 
 namespace {
-
-// The dialog's template: no controls, no menu, class or title of its own.
-struct Template {
-  DLGTEMPLATE header;
-  WORD menu;
-  WORD windowClass;
-  WORD title;
-};
-
-constexpr Template kTemplate{{WS_POPUP | WS_VISIBLE | WS_CAPTION, 0, 0, 0, 0, 0, 0}, 0, 0, 0};
 
 class AboutBox {
  public:
@@ -49,19 +41,15 @@ class AboutBox {
 };
 
 INT_PTR CALLBACK AboutBox::DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    auto* box = reinterpret_cast<AboutBox*>(lParam);
-    box->window_ = window;
-    SetWindowLongPtrW(window, GWLP_USERDATA, lParam);
-    box->OnInit();
-    return TRUE;
-  }
-  auto* box = reinterpret_cast<AboutBox*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  AboutBox* box = DialogOwnerOf(&AboutBox::window_, window, message, lParam);
   return box ? box->Handle(message, wParam, lParam) : FALSE;
 }
 
 INT_PTR AboutBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_INITDIALOG:
+      OnInit();
+      return TRUE;
     case WM_PAINT:
       OnPaint();
       return TRUE;
@@ -155,8 +143,7 @@ void AboutBox::OnPointer(UINT message, POINT point) {
 }
 
 RECT AboutBox::BarArea() const {
-  RECT area;
-  GetClientRect(window_, &area);
+  RECT area = ClientArea(window_);
   area.top = area.bottom - CommandBar::Height(scale_);
   return area;
 }
@@ -178,8 +165,7 @@ std::wstring BuildLine(const AboutRecord& record) {
 
 void ShowAboutBox(HWND parent, const AboutRecord& record, const ScreenScale& scale) {
   AboutBox box(record, scale);
-  DialogBoxIndirectParamW(record.instance, &kTemplate.header, parent, AboutBox::DialogProc,
-                          reinterpret_cast<LPARAM>(&box));
+  RunEmptyDialog(record.instance, parent, AboutBox::DialogProc, &box);
 }
 
 }  // namespace tidewell

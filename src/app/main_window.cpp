@@ -10,6 +10,7 @@
 #include "app/settings_changed.h"
 #include "app/single_instance.h"
 #include "platform/text.h"
+#include "platform/window_owner.h"
 #include "resources/art/bitmap_ids.h"
 #include "resources/text/text_ids.h"
 #include "ui/look.h"
@@ -52,13 +53,7 @@ bool MainWindow::Create() {
 }
 
 LRESULT CALLBACK MainWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NCCREATE) {
-    auto* created =
-        static_cast<MainWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-    created->window_ = window;
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
-  }
-  auto* mainWindow = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  MainWindow* mainWindow = OwnerOf(&MainWindow::window_, window, message, lParam);
   return mainWindow ? mainWindow->Handle(message, wParam, lParam)
                     : DefWindowProcW(window, message, wParam, lParam);
 }
@@ -102,8 +97,7 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       ClosePage();
       return 0;
     case WM_NCDESTROY:
-      SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
-      return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+      return LetGo(window_, wParam, lParam);
     default:
       return DefWindowProcW(window_, message, wParam, lParam);
   }
@@ -163,8 +157,7 @@ void MainWindow::ShowEntries(std::span<const MainEntry> entries) {
     rows.push_back({entry.textId ? TextOf(language_.get(), entry.textId) : entry.text,
                     entry.picture ? LoadPicture(entry.picture) : Picture(), entry.command});
   }
-  RECT client;
-  GetClientRect(window_, &client);
+  const RECT client = ClientArea(window_);
   list_.Show(std::move(rows), client.right, ListHeight(client.bottom));
   InvalidateRect(window_, nullptr, FALSE);
   UpdateWindow(window_);
@@ -348,8 +341,7 @@ int MainWindow::ListHeight(int clientHeight) const {
 }
 
 RECT MainWindow::BarArea() const {
-  RECT area;
-  GetClientRect(window_, &area);
+  RECT area = ClientArea(window_);
   area.top = ListHeight(area.bottom);
   return area;
 }

@@ -147,8 +147,7 @@ void SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const std:
 }
 
 void SettingsPage::AddList(int id, std::span<const int> itemIds, int yOffset) {
-  RECT client;
-  GetClientRect(window_, &client);
+  const RECT client = ClientArea(window_);
   const HWND list = MakeControl(WC_LISTVIEWW, kListStyle, id, {},
                                 PlaceList(Scale(), client.right, client.bottom, yOffset));
   ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_NOHSCROLL);

@@ -1,5 +1,6 @@
 #include "pages/settings_page.h"
 
+#include "platform/window_owner.h"
 #include "ui/common_controls.h"
 #include "ui/look.h"
 
@@ -65,13 +66,7 @@ bool SettingsPage::Create(HWND host, const wchar_t* className, const std::wstrin
 }
 
 LRESULT CALLBACK SettingsPage::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_CREATE) {
-    auto* created =
-        static_cast<SettingsPage*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-    created->window_ = window;
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
-  }
-  auto* page = reinterpret_cast<SettingsPage*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  SettingsPage* page = OwnerOf(&SettingsPage::window_, window, message, lParam, WM_CREATE);
   return page ? page->Handle(message, wParam, lParam)
               : DefWindowProcW(window, message, wParam, lParam);
 }
@@ -123,8 +118,7 @@ LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case kPreviewMessage2:
       return OnPreviewMessage2(window_, wParam, lParam);
     case WM_NCDESTROY:
-      SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
-      return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
+      return LetGo(window_, wParam, lParam);
     default:
       return OnOther(window_, message, wParam, lParam);
   }
@@ -183,8 +177,7 @@ void SettingsPage::MakeTabRow() {
 }
 
 Rect SettingsPage::TabRowPlace() const {
-  RECT client;
-  GetClientRect(window_, &client);
+  const RECT client = ClientArea(window_);
   return PlaceTabRow(Scale(), client.right, client.bottom);
 }
 
@@ -228,8 +221,7 @@ RECT SettingsPage::FocusFrame(HWND control) const {
 }
 
 void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
-  RECT client;
-  GetClientRect(window, &client);
+  const RECT client = ClientArea(window);
   FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
   if (!focused_ || focused_ == tabs_) return;
   RECT frame = FocusFrame(focused_);
@@ -283,8 +275,7 @@ int SettingsPage::SelectedTab() const {
 }
 
 PageMetrics SettingsPage::Metrics(TextMeasure& measure) const {
-  RECT client;
-  GetClientRect(window_, &client);
+  const RECT client = ClientArea(window_);
   return {Scale(), client.right, client.bottom, measure};
 }
 

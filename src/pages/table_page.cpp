@@ -21,8 +21,7 @@ constexpr int kSmallestThumb = 20;
 constexpr UINT kPaintedMessage = WM_APP;
 
 SIZE ClientSize(HWND window) {
-  RECT client;
-  GetClientRect(window, &client);
+  const RECT client = ClientArea(window);
   return {client.right, client.bottom};
 }
 

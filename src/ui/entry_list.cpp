@@ -180,8 +180,7 @@ int EntryList::FindName(const NMLVFINDITEMW& wanted) const {
 }
 
 void EntryList::FitColumn() {
-  RECT client;
-  GetClientRect(list_, &client);
+  const RECT client = ClientArea(list_);
   const int width = std::min(columnWidth_, static_cast<int>(client.right));
   if (ListView_GetColumnWidth(list_, 0) != width) ListView_SetColumnWidth(list_, 0, width);
 }

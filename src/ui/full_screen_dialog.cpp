@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "platform/window_owner.h"
+#include "ui/empty_dialog.h"
 #include "ui/look.h"
 #include "ui/soft_keys.h"
 
@@ -13,17 +15,6 @@ namespace {
 
 constexpr int kTextHeight = 12;  // design heights of the letters
 constexpr int kLabelHeight = 10;
-
-// The dialog's template: no controls, no menu, class or title of its own.
-struct Template {
-  DLGTEMPLATE header;
-  WORD menu;
-  WORD windowClass;
-  WORD title;
-};
-
-constexpr Template kTemplate{
-    {WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_CLIPCHILDREN, 0, 0, 0, 0, 0, 0}, 0, 0, 0};
 
 void SetKeyText(HWND menuBar, int command, std::wstring& text) {
   TBBUTTONINFOW info{};
@@ -45,8 +36,7 @@ FullScreenDialog::FullScreenDialog(const DialogContext& context, std::wstring ti
       labelFont_(TahomaFont(scale_.ScaleY(kLabelHeight), FW_NORMAL)) {}
 
 INT_PTR FullScreenDialog::Run() {
-  return DialogBoxIndirectParamW(GetModuleHandleW(nullptr), &kTemplate.header, parent_, DialogProc,
-                                 reinterpret_cast<LPARAM>(this));
+  return RunEmptyDialog(GetModuleHandleW(nullptr), parent_, DialogProc, this);
 }
 
 void FullScreenDialog::EnableLeftKey(bool enable) {
@@ -70,19 +60,15 @@ HWND FullScreenDialog::MakeLabel(int id, const std::wstring& text) {
 
 INT_PTR CALLBACK FullScreenDialog::DialogProc(HWND window, UINT message, WPARAM wParam,
                                               LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    auto* dialog = reinterpret_cast<FullScreenDialog*>(lParam);
-    dialog->window_ = window;
-    SetWindowLongPtrW(window, GWLP_USERDATA, lParam);
-    dialog->OnInit();
-    return FALSE;  // the focus is set
-  }
-  auto* dialog = reinterpret_cast<FullScreenDialog*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  FullScreenDialog* dialog = DialogOwnerOf(&FullScreenDialog::window_, window, message, lParam);
   return dialog ? dialog->Handle(message, wParam, lParam) : FALSE;
 }
 
 INT_PTR FullScreenDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_INITDIALOG:
+      OnInit();
+      return FALSE;  // the focus is set
     case WM_SIZE:
       LayOut();
       return TRUE;
@@ -146,8 +132,7 @@ void FullScreenDialog::MakeSoftKeys() {
 }
 
 void FullScreenDialog::LayOut() {
-  RECT client;
-  GetClientRect(window_, &client);
+  const RECT client = ClientArea(window_);
   OnLayout(client.right, client.bottom);
 }
 

@@ -6,8 +6,7 @@
 namespace tidewell {
 
 void ShowPath(HWND line, const std::wstring& path) {
-  RECT client;
-  GetClientRect(line, &client);
+  const RECT client = ClientArea(line);
   const WindowDc dc(line);
   const Selected font(dc.Dc(), reinterpret_cast<HFONT>(SendMessageW(line, WM_GETFONT, 0, 0)));
   const auto fits = [&](const std::wstring& shown) {

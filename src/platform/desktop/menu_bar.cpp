@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/desktop/shell_look.h"
+#include "platform/window_owner.h"
 
 namespace tidewell {
 
@@ -144,12 +145,7 @@ void MenuBar::OpenPopup(std::size_t index) {
 }
 
 LRESULT CALLBACK MenuBar::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NCCREATE) {
-    auto* created = static_cast<MenuBar*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-    created->window_ = window;
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
-  }
-  auto* bar = reinterpret_cast<MenuBar*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  MenuBar* bar = OwnerOf(&MenuBar::window_, window, message, lParam);
   return bar ? bar->Handle(message, wParam, lParam)
              : DefWindowProcW(window, message, wParam, lParam);
 }
@@ -174,11 +170,8 @@ LRESULT MenuBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       pressed_.reset();
       Refresh();
       return 0;
-    case WM_NCDESTROY: {
-      const HWND window = std::exchange(window_, nullptr);
-      SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-      return DefWindowProcW(window, message, wParam, lParam);
-    }
+    case WM_NCDESTROY:
+      return LetGo(window_, wParam, lParam);
     default:
       return HandleShellMessage(message, wParam, lParam);
   }
@@ -282,8 +275,7 @@ std::optional<std::size_t> MenuBar::KeyAt(POINT point) const {
 }
 
 RECT MenuBar::KeyArea(std::size_t index) const {
-  RECT area;
-  GetClientRect(window_, &area);
+  RECT area = ClientArea(window_);
   const LONG middle = area.right / 2;
   if (index == 0) area.right = middle;
   if (index == 1) area.left = middle;

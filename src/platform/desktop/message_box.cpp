@@ -83,9 +83,9 @@ bool IsMessageBox(HWND window) {
 }
 
 void KeepWithin(HWND box, const RECT& room) {
-  RECT place, client;
+  RECT place;
   GetWindowRect(box, &place);
-  GetClientRect(box, &client);
+  const RECT client = ClientArea(box);
   const LONG narrowing = (place.right - place.left) - (room.right - room.left);
   const Parts parts = PartsOf(box);
   if (narrowing <= 0 || !parts.text) return;

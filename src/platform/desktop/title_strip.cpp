@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/desktop/shell_look.h"
+#include "platform/window_owner.h"
 
 namespace tidewell {
 
@@ -63,13 +64,7 @@ void TitleStrip::PressButton() {
 }
 
 LRESULT CALLBACK TitleStrip::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NCCREATE) {
-    auto* strip =
-        static_cast<TitleStrip*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-    strip->window_ = window;
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(strip));
-  }
-  auto* strip = reinterpret_cast<TitleStrip*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  TitleStrip* strip = OwnerOf(&TitleStrip::window_, window, message, lParam);
   return strip ? strip->Handle(message, wParam, lParam)
                : DefWindowProcW(window, message, wParam, lParam);
 }
@@ -97,11 +92,8 @@ LRESULT TitleStrip::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       tracking_ = inside_ = false;
       Refresh();
       return 0;
-    case WM_NCDESTROY: {
-      const HWND window = std::exchange(window_, nullptr);
-      SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-      return DefWindowProcW(window, message, wParam, lParam);
-    }
+    case WM_NCDESTROY:
+      return LetGo(window_, wParam, lParam);
     default:
       return DefWindowProcW(window_, message, wParam, lParam);
   }
@@ -161,16 +153,14 @@ void TitleStrip::Track(POINT point) {
 }
 
 RECT TitleStrip::ButtonArea() const {
-  RECT client;
-  GetClientRect(window_, &client);
+  const RECT client = ClientArea(window_);
   const int size = ShellScale().ScaleY(kButtonSize);
   const int margin = (client.bottom - size) / 2;
   return {client.right - margin - size, margin, client.right - margin, margin + size};
 }
 
 bool TitleStrip::HitsButton(POINT point) const {
-  RECT client;
-  GetClientRect(window_, &client);
+  const RECT client = ClientArea(window_);
   // The whole corner takes the tap: a finger is wider than the circle.
   const RECT corner{client.right - 2 * client.bottom, 0, client.right, client.bottom};
   return PtInRect(&corner, point);
