@@ -121,7 +121,7 @@ void EntryList::Draw(const DRAWITEMSTRUCT& item) {
   }
   RECT place = item.rcItem;
   place.left += scale_.ScaleX(kMargin);
-  DrawIcon(item.hDC, row, place);
+  PaintIcon(item.hDC, row, place);
   place.left += GetSystemMetrics(SM_CXSMICON) + scale_.ScaleX(kMargin);
   place.right -= scale_.ScaleX(kMargin);
   SetBkMode(item.hDC, TRANSPARENT);
@@ -132,7 +132,7 @@ void EntryList::Draw(const DRAWITEMSTRUCT& item) {
   if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &item.rcItem);
 }
 
-void EntryList::DrawIcon(HDC dc, std::size_t row, const RECT& cell) {
+void EntryList::PaintIcon(HDC dc, std::size_t row, const RECT& cell) {
   if (images_[row] == kNotLoaded) {
     SetTimer(list_, kIconTimer, kIconTimerPeriod, nullptr);
   } else if (images_[row] != FileIcons::kNone) {

@@ -52,7 +52,7 @@ class EntryList {
   void FillItem(LVITEMW& item) const;
   int FindName(const NMLVFINDITEMW& wanted) const;
   void FitColumn();
-  void DrawIcon(HDC dc, std::size_t row, const RECT& cell);
+  void PaintIcon(HDC dc, std::size_t row, const RECT& cell);
   void LoadIconsInView();
 
   HWND list_ = nullptr;

@@ -14,6 +14,10 @@ namespace {
 enum ControlId : int { kFolderLine = 100, kNote, kList };
 constexpr WPARAM kOpenTapped = 200;  // a command of the dialog to itself
 
+// A device's header has these signed, a notification's code never is.
+constexpr UINT kTap = static_cast<UINT>(NM_CLICK);
+constexpr UINT kSecondTap = static_cast<UINT>(NM_DBLCLK);
+
 class PathDialog final : public FullScreenDialog {
  public:
   PathDialog(const DialogContext& context, PathRequest request);
@@ -100,10 +104,10 @@ void PathDialog::OnCommand(int id, int) {
 LRESULT PathDialog::OnNotify(const NMHDR& header) {
   if (header.idFrom != kList) return 0;
   switch (header.code) {
-    case NM_CLICK:
+    case kTap:
       OnTap();
       return 0;
-    case NM_DBLCLK:
+    case kSecondTap:
       OnSecondTap();
       return 0;
     case LVN_ITEMCHANGED:
