@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "categories/pim_properties.h"
+#include "platform/pim_properties.h"
 
 namespace tidewell {
 

@@ -5,26 +5,23 @@
 namespace tidewell {
 namespace {
 
-PimVolume Sample() {
-  PimVolume volume;
-  volume.databases.push_back(
-      {L"A", {{{{0x00010066, 0xF1020304, {}}, {0x0002001F, 0, L"\xD83D"}}}}});
-  volume.databases.push_back({L"", {{{}}}});
-  return volume;
-}
+constexpr auto kNone = std::nullopt;
 
-TEST(PimVolume, IsLaidOutAsDocumentedAndComesBackTheSame) {
-  const std::vector<std::byte> bytes = FormatPimVolume(Sample());
-  const unsigned char body[] = {2,    0, 1,    0,    'A', 0, 1, 0,    0,    0, 2, 0,
-                                0x66, 0, 1,    0,    4,   3, 2, 0xF1, 0x1F, 0, 2, 0,
-                                1,    0, 0x3D, 0xD8, 0,   0, 1, 0,    0,    0, 0, 0};
-  EXPECT_EQ(bytes, WrapVolumeBody(std::as_bytes(std::span(body))));
-  EXPECT_EQ(std::string(reinterpret_cast<const char*>(bytes.data()), 8), "TWPIMVOL");
-  EXPECT_EQ(bytes[8], std::byte{1});
-  EXPECT_EQ(bytes[12], std::byte{sizeof body});
-  const auto volume = ParsePimVolume(bytes);
-  ASSERT_TRUE(volume.has_value());
-  EXPECT_EQ(FormatPimVolume(*volume), bytes);
+TEST(PimVolume, EachLineIsARecord) {
+  const struct {
+    std::string_view text;
+    std::vector<PimRecord> records;
+  } cases[] = {
+      {"", {}},
+      {"\xEF\xBB\xBF"
+       "1\t0\tWork\r\n\r\n# 2 0 No\n \n  3  1  At  home \t",
+       {{1, 0, "Work"}, {3, 1, "At  home"}}},
+      {"- 1 a\n2 - b\n- - -\n4\n5 1\n-",
+       {{kNone, 1, "a"}, {2, kNone, "b"}, {kNone, kNone, "-"}, {4, kNone, ""}, {5, 1, ""}, {}}},
+      {"Work\n1 Work\n1x 0 Work\n-1 0 Work\n4294967296 0 Work\n1 0x Work\n4294967295 7 #1",
+       {{4294967295, 7, "#1"}}},
+  };
+  for (const auto& [text, records] : cases) EXPECT_EQ(ParsePimVolume(text), records) << text;
 }
 
 }  // namespace

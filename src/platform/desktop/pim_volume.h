@@ -1,48 +1,25 @@
-// The property database volume that stands in for a device's on the desktop, as one file of bytes.
+// The categories that stand in for a device's own on the desktop: a text with one on each line.
 // docs/pim-volume.md describes it.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tidewell {
 
-struct VolumeProperty {
-  std::uint32_t id = 0;      // the low half tells the type
-  std::uint32_t number = 0;  // of every type but text
-  std::wstring text;
+// What a line leaves out its record lacks.
+struct PimRecord {
+  std::optional<std::uint32_t> id;
+  std::optional<std::uint32_t> flag;
+  std::string name;  // UTF-8; empty for none
+
+  bool operator==(const PimRecord&) const = default;
 };
 
-struct VolumeRecord {
-  std::vector<VolumeProperty> properties;
-};
-
-struct VolumeDatabase {
-  std::wstring name;
-  std::vector<VolumeRecord> records;
-};
-
-struct PimVolume {
-  std::vector<VolumeDatabase> databases;
-};
-
-inline constexpr std::uint32_t kVolumeTextType = 0x1F;
-
-constexpr bool IsTextProperty(std::uint32_t id) {
-  return (id & 0xFFFF) == kVolumeTextType;
-}
-
-// Texts longer than 65,535 units are cut.
-std::vector<std::byte> FormatPimVolume(const PimVolume& volume);
-
-// Nothing unless the bytes are one whole, unharmed volume.
-std::optional<PimVolume> ParsePimVolume(std::span<const std::byte> bytes);
-
-// A volume's bytes around a body that need not be one: for tests of the reader.
-std::vector<std::byte> WrapVolumeBody(std::span<const std::byte> body);
+// Lines that are no record are left out.
+std::vector<PimRecord> ParsePimVolume(std::string_view text);
 
 }  // namespace tidewell

@@ -1,27 +1,30 @@
-// The device's property database over a volume file, read whole when it is mounted.
+// The device's property database over a text of categories, read whole when it is mounted.
 #include <windbase.h>
 
+#include <array>
 #include <cstring>
 #include <list>
+#include <span>
 
 #include "platform/desktop/pim_volume.h"
+#include "platform/pim_properties.h"
 #include "platform/text.h"
+#include "platform/windows/windows_files.h"
 
 namespace tidewell {
 
 namespace {
 
-struct OpenDatabase {
+struct Cursor {
   HANDLE handle = nullptr;  // an event of the system's, so that CloseHandle closes it
-  std::size_t databaseIndex = 0;
   std::size_t next = 0;
   bool autoIncrement = false;
 };
 
 struct MountedVolume {
   CEGUID guid{};
-  PimVolume volume;
-  std::list<OpenDatabase> open;
+  std::vector<PimRecord> records;
+  std::list<Cursor> cursors;
 };
 
 std::list<MountedVolume>& Volumes() {
@@ -41,15 +44,15 @@ MountedVolume* FindVolume(PCEGUID guid) {
   return nullptr;
 }
 
-struct OpenCursor {
-  const VolumeDatabase* database = nullptr;
-  OpenDatabase* open = nullptr;
+struct OpenDatabase {
+  const std::vector<PimRecord>* records = nullptr;
+  Cursor* cursor = nullptr;
 };
 
-OpenCursor FindCursor(HANDLE handle) {
+OpenDatabase FindDatabase(HANDLE handle) {
   for (MountedVolume& volume : Volumes()) {
-    for (OpenDatabase& open : volume.open) {
-      if (open.handle == handle) return {&volume.volume.databases[open.databaseIndex], &open};
+    for (Cursor& cursor : volume.cursors) {
+      if (cursor.handle == handle) return {&volume.records, &cursor};
     }
   }
   SetLastError(ERROR_INVALID_HANDLE);
@@ -57,48 +60,33 @@ OpenCursor FindCursor(HANDLE handle) {
 }
 
 // Object identifiers only have to differ within a volume and from 0.
-CEOID RecordOid(const OpenCursor& cursor, std::size_t record) {
-  return static_cast<CEOID>((cursor.open->databaseIndex << 24) + record + 1);
+constexpr CEOID kDatabaseOid = 0x01000000;
+CEOID RecordOid(std::size_t record) {
+  return static_cast<CEOID>(record + 1);
 }
 
-std::vector<std::byte> ReadVolumeFile(const wchar_t* path) {
-  std::vector<std::byte> bytes;
-  const HANDLE file = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return bytes;
-  constexpr DWORD kLargestVolume = 64 * 1024 * 1024;
-  const DWORD size = GetFileSize(file, nullptr);
-  if (size <= kLargestVolume) {
-    DWORD read = 0;
-    bytes.resize(size);
-    if (!ReadFile(file, bytes.data(), size, &read, nullptr)) read = 0;
-    bytes.resize(read);
+// Nothing for a file that cannot be read, or is larger than any text of categories.
+std::optional<std::string> ReadVolumeFile(const wchar_t* path) {
+  constexpr std::size_t kLargestVolume = 256 * 1024;
+  const std::unique_ptr<InputStream> input = WindowsFiles().OpenForReading(path);
+  if (!input) return std::nullopt;
+  std::string text;
+  std::array<char, 4096> piece;
+  while (text.size() <= kLargestVolume) {
+    const auto count = input->Read(std::as_writable_bytes(std::span(piece)));
+    if (!count) break;
+    if (*count == 0) return text;
+    text.append(piece.data(), *count);
   }
-  CloseHandle(file);
-  return bytes;
+  return std::nullopt;
 }
 
-const VolumeProperty* FindProperty(const VolumeRecord& record, CEPROPID id) {
-  for (const VolumeProperty& property : record.properties) {
-    if (property.id == id) return &property;
-  }
-  return nullptr;
-}
-
-std::vector<CEPROPID> IdsOf(const VolumeRecord& record) {
-  std::vector<CEPROPID> ids;
-  for (const VolumeProperty& property : record.properties) ids.push_back(property.id);
-  return ids;
-}
-
-std::size_t SizeOf(const VolumeRecord& record, const std::vector<CEPROPID>& ids) {
-  std::size_t size = 0;
-  for (const CEPROPID id : ids) {
-    const VolumeProperty* property = FindProperty(record, id);
-    size += sizeof(CEPROPVAL);
-    if (property && IsTextProperty(id)) size += (property->text.size() + 1) * sizeof(wchar_t);
-  }
-  return size;
+std::wstring WideOf(const std::string& utf8) {
+  const int size = static_cast<int>(utf8.size());
+  const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);
+  std::wstring wide(static_cast<std::size_t>(length), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), length);
+  return wide;
 }
 
 // Makes room for `size` bytes under the caller's rule; false sets the last error.
@@ -116,25 +104,20 @@ bool Reserve(LPBYTE* buffer, LPDWORD capacity, std::size_t size, bool mayRealloc
   return true;
 }
 
-// The values stand first, the texts that they point to behind them.
-void FillValues(const VolumeRecord& record, const std::vector<CEPROPID>& ids, LPBYTE buffer) {
-  auto* value = reinterpret_cast<CEPROPVAL*>(buffer);
-  auto* text = reinterpret_cast<wchar_t*>(value + ids.size());
-  for (const CEPROPID id : ids) {
-    const VolumeProperty* property = FindProperty(record, id);
-    *value = {};
-    value->propid = id;
-    if (!property) {
-      value->wFlags = CEDB_PROPNOTFOUND;
-    } else if (IsTextProperty(id)) {
-      value->val.lpwstr = text;
-      std::memcpy(text, property->text.c_str(), (property->text.size() + 1) * sizeof(wchar_t));
-      text += property->text.size() + 1;
-    } else {
-      value->val.ulVal = property->number;
-    }
-    ++value;
+// `name` points into the caller's buffer.
+CEPROPVAL ValueOf(const PimRecord& record, CEPROPID id, wchar_t* name) {
+  CEPROPVAL value{};
+  value.propid = id;
+  if (id == kPimNameProperty && !record.name.empty()) {
+    value.val.lpwstr = name;
+  } else if (id == kPimIdProperty && record.id) {
+    value.val.ulVal = *record.id;
+  } else if (id == kPimFlagProperty && record.flag) {
+    value.val.ulVal = *record.flag;
+  } else {
+    value.wFlags = CEDB_PROPNOTFOUND;
   }
+  return value;
 }
 
 }  // namespace
@@ -145,13 +128,13 @@ using namespace tidewell;
 
 BOOL CeMountDBVolEx(PCEGUID pGuid, LPWSTR lpwszDBVol, CEVOLUMEOPTIONS*, DWORD) {
   static DWORD mountCount = 0;
-  std::optional<PimVolume> volume = ParsePimVolume(ReadVolumeFile(lpwszDBVol));
-  if (!pGuid || !volume) {
+  const std::optional<std::string> text = ReadVolumeFile(lpwszDBVol);
+  if (!pGuid || !text) {
     SetLastError(ERROR_FILE_NOT_FOUND);
     return FALSE;
   }
   *pGuid = {++mountCount, 0, 0, 0};
-  Volumes().push_back({*pGuid, *std::move(volume), {}});
+  Volumes().push_back({*pGuid, ParsePimVolume(*text), {}});
   return TRUE;
 }
 
@@ -165,48 +148,52 @@ HANDLE CeOpenDatabaseInSession(HANDLE, PCEGUID pGuid, PCEOID poid, LPWSTR lpwszN
                                SORTORDERSPECEX*, DWORD dwFlags, CENOTIFYREQUEST*) {
   MountedVolume* volume = FindVolume(pGuid);
   if (!volume) return INVALID_HANDLE_VALUE;
-  for (std::size_t i = 0; i < volume->volume.databases.size(); ++i) {
-    if (!EqualIgnoringCase(volume->volume.databases[i].name, lpwszName)) continue;
-    const HANDLE handle = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    if (!handle) return INVALID_HANDLE_VALUE;
-    // The system may give a closed handle's number out again.
-    volume->open.remove_if([&](const OpenDatabase& open) { return open.handle == handle; });
-    volume->open.push_back({handle, i, 0, (dwFlags & CEDB_AUTOINCREMENT) != 0});
-    if (poid) *poid = static_cast<CEOID>((i + 1) << 24);
-    return handle;
+  if (!EqualIgnoringCase(kCategoryDatabase, lpwszName)) {
+    SetLastError(ERROR_FILE_NOT_FOUND);
+    return INVALID_HANDLE_VALUE;
   }
-  SetLastError(ERROR_FILE_NOT_FOUND);
-  return INVALID_HANDLE_VALUE;
+  const HANDLE handle = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  if (!handle) return INVALID_HANDLE_VALUE;
+  // The system may give a closed handle's number out again.
+  volume->cursors.remove_if([&](const Cursor& cursor) { return cursor.handle == handle; });
+  volume->cursors.push_back({handle, 0, (dwFlags & CEDB_AUTOINCREMENT) != 0});
+  if (poid) *poid = kDatabaseOid;
+  return handle;
 }
 
 CEOID CeSeekDatabaseEx(HANDLE hDatabase, DWORD dwSeekType, DWORD dwValue, WORD, LPDWORD index) {
-  const OpenCursor cursor = FindCursor(hDatabase);
-  if (!cursor.database) return 0;
-  if (dwSeekType != CEDB_SEEK_BEGINNING || dwValue >= cursor.database->records.size()) {
+  const OpenDatabase database = FindDatabase(hDatabase);
+  if (!database.cursor) return 0;
+  if (dwSeekType != CEDB_SEEK_BEGINNING || dwValue >= database.records->size()) {
     SetLastError(ERROR_SEEK);
     return 0;
   }
-  cursor.open->next = dwValue;
+  database.cursor->next = dwValue;
   if (index) *index = dwValue;
-  return RecordOid(cursor, dwValue);
+  return RecordOid(dwValue);
 }
 
 CEOID CeReadRecordPropsEx(HANDLE hDbase, DWORD dwFlags, LPWORD lpcPropID, CEPROPID* rgPropID,
                           LPBYTE* lplpBuffer, LPDWORD lpcbBuffer, HANDLE) {
-  const OpenCursor cursor = FindCursor(hDbase);
-  if (!cursor.database) return 0;
-  const std::size_t at = cursor.open->next;
-  if (at >= cursor.database->records.size()) {
+  const OpenDatabase database = FindDatabase(hDbase);
+  if (!database.cursor) return 0;
+  const std::size_t at = database.cursor->next;
+  if (at >= database.records->size()) {
     SetLastError(ERROR_NO_MORE_ITEMS);
     return 0;
   }
-  const VolumeRecord& record = cursor.database->records[at];
-  const std::vector<CEPROPID> ids =
-      rgPropID ? std::vector<CEPROPID>(rgPropID, rgPropID + *lpcPropID) : IdsOf(record);
+  const PimRecord& record = (*database.records)[at];
+  const std::wstring name = WideOf(record.name);
+  const std::span<const CEPROPID> ids(rgPropID, *lpcPropID);
+  const std::size_t nameSize = (name.size() + 1) * sizeof(wchar_t);
+  const std::size_t size = ids.size() * sizeof(CEPROPVAL) + nameSize;
   const bool mayReallocate = (dwFlags & CEDB_ALLOWREALLOC) != 0;
-  if (!Reserve(lplpBuffer, lpcbBuffer, SizeOf(record, ids), mayReallocate)) return 0;
-  FillValues(record, ids, *lplpBuffer);
-  *lpcPropID = static_cast<WORD>(ids.size());
-  if (cursor.open->autoIncrement) ++cursor.open->next;
-  return RecordOid(cursor, at);
+  if (!Reserve(lplpBuffer, lpcbBuffer, size, mayReallocate)) return 0;
+  // The values stand first, the name behind them.
+  auto* value = reinterpret_cast<CEPROPVAL*>(*lplpBuffer);
+  auto* nameInBuffer = reinterpret_cast<wchar_t*>(value + ids.size());
+  for (const CEPROPID id : ids) *value++ = ValueOf(record, id, nameInBuffer);
+  std::memcpy(nameInBuffer, name.c_str(), nameSize);
+  if (database.cursor->autoIncrement) ++database.cursor->next;
+  return RecordOid(at);
 }

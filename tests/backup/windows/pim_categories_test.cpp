@@ -4,9 +4,7 @@
 
 #include <cstring>
 
-#include "backup/text_stream.h"
-#include "categories/pim_properties.h"
-#include "platform/desktop/pim_volume.h"
+#include "platform/pim_properties.h"
 #include "platform/text.h"
 #include "platform/windows/windows_files.h"
 #include "tests/support/catalog_support.h"
@@ -14,10 +12,6 @@
 
 namespace tidewell {
 namespace {
-
-VolumeRecord Category(std::uint32_t id, const wchar_t* name, std::uint32_t flag) {
-  return {{{kPimFlagProperty, flag, {}}, {kPimNameProperty, 0, name}, {kPimIdProperty, id, {}}}};
-}
 
 // A bitmap of one black pixel.
 std::vector<std::byte> TinyBitmap() {
@@ -49,12 +43,7 @@ class PimCategories : public testing::Test {
     const auto stream = files.OpenForWriting(JoinPath(folder, name));
     ASSERT_TRUE(stream && stream->Write(bytes) && stream->Close());
   }
-  void Put(std::vector<VolumeRecord> records, const wchar_t* database = kCategoryDatabase) {
-    PimVolume volume;
-    volume.databases.push_back({L"Other", {Category(1, L"Elsewhere", 0)}});
-    volume.databases.push_back({database, std::move(records)});
-    PutFile(L"pim.vol", FormatPimVolume(volume));
-  }
+  void Put(std::string_view text) { PutFile(L"pim.vol", std::as_bytes(std::span(text))); }
   // Reads the volume anew: names, ids, flags and icons, a category a line.
   std::string Shown() {
     PimCategorySource source(folder, Volume());
@@ -74,33 +63,30 @@ class PimCategories : public testing::Test {
 
 TEST_F(PimCategories, TheDatabaseTellsNameIdAndFlagAndTheFolderTheIcon) {
   PutFile(L"Work.bmp", TinyBitmap());
-  Put({Category(7, L"Work", 0),
-       Category(0x00050008, L"Home", 1),
-       Category(9, L"work", 1),
-       Category(65534, L"caf\x00E9", 2),
-       Category(0x1FFFF, L"Id 65535 in its low half", 1),
-       Category(3, L"", 1),
-       {{{kPimNameProperty, 0, L"No id"}, {kPimFlagProperty, 1, {}}}},
-       {{{kPimIdProperty, 1, {}}, {kPimFlagProperty, 1, {}}}},
-       {{{kPimIdProperty, 2, {}}, {kPimNameProperty, 0, L"No flag"}}},
-       {{}}});
+  Put("7 0 Work\n"
+      "327688 1 Home\n"
+      "9 1 work\n"
+      "65534 2 caf\xC3\xA9\n"
+      "131071 1 Id 65535 in its low half\n"
+      "3 1\n"
+      "- 1 No id\n"
+      "2 - No flag\n");
   EXPECT_EQ(Shown(), "caf\xC3\xA9 65534\nHome 8 flag\nNo flag 2\nWork 7 icon\n");
 }
 
-TEST_F(PimCategories, AVolumeThatIsMissingHarmedOrWithoutTheDatabaseGivesNone) {
+TEST_F(PimCategories, AVolumeThatIsMissingEmptyOrTooLargeGivesNone) {
   EXPECT_EQ(Shown(), "");
-  Put({Category(1, L"Work", 0)}, L"AnotherDB");
+  Put("");
   EXPECT_EQ(Shown(), "");
-  Put({Category(1, L"Work", 0)});
-  const std::vector<std::byte> whole = *ReadWholeFile(files, Volume());
-  PutFile(L"pim.vol", std::span(whole).first(whole.size() - 1));
+  Put("1 0 Work\n" + std::string(256 * 1024, '#'));
   EXPECT_EQ(Shown(), "");
 }
 
 TEST_F(PimCategories, AClosedDatabaseAnswersNothingAndLeavesNoHandle) {
   PimDatabase database;
   EXPECT_EQ(database.Seek(CEDB_SEEK_BEGINNING, 0), 0u);
-  Put({Category(1, L"Work", 0)});
+  Put("1 0 Work");
+  EXPECT_EQ(database.Open(L"AnotherDB", true, nullptr, nullptr, Volume()), nullptr);
   ASSERT_TRUE(database.Open(kCategoryDatabase, true, nullptr, nullptr, Volume()));
   EXPECT_NE(database.Seek(CEDB_SEEK_BEGINNING, 0), 0u);
   const HANDLE handle = database.Handle();
