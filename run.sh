@@ -61,7 +61,7 @@ need_packages "${program_packages[@]}"
 take_tour() {
   local language=$1 word name count=0
   use_language "$language"
-  coproc tour { on_screen "Z:$build/windows/tests/device/tour.exe" 2>/dev/null; }
+  coproc tour { on_screen "Z:$build/windows/tools/tour.exe" 2>/dev/null; }
   local from=${tour[0]} to=${tour[1]}
   while read -r -t 60 -u "$from" word name; do
     name=${name%$'\r'}

@@ -1,8 +1,8 @@
 #!/bin/sh
 # Fails when a source file is not formatted as .clang-format says, or when clang-tidy finds fault
-# with a file of the core. Needs clang-format, clang-tidy and a configured native build: its folder
-# is the argument, or build/host. A file that was found clean is read again only after it, a header
-# or .clang-tidy changed.
+# with a file of the core or of a native tool. Needs clang-format, clang-tidy and a configured native
+# build: its folder is the argument, or build/host. A file that was found clean is read again only
+# after it, a header or .clang-tidy changed.
 set -eu
 cd "$(dirname "$0")/.."
 
@@ -10,11 +10,11 @@ build=${1:-build/host}
 [ -f "$build/compile_commands.json" ] || { echo "First run cmake --preset host." >&2; exit 2; }
 mkdir -p "$build/lint"
 
-find src tests bench -name '*.h' -print0 -o -name '*.cpp' -print0 |
+find src tests tools bench -name '*.h' -print0 -o -name '*.cpp' -print0 |
   xargs -0 clang-format --dry-run --Werror
 
 core=$(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$build/compile_commands.json" |
-  grep -F "$PWD/src/" | sort -u)
+  grep -F -e "$PWD/src/" -e "$PWD/tools/" | sort -u)
 shared=$(find src -name '*.h' | sort | xargs -d '\n' cat .clang-tidy | sha1sum)
 # The analyzer's deep search takes four times as long as all the rest; sanitizers and fuzzing go deeper.
 quick="--extra-arg=-Xclang --extra-arg=-analyzer-config --extra-arg=-Xclang --extra-arg=mode=shallow"

@@ -1,9 +1,11 @@
-#include "settings/settings_table.h"
-
+// Writes docs/settings.md, the settings as a document: settings_table FILE
 #include <array>
+#include <cstdio>
+#include <memory>
 #include <utility>
 
 #include "platform/text.h"
+#include "settings/settings_store.h"
 
 namespace tidewell {
 
@@ -14,7 +16,7 @@ constexpr const wchar_t* kIntroduction =
 
 *Written by the program `settings_table` from the catalogue in `src/settings/catalogue/`; a test
 fails when this page is older than the catalogue. Change the catalogue, then run
-`cmake --build --preset host --target settings_table && build/host/src/settings/settings_table docs/settings.md`.*
+`cmake --build --preset host --target settings_table && build/host/tools/settings_table docs/settings.md`.*
 
 Every setting is one registry value. Names are those that the Today item reads, odd spellings
 included.
@@ -102,6 +104,34 @@ std::wstring WithSuffix(const std::wstring& base, const wchar_t* suffix) {
   return *suffix ? base + L" and " + Quoted(suffix) : base;
 }
 
+// A default as it reads in a document: 7, ScaleX(12), `"Tahoma"`.
+std::wstring DescribeDefault(const DwordDefault& rule) {
+  std::wstring number = FormatDecimal(static_cast<std::int32_t>(rule.number));
+  switch (rule.rule) {
+    case DwordDefault::Rule::kScaledX:
+      return L"ScaleX(" + number + L")";
+    case DwordDefault::Rule::kScaledY:
+      return L"ScaleY(" + number + L")";
+    case DwordDefault::Rule::kFirstDayOfWeek:
+      return L"the locale's first day of the week";
+    case DwordDefault::Rule::kLiteral:
+      break;
+  }
+  return number;
+}
+
+std::wstring DescribeDefault(const StringDefault& rule) {
+  switch (rule.rule) {
+    case StringDefault::Rule::kInstallFolder:
+      return WithSuffix(L"the install folder", rule.text);
+    case StringDefault::Rule::kOtherSetting:
+      return WithSuffix(L"the value of " + Code(rule.other->Name()), rule.text);
+    case StringDefault::Rule::kLiteral:
+      break;
+  }
+  return Quoted(rule.text);
+}
+
 class TableWriter final : public SettingVisitor {
  public:
   using SettingVisitor::Visit;
@@ -163,42 +193,33 @@ class TableWriter final : public SettingVisitor {
   Columns columns_ = Columns::kNone;
 };
 
-}  // namespace
-
-std::wstring DescribeDefault(const DwordDefault& rule) {
-  std::wstring number = FormatDecimal(static_cast<std::int32_t>(rule.number));
-  switch (rule.rule) {
-    case DwordDefault::Rule::kScaledX:
-      return L"ScaleX(" + number + L")";
-    case DwordDefault::Rule::kScaledY:
-      return L"ScaleY(" + number + L")";
-    case DwordDefault::Rule::kFirstDayOfWeek:
-      return L"the locale's first day of the week";
-    case DwordDefault::Rule::kLiteral:
-      break;
-  }
-  return number;
-}
-
-std::wstring DescribeDefault(const StringDefault& rule) {
-  switch (rule.rule) {
-    case StringDefault::Rule::kInstallFolder:
-      return WithSuffix(L"the install folder", rule.text);
-    case StringDefault::Rule::kOtherSetting:
-      return WithSuffix(L"the value of " + Code(rule.other->Name()), rule.text);
-    case StringDefault::Rule::kLiteral:
-      break;
-  }
-  return Quoted(rule.text);
-}
-
-std::wstring SettingsTable(SettingsStore& store) {
+// Markdown in plain ASCII, lines ended by a line feed.
+std::string SettingsTable() {
+  SettingsStore store;
   TableWriter writer;
   for (SettingGroup* group : store.Groups()) {
     writer.Start(group->Key());
     group->Accept(writer);
   }
-  return kIntroduction + writer.Take();
+  const std::wstring text = kIntroduction + writer.Take();
+  return {text.begin(), text.end()};
 }
 
+bool WriteFile(const char* path, const std::string& bytes) {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path, "wb"), &std::fclose);
+  return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+}
+
+}  // namespace
+
 }  // namespace tidewell
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fputs("usage: settings_table FILE\n", stderr);
+    return 2;
+  }
+  if (tidewell::WriteFile(argv[1], tidewell::SettingsTable())) return 0;
+  std::perror(argv[1]);
+  return 1;
+}

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "driven_program.h"
+#include "tests/device/driven_program.h"
 
 namespace tidewell::device {
 
