@@ -7,6 +7,7 @@
 
 #include "platform/desktop/device_room.h"
 #include "platform/desktop/device_shell.h"
+#include "platform/desktop/drop_list.h"
 #include "platform/desktop/message_box.h"
 #include "platform/desktop/shell_look.h"
 
@@ -99,6 +100,7 @@ LRESULT CALLBACK ShellWindows::CreationHook(int code, WPARAM wParam, LPARAM lPar
     const CREATESTRUCTW& created = *reinterpret_cast<CBT_CREATEWNDW*>(lParam)->lpcs;
     if (HasShellCaption(created)) Instance().Adopt(reinterpret_cast<HWND>(wParam));
     WatchForMessageBox(reinterpret_cast<HWND>(wParam), created);
+    WatchForDropList(reinterpret_cast<HWND>(wParam), created);
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
