@@ -56,11 +56,20 @@ fi
 
 need_packages "${program_packages[@]}"
 
+# The locale of a device that is sold with such a language.
+locale_of() {
+  case $1 in
+    en) echo en_US.UTF-8 ;;
+    de) echo de_DE.UTF-8 ;;
+  esac
+}
+
 # Takes the pictures of one screen in one language on the virtual display. The tour runs inside the
 # Wine desktop; it says "picture NAME", and goes on when it is answered.
 take_tour() {
   local language=$1 word name count=0
   use_language "$language"
+  wine_environment+=("LC_ALL=$(locale_of "$language")")
   coproc tour { on_screen "Z:$build/windows/tools/tour.exe" 2>/dev/null; }
   local from=${tour[0]} to=${tour[1]}
   while read -r -t 60 -u "$from" word name; do

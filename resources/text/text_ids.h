@@ -42,7 +42,7 @@
 #define IDS_PAGE_TAB_GENERAL 635        // General
 #define IDS_PAGE_TAB_DISPLAY 1062       // Display
 #define IDS_PAGE_TAB_OTHER 642          // Other
-#define IDS_BROWSE 856                  // Browse
+#define IDS_BROWSE 856                  // Select
 #define IDS_CLEAR 859                   // Clear
 #define IDS_COLOR_AUTOMATIC 915         // Auto
 #define IDS_SELECT_ENTRY 634            // Select an entry in the list first.
@@ -95,17 +95,17 @@
 #define IDS_DPAD_ACTION_PREVIEW 1355              // Preview
 #define IDS_DPAD_ACTION_MENU 1356                 // Show the menu
 #define IDS_DPAD_DOUBLE_PRESS_SWITCHES_TABS 1357  // Double press switches tabs
-#define IDS_DPAD_SCROLLING 1358                   // Up and down
+#define IDS_DPAD_SCROLLING 1358                   // Up/down keys
 #define IDS_DPAD_SCROLL_LINE 842                  // Scroll a line
 #define IDS_DPAD_SCROLL_ITEM 843                  // Scroll an item
 #define IDS_DPAD_SCROLL_PAGE 844                  // Scroll a page
-#define IDS_DPAD_EXCLUSIVE 1251                   // Keep the D-pad to this item
+#define IDS_DPAD_EXCLUSIVE 1251                   // D-pad for Tidewell only
 #define IDS_DOUBLE_TAP_SCROLLS 1008               // Scroll with a double tap
 #define IDS_SCROLL_WHOLE_PAGES 1009               // Scroll whole pages
 #define IDS_VGA_MODE 1029                         // VGA mode (double size)
 #define IDS_THIN_LINES 1033                       // Draw thin lines
 #define IDS_REMOVE_HIGHLIGHT 1028                 // Do not highlight the selection
-#define IDS_LOADING_DELAY 1252                    // Loading delay
+#define IDS_LOADING_DELAY 1252                    // Load delay (s)
 
 // Messages.
 #define IDS_MESSAGES_PREVIEW_MARKS_READ 1253  // Mark as read after a preview
@@ -117,11 +117,11 @@
 #define IDS_EVENTS_AHEAD_WEEK 117         // 7 days
 #define IDS_EVENTS_AHEAD_TWO_WEEKS 118    // 14 days
 #define IDS_EVENTS_AHEAD_MONTH 119        // 30 days
-#define IDS_EVENTS_ALERT 1047             // Alert, days ahead
+#define IDS_EVENTS_ALERT 1047             // Alert days
 #define IDS_EVENTS_DATE_FORMAT 1048       // Date format
 #define IDS_EVENTS_DATE_AS_DEVICE 1049    // As on the device
 #define IDS_EVENTS_SEARCH_DAYS 1044       // Days to search
-#define IDS_EVENTS_FILTER_ALERT 1045      // Alert, days ahead
+#define IDS_EVENTS_FILTER_ALERT 1045      // Filter alert days
 #define IDS_EVENTS_EXTRA_CATEGORY_1 1038  // Extra category 1
 #define IDS_EVENTS_EXTRA_CATEGORY_2 1039  // Extra category 2
 #define IDS_EVENTS_EXTRA_CATEGORY_3 1040  // Extra category 3
@@ -136,7 +136,7 @@
 #define IDS_PIM_POCKET_INFORMANT 107            // Pocket Informant
 #define IDS_PIM_AGENDA_FUSION 139               // Agenda Fusion
 #define IDS_PIM_AGENDA_ONE 108                  // Agenda One
-#define IDS_PIM_APPOINTMENT_REMINDER 1540       // Appt. reminder
+#define IDS_PIM_APPOINTMENT_REMINDER 1540       // Appointment reminder
 #define IDS_PIM_TASK_REMINDER 1541              // Task reminder
 #define IDS_PIM_NO_REMINDER 1542                // None
 #define IDS_PIM_MINUTES 1543                    // minutes

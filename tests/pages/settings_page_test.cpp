@@ -65,7 +65,7 @@ class BasePage : public PageHost {
 
 TEST_F(BasePage, WithoutTabsHasNoTabRowAndItsControlsShow) {
   EXPECT_EQ(Tabs(), nullptr);
-  const wchar_t* const texts[] = {L"", L"\\My Documents", L"Clear", L"Browse", L"Name"};
+  const wchar_t* const texts[] = {L"", L"\\My Documents", L"Clear", L"Select", L"Name"};
   for (int id = kList; id <= kName; ++id) {
     EXPECT_TRUE(IsShown(id)) << id;
     EXPECT_EQ(TextOfControl(id), texts[id - kList]);

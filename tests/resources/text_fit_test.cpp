@@ -39,13 +39,13 @@ std::vector<Place> ReadPlaces() {
 
 constexpr int kTabChrome = 14;
 
-// Measures in Tahoma, 12 pixels high, as every page has it at 96 dots per inch.
+// Measures in Tahoma, its letters 12 pixels high, as every page has it at 96 dots per inch.
 class TextFit : public testing::TestWithParam<std::string> {
  protected:
   int Width(const std::wstring& text, bool isBold) {
     const WindowDc dc(nullptr);
     const Font font(
-        CreateFontW(12, 0, 0, 0, isBold ? FW_BOLD : FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma"));
+        CreateFontW(-12, 0, 0, 0, isBold ? FW_BOLD : FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma"));
     const Selected selected(dc.Dc(), font.Get());
     wchar_t face[LF_FACESIZE] = L"";
     GetTextFaceW(dc.Dc(), LF_FACESIZE, face);
