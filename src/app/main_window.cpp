@@ -62,6 +62,8 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_CREATE:
       return OnCreate();
+    case WM_CLOSE:
+      return OnClose();
     case WM_DESTROY:
       return OnDestroy();
     case WM_SIZE:
@@ -114,6 +116,14 @@ LRESULT MainWindow::OnCreate() {
   CreateFonts();
   LoadCategories();
   ShowMainEntries();
+  return 0;
+}
+
+// By the system, say. Nothing is saved. Below a question or a dialog the window stays: whoever
+// asked comes back to it.
+LRESULT MainWindow::OnClose() {
+  const bool isAsking = !IsWindowEnabled(window_) || (page_ && !IsWindowEnabled(page_->Window()));
+  if (!isAsking) DestroyWindow(window_);
   return 0;
 }
 

@@ -62,6 +62,7 @@ class MainWindow {
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
   LRESULT OnCreate();
+  LRESULT OnClose();
   LRESULT OnDestroy();
   LRESULT OnSize(int width, int height);
   LRESULT OnActivate(WPARAM wParam, LPARAM lParam);

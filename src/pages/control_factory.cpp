@@ -70,9 +70,14 @@ HWND SettingsPage::MakeControl(const wchar_t* windowClass, DWORD style, int id,
   return control;
 }
 
-void SettingsPage::MakeReadOnlyEdit(int id, const std::wstring& text, const Rect& place) {
-  controls_.Add(MakeControl(WC_EDITW, kEditStyle | ES_READONLY, id, text, place),
+// The field, the button that clears it and the one that browses.
+void SettingsPage::MakePathControls(const std::wstring& path,
+                                    std::span<const ControlPlace> places) {
+  controls_.Add(MakeControl(WC_EDITW, kEditStyle | ES_READONLY, places[0].id, path, places[0].rect),
                 ControlKind::kEdit);
+  ShowEndOfPath(places[0].id);
+  MakeButton(places[1].id, IDS_CLEAR, places[1].rect);
+  MakeButton(places[2].id, IDS_BROWSE, places[2].rect);
 }
 
 void SettingsPage::MakeButton(int id, int textId, const Rect& place) {
@@ -131,19 +136,16 @@ RowPlace SettingsPage::AddPathRow(int labelId, int editId, int clearId, int brow
   RowPlace row =
       PlacePathRow(Metrics(measure), labelId, editId, clearId, browseId, Text(textId), y);
   MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
-  MakeReadOnlyEdit(editId, path, row.controls[1].rect);
-  MakeButton(clearId, IDS_CLEAR, row.controls[2].rect);
-  MakeButton(browseId, IDS_BROWSE, row.controls[3].rect);
+  MakePathControls(path, std::span(row.controls).subspan(1));
   return row;
 }
 
-void SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path,
-                               int y) {
+RowPlace SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path,
+                                   int y) {
   FontMeasure measure(window_, TextFont());
-  const auto places = PlacePathEdit(Metrics(measure), editId, clearId, browseId, y);
-  MakeReadOnlyEdit(editId, path, places[0].rect);
-  MakeButton(clearId, IDS_CLEAR, places[1].rect);
-  MakeButton(browseId, IDS_BROWSE, places[2].rect);
+  RowPlace row = PlacePathEdit(Metrics(measure), editId, clearId, browseId, y);
+  MakePathControls(path, row.controls);
+  return row;
 }
 
 void SettingsPage::AddList(int id, std::span<const int> itemIds, int yOffset) {
@@ -225,6 +227,17 @@ std::wstring SettingsPage::TextOfControl(int id) const {
 
 void SettingsPage::SetTextOfControl(int id, const std::wstring& text) const {
   SetWindowTextW(Control(id), text.c_str());
+}
+
+void SettingsPage::SetPathOfControl(int id, const std::wstring& path) const {
+  SetTextOfControl(id, path);
+  ShowEndOfPath(id);
+}
+
+void SettingsPage::ShowEndOfPath(int id) const {
+  const int end = GetWindowTextLengthW(Control(id));
+  Send(id, EM_SETSEL, static_cast<WPARAM>(end), end);
+  Send(id, EM_SCROLLCARET);
 }
 
 bool SettingsPage::IsChecked(int id) const {

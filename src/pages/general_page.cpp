@@ -26,7 +26,8 @@ void GeneralPage::OnTabBuilt(int tab) {
 void GeneralPage::OnDestroy(HWND window) {
   TablePage::OnDestroy(window);
   // Where no pack is chosen, the present one stays.
-  const auto choice = static_cast<int>(Send(kLanguage, CB_GETCURSEL));
+  const int choice =
+      Control(kLanguage) ? static_cast<int>(Send(kLanguage, CB_GETCURSEL)) : kNoChoice;
   if (const std::wstring* path = packs_.PathOf(choice)) {
     Context().settings.root.SelectedLangResFile.Set(*path);
   }
@@ -44,7 +45,7 @@ LRESULT GeneralPage::OnCommand(HWND, WPARAM wParam, LPARAM) {
       if (HIWORD(wParam) == CBN_SELCHANGE) ApplyDPadRule();
       break;
     case kClearSkin:
-      SetTextOfControl(kSkinPath, L"");
+      SetPathOfControl(kSkinPath, L"");
       break;
     case kBrowseSkin:
       BrowseSkin();
@@ -75,7 +76,7 @@ void GeneralPage::BrowseSkin() {
   if (!Context().dialogs) return;
   const auto folder = Context().dialogs->ChooseFolder(Window(), Context(), L"Select Skin Path",
                                                       TextOfControl(kSkinPath));
-  if (folder) SetTextOfControl(kSkinPath, *folder);
+  if (folder) SetPathOfControl(kSkinPath, *folder);
 }
 
 }  // namespace tidewell

@@ -33,6 +33,12 @@ void StepChoice(HWND list, int direction) {
   TellPage(list, CBN_SELCHANGE);
 }
 
+// Some row has the mark of the focus as long as the list of rows has the focus.
+void FocusARow(HWND rows) {
+  if (ListView_GetNextItem(rows, -1, LVNI_FOCUSED) >= 0) return;
+  ListView_SetItemState(rows, 0, LVIS_FOCUSED, LVIS_FOCUSED);
+}
+
 // Whether the list of rows cannot go further that way, so that the key leaves it.
 bool IsAtEnd(HWND rows, int direction) {
   const int count = ListView_GetItemCount(rows);
@@ -71,6 +77,7 @@ LRESULT CALLBACK PageControls::WindowProc(HWND window, UINT message, WPARAM wPar
       controls.owner_.OnWheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     case WM_SETFOCUS:
+      if (entry.kind == ControlKind::kRows) FocusARow(entry.control);
       controls.owner_.OnFocusMoved(entry.control);
       break;
     case WM_KILLFOCUS:
@@ -169,6 +176,14 @@ bool PageControls::CanFocus(HWND control) const {
   const bool known = std::any_of(entries_.begin(), entries_.end(),
                                  [&](const Entry& entry) { return entry.control == control; });
   return known && IsShown(control) && IsWindowEnabled(control);
+}
+
+bool PageControls::MarksItself(HWND control) const {
+  return std::any_of(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+    return entry.control == control &&
+           (entry.kind == ControlKind::kList || entry.kind == ControlKind::kRows ||
+            entry.kind == ControlKind::kTabs);
+  });
 }
 
 void PageControls::FocusFirst(HWND preferred) {

@@ -34,6 +34,8 @@ class PageControls {
   // The focus goes to the first usable control, to `preferred` when that is one.
   void FocusFirst(HWND preferred = nullptr);
   bool CanFocus(HWND control) const;
+  // Whether the control itself shows that it has the focus: lists and tabs do.
+  bool MarksItself(HWND control) const;
 
  private:
   struct Entry {

@@ -52,16 +52,16 @@ struct RowPlace {
 };
 
 // Rows by themselves, at `y`, in pixels. A caption that is too long for its column wraps and makes
-// its row higher.
+// its row higher. Where a page is too narrow for two columns, a label stands above its control.
 RowPlace PlaceCheckRow(const PageMetrics& metrics, int id, const std::wstring& caption, int y);
 RowPlace PlaceComboRow(const PageMetrics& metrics, int labelId, int comboId,
                        const std::wstring& caption, int y);
 RowPlace PlacePathRow(const PageMetrics& metrics, int labelId, int editId, int clearId,
                       int browseId, const std::wstring& caption, int y);
-// An edit and two buttons on one line, without a caption.
-std::vector<ControlPlace> PlacePathEdit(const PageMetrics& metrics, int editId, int clearId,
-                                        int browseId, int y);
-// A list that fills the page below `yOffset`, a length at 96 dots per inch.
+// An edit and two buttons on one line, on a narrow page on two, without a caption.
+RowPlace PlacePathEdit(const PageMetrics& metrics, int editId, int clearId, int browseId, int y);
+// A list that fills the page below `yOffset`, a length at 96 dots per inch. On a page that is too
+// low for it, it keeps the height of two rows.
 Rect PlaceList(const ScreenScale& scale, int clientWidth, int clientHeight, int yOffset);
 Rect PlaceTabRow(const ScreenScale& scale, int clientWidth, int clientHeight);
 
@@ -70,7 +70,8 @@ RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring
 
 inline constexpr int kFirstRowTop = 8;  // at 96 dots per inch
 
-// The words of a text that are wider than `width`, each cut short with an ellipsis.
-std::wstring ShortenWords(TextMeasure& measure, const std::wstring& text, int width);
+// The words of a text that are wider than `width`, each divided at a soft hyphen, or cut short with
+// an ellipsis where it has none. No other soft hyphen is left.
+std::wstring FitWords(TextMeasure& measure, const std::wstring& text, int width);
 
 }  // namespace tidewell

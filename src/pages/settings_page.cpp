@@ -1,5 +1,7 @@
 #include "pages/settings_page.h"
 
+#include <algorithm>
+
 #include "platform/window_owner.h"
 #include "ui/common_controls.h"
 #include "ui/look.h"
@@ -62,6 +64,7 @@ bool SettingsPage::Create(HWND host, const wchar_t* className, const std::wstrin
   ShowWindow(window_, SW_SHOW);
   controls_.FocusFirst();  // before the first painting, which shows it
   UpdateWindow(window_);
+  OnShown(window_);
   return true;
 }
 
@@ -88,6 +91,8 @@ LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETTINGCHANGE:
       SHHandleWMSettingChange(window_, wParam, lParam, &activation_);
       return 0;
+    case WM_CLOSE:
+      return IsWindowEnabled(window_) ? AskToClose() : 0;  // not below a dialog of its own
     case WM_SETFOCUS:
       controls_.FocusFirst(lastFocused_);
       return 0;
@@ -110,8 +115,7 @@ LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       return Turn(reinterpret_cast<NMHDR*>(lParam));
     case WM_COMMAND:
-      // The host deletes the page before this returns.
-      if (LOWORD(wParam) == IDOK) return SendMessageW(GetParent(window_), kClosePageMessage, 0, 0);
+      if (LOWORD(wParam) == IDOK) return AskToClose();
       return OnCommand(window_, wParam, lParam);
     case kPreviewMessage1:
       return OnPreviewMessage1(window_, wParam, lParam);
@@ -133,6 +137,11 @@ LRESULT SettingsPage::Build() {
   if (tabs_) controls_.Add(tabs_, ControlKind::kTabs);
   ShowTab(window_, SW_SHOW);
   return 0;
+}
+
+// The host deletes the page before this returns.
+LRESULT SettingsPage::AskToClose() const {
+  return SendMessageW(GetParent(window_), kClosePageMessage, 0, 0);
 }
 
 LRESULT SettingsPage::TakeDown() {
@@ -206,7 +215,7 @@ void SettingsPage::OnFocusMoved(HWND control) {
 
 // The frame lies in the room between a control and its neighbours.
 void SettingsPage::InvalidateFocus(HWND control) const {
-  if (!control || control == tabs_) return;
+  if (!control || controls_.MarksItself(control)) return;
   const RECT frame = FocusFrame(control);
   InvalidateRect(window_, &frame, TRUE);
 }
@@ -223,7 +232,7 @@ RECT SettingsPage::FocusFrame(HWND control) const {
 void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
   const RECT client = ClientArea(window);
   FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-  if (!focused_ || focused_ == tabs_) return;
+  if (!focused_ || controls_.MarksItself(focused_)) return;
   RECT frame = FocusFrame(focused_);
   const Brush ink(CreateSolidBrush(kFocusInk));
   FillRect(dc, &frame, ink.Get());
@@ -231,6 +240,8 @@ void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
   InflateRect(&frame, -width, -width);
   FillRect(dc, &frame, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
 }
+
+void SettingsPage::OnShown(HWND) {}
 
 bool SettingsPage::OnPageKey(int) {
   return false;
@@ -271,7 +282,7 @@ LRESULT SettingsPage::OnOther(HWND window, UINT message, WPARAM wParam, LPARAM l
 }
 
 int SettingsPage::SelectedTab() const {
-  return tabs_ ? static_cast<int>(SendMessageW(tabs_, TCM_GETCURSEL, 0, 0)) : 0;
+  return std::max(0, static_cast<int>(SendMessageW(tabs_, TCM_GETCURSEL, 0, 0)));
 }
 
 PageMetrics SettingsPage::Metrics(TextMeasure& measure) const {

@@ -43,11 +43,14 @@ class SettingsPage : public HostedPage, private ControlsOwner {
  protected:
   virtual int GetTabCount() const = 0;
   virtual int GetTabTitleId(int index) const = 0;
-  // Builds the controls, none of them visible; those behind the first tab can follow later.
+  // Builds the controls, none of them visible.
   virtual void OnCreate(HWND window) = 0;
+  // The page has been painted for the first time; what its first tab does not show can be built
+  // now.
+  virtual void OnShown(HWND window);
   // Shows or hides the controls of the tab that is selected now.
   virtual void ShowTab(HWND window, int showCommand) = 0;
-  // Writes the state of every control into the settings.
+  // Writes the state of every control that there is into the settings.
   virtual void OnDestroy(HWND window) = 0;
   virtual void OnPaint(HWND window);
   virtual LRESULT OnLButtonDown(HWND window, WPARAM wParam, LPARAM lParam);
@@ -77,7 +80,7 @@ class SettingsPage : public HostedPage, private ControlsOwner {
                        int selection, int y, bool editable);
   RowPlace AddPathRow(int labelId, int editId, int clearId, int browseId, int textId,
                       const std::wstring& path, int y);
-  void AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path, int y);
+  RowPlace AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path, int y);
   void AddList(int id, std::span<const int> itemIds, int yOffset);
 
   void DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const;
@@ -91,6 +94,9 @@ class SettingsPage : public HostedPage, private ControlsOwner {
   LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   std::wstring TextOfControl(int id) const;
   void SetTextOfControl(int id, const std::wstring& text) const;
+  void SetPathOfControl(int id, const std::wstring& path) const;
+  // A path that is longer than its field is told by its end.
+  void ShowEndOfPath(int id) const;
   bool IsChecked(int id) const;
   std::wstring Text(int textId) const;
   void ShowMessage(int textId, int captionId) const;
@@ -111,6 +117,7 @@ class SettingsPage : public HostedPage, private ControlsOwner {
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Build();
+  LRESULT AskToClose() const;
   LRESULT TakeDown();
   LRESULT Turn(NMHDR* header);
   void MakeMenuBar();
@@ -120,7 +127,7 @@ class SettingsPage : public HostedPage, private ControlsOwner {
   RECT FocusFrame(HWND control) const;
   HWND MakeControl(const wchar_t* windowClass, DWORD style, int id, const std::wstring& text,
                    const Rect& place);
-  void MakeReadOnlyEdit(int id, const std::wstring& text, const Rect& place);
+  void MakePathControls(const std::wstring& path, std::span<const ControlPlace> places);
   void MakeButton(int id, int textId, const Rect& place);
 
   HWND window_ = nullptr;

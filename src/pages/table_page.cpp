@@ -17,9 +17,6 @@ constexpr int kThumbWidth = 4;
 constexpr int kThumbStrip = 10;  // the right margin, in which the thumb is taken
 constexpr int kSmallestThumb = 20;
 
-// Posted to itself: the page is painted, and the tabs behind the first one can be built.
-constexpr UINT kPaintedMessage = WM_APP;
-
 SIZE ClientSize(HWND window) {
   const RECT client = ClientArea(window);
   return {client.right, client.bottom};
@@ -32,15 +29,16 @@ TablePage::TablePage(PageContext& context, PageTable table)
 
 void TablePage::OnCreate(HWND window) {
   laidOut_ = ClientSize(window);
-  NeedTab(0);
-  PostMessageW(window, kPaintedMessage, 0, 0);
+  if (GetTabCount() > 0) BuildTab(0);
 }
 
-// A tab is built when it is first needed, at the latest after the page was painted: lists are
-// slow to make, and the user sees those of one tab only.
-void TablePage::NeedTab(int tab) {
+// Lists are slow to make, and the user sees those of one tab only.
+void TablePage::OnShown(HWND) {
+  for (int tab = 1; tab < GetTabCount(); ++tab) BuildTab(tab);
+}
+
+void TablePage::BuildTab(int tab) {
   TabPlace& place = places_[static_cast<std::size_t>(tab)];
-  if (std::exchange(place.built, true)) return;
   int y = Scale().ScaleY(kFirstRowTop);
   for (const Row& row : TabAt(tab).rows) {
     RowPlace& built = place.rows.emplace_back(BuildRow(row, y));
@@ -49,10 +47,6 @@ void TablePage::NeedTab(int tab) {
   }
   FitScroll(place);
   OnTabBuilt(tab);
-}
-
-void TablePage::NeedAllTabs() {
-  for (int tab = 0; tab < GetTabCount(); ++tab) NeedTab(tab);
 }
 
 void TablePage::OnTabBuilt(int) {}
@@ -79,7 +73,6 @@ RowPlace TablePage::BuildRow(const Row& row, int y) {
 }
 
 void TablePage::ShowTab(HWND window, int showCommand) {
-  NeedTab(SelectedTab());
   const PageTab& tab = TabAt(SelectedTab());
   ShowControlRange(window, tab.firstId, tab.lastId, showCommand);
   const ScrollRange& scroll = SelectedPlace().scroll;
@@ -89,9 +82,10 @@ void TablePage::ShowTab(HWND window, int showCommand) {
 }
 
 void TablePage::OnDestroy(HWND) {
-  NeedAllTabs();
   for (const PageTab& tab : table_) {
-    for (const Row& row : tab.rows) Store(row, ReadState(row));
+    for (const Row& row : tab.rows) {
+      if (Control(row.controlId)) Store(row, ReadState(row));
+    }
   }
 }
 
@@ -116,9 +110,7 @@ void TablePage::OnLayout(HWND window) {
   const SIZE size = ClientSize(window);
   if (size.cx == laidOut_.cx && size.cy == laidOut_.cy) return;
   laidOut_ = size;
-  for (std::size_t tab = 0; tab < table_.size(); ++tab) {
-    if (places_[tab].built) LayOutTab(tab);
-  }
+  for (std::size_t tab = 0; tab < table_.size(); ++tab) LayOutTab(tab);
   InvalidateRect(window, nullptr, TRUE);
 }
 
@@ -136,6 +128,9 @@ void TablePage::LayOutTab(std::size_t tab) {
   }
   FitScroll(place);
   MoveControls(place, 0);
+  for (const Row& row : table_[tab].rows) {
+    if (row.kind == RowKind::kPath) ShowEndOfPath(row.controlId);
+  }
 }
 
 // A caption may be cut short at one width and whole at another.
@@ -158,7 +153,9 @@ void TablePage::MoveControls(const TabPlace& place, UINT flags) const {
   HDWP moves = BeginDeferWindowPos(16);
   for (const RowPlace& row : place.rows) {
     for (const ControlPlace& control : row.controls) {
-      moves = DeferWindowPos(moves, Control(control.id), nullptr, control.rect.left,
+      const HWND window = Control(control.id);
+      if (!window) continue;  // one failure would undo all moves
+      moves = DeferWindowPos(moves, window, nullptr, control.rect.left,
                              control.rect.top - place.scroll.Offset(), control.rect.width,
                              control.rect.height, SWP_NOZORDER | SWP_NOACTIVATE | flags);
     }
@@ -224,9 +221,6 @@ void TablePage::DragTo(int y) {
 
 LRESULT TablePage::OnOther(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case kPaintedMessage:
-      NeedAllTabs();
-      return 0;
     case WM_MOUSEMOVE:
       if (drag_) DragTo(GET_Y_LPARAM(lParam));
       return 0;

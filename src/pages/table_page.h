@@ -20,6 +20,7 @@ class TablePage : public SettingsPage {
   int GetTabCount() const override { return static_cast<int>(table_.size()); }
   int GetTabTitleId(int index) const override { return TabAt(index).titleId; }
   void OnCreate(HWND window) override;
+  void OnShown(HWND window) override;
   void ShowTab(HWND window, int showCommand) override;
   void OnDestroy(HWND window) override;
   void OnLayout(HWND window) override;
@@ -37,7 +38,6 @@ class TablePage : public SettingsPage {
 
  private:
   struct TabPlace {
-    bool built = false;
     std::vector<RowPlace> rows;
     ScrollRange scroll;
   };
@@ -49,8 +49,7 @@ class TablePage : public SettingsPage {
 
   const PageTab& TabAt(int index) const { return table_[static_cast<std::size_t>(index)]; }
   TabPlace& SelectedPlace() { return places_[static_cast<std::size_t>(SelectedTab())]; }
-  void NeedTab(int tab);
-  void NeedAllTabs();
+  void BuildTab(int tab);
   RowPlace BuildRow(const Row& row, int y);
   void LayOutTab(std::size_t tab);
   void ShowCaption(const Row& row, const RowPlace& place) const;

@@ -129,7 +129,8 @@ void EntryList::Draw(const DRAWITEMSTRUCT& item) {
   const std::wstring& name = (*entries_)[row].name;
   DrawTextW(item.hDC, name.c_str(), static_cast<int>(name.size()), &place,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-  if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &item.rcItem);
+  // A marked row needs no second mark.
+  if (!marked && (item.itemState & ODS_FOCUS)) DrawFocusRect(item.hDC, &item.rcItem);
 }
 
 void EntryList::PaintIcon(HDC dc, std::size_t row, const RECT& cell) {

@@ -82,6 +82,9 @@ INT_PTR FullScreenDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CTLCOLORSTATIC:
       SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
       return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
+    case WM_CLOSE:
+      if (IsWindowEnabled(window_)) Close(0);  // not below a message of its own
+      return TRUE;
     case WM_COMMAND:
       if (LOWORD(wParam) == IDCANCEL) {
         Close(0);

@@ -100,8 +100,19 @@ TEST_F(DoneTest, DoneClosesAPageFirstAndTheWindowsEndThePageToo) {
   EXPECT_EQ(pagesDestroyed, 1);
   EXPECT_EQ(CountBroadcasts(), 0);
   RunRow(0);
-  DestroyWindow(Window());
+  for (const HWND disabled : {Window(), pageWindow}) {
+    EnableWindow(disabled, FALSE);
+    SendMessageW(Window(), WM_CLOSE, 0, 0);
+    ASSERT_TRUE(IsOpen()) << "a dialog is open";
+    EnableWindow(disabled, TRUE);
+  }
+  program->Settings().root.OnClick.Set(1);
+  SendMessageW(Window(), WM_CLOSE, 0, 0);
+  EXPECT_FALSE(IsOpen());
   EXPECT_EQ(pagesDestroyed, 2);
+  EXPECT_FALSE(HasValue(L"OnClick")) << "closed from outside, nothing is saved";
+  PumpMessages();
+  EXPECT_EQ(CountBroadcasts(), 0);
 }
 
 TEST_F(DoneTest, ABackupGoesOutAndComesBack) {

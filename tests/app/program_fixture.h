@@ -106,7 +106,10 @@ class ProgramTest : public testing::Test {
   std::unique_ptr<HostedPage> MakePage(int page, HWND host) {
     pageAsked = page;
     captionSeen = CaptionOf(host);
-    return hasPages ? std::make_unique<Page>(host, pagesDestroyed) : nullptr;
+    if (!hasPages) return nullptr;
+    auto made = std::make_unique<Page>(host, pagesDestroyed);
+    pageWindow = made->Window();
+    return made;
   }
 
   MemoryMachine device;
@@ -118,6 +121,7 @@ class ProgramTest : public testing::Test {
   std::wstring backupAsked;
   bool hasPages = false;
   int pageAsked = -1;
+  HWND pageWindow = nullptr;
   std::wstring captionSeen;
   int pagesDestroyed = 0;
 };

@@ -43,9 +43,10 @@ class PageHost : public PageFixture {
   ~PageHost() override {
     if (page_) Close();
   }
-  void UseScreen(int width, int height, int dpi) {
+  void UseScreen(int width, int height, int dpi, bool vgaMode = false) {
     PageFixture::UseScreen(width, height, dpi);
-    const int strip = context.scale.ScaleY(26);
+    context.scale = ScreenScale(dpi, dpi, vgaMode);
+    const int strip = 26 * dpi / 96;
     MoveWindow(host_.Get(), 0, strip, width, height - strip, FALSE);
   }
   void UseLanguage(const std::wstring& library) {
@@ -54,14 +55,9 @@ class PageHost : public PageFixture {
     context.language = language_.get();
   }
 
-  // Until its first tab is painted.
-  void BeginToOpen(PageIndex page) {
+  void Open(PageIndex page) {
     page_ = CreatePage(static_cast<int>(page), host_.Get(), context);
     ASSERT_TRUE(page_);
-  }
-  void Open(PageIndex page) {
-    BeginToOpen(page);
-    PumpMessages();
   }
   // As the host does on OK. The settings have what the page's controls held.
   void Close() {

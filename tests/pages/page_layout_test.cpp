@@ -22,6 +22,7 @@ class Layout : public testing::Test {
   PageMetrics qvga{{96, 96, false}, 240, 268, measure};
   PageMetrics vga{{192, 192, false}, 480, 536, measure};
   PageMetrics doubled{{96, 96, true}, 480, 536, measure};
+  PageMetrics narrow{{96, 96, true}, 240, 268, measure};
 };
 
 using Places = std::vector<ControlPlace>;
@@ -39,7 +40,7 @@ TEST_F(Layout, RowsStandWhereTheyAreExpected) {
                                    {3, {135, 32, 45, 20}},
                                    {4, {185, 32, 45, 20}}}));
   EXPECT_EQ(path.height, 48);
-  EXPECT_EQ(PlacePathEdit(qvga, 1, 2, 3, 8),
+  EXPECT_EQ(PlacePathEdit(qvga, 1, 2, 3, 8).controls,
             (Places{{1, {10, 8, 120, 20}}, {2, {135, 8, 45, 20}}, {3, {185, 8, 45, 20}}}));
   EXPECT_EQ(PlaceList(qvga.scale, 240, 268, 8), (Rect{10, 76, 220, 164}));
   EXPECT_EQ(PlaceTabRow(qvga.scale, 240, 268), (Rect{-2, 247, 242, 21}));
@@ -53,12 +54,29 @@ TEST_F(Layout, TwiceTheResolutionIsTwiceTheSize) {
   }
 }
 
+TEST_F(Layout, ANarrowPageHasItsLabelsAboveTheControls) {
+  const RowPlace combo = PlaceComboRow(narrow, 1, 2, L"Label", 16);
+  EXPECT_EQ(combo.controls, (Places{{1, {8, 22, 212, 40}}, {2, {20, 62, 200, 200}}}));
+  EXPECT_EQ(combo.height, 94);
+  const RowPlace path = PlacePathRow(narrow, 1, 2, 3, 4, L"Path", 16);
+  EXPECT_EQ(path.controls, (Places{{1, {8, 22, 212, 40}},
+                                   {2, {20, 62, 200, 40}},
+                                   {3, {30, 110, 90, 40}},
+                                   {4, {130, 110, 90, 40}}}));
+  EXPECT_EQ(path.height, 142);
+  const RowPlace edit = PlacePathEdit(narrow, 1, 2, 3, 16);
+  EXPECT_EQ(edit.controls,
+            (Places{{1, {20, 16, 200, 40}}, {2, {30, 64, 90, 40}}, {3, {130, 64, 90, 40}}}));
+  EXPECT_EQ(edit.height, 96);
+  EXPECT_EQ(PlaceList(narrow.scale, 240, 188, 8).height, 80) << "two rows at least";
+}
+
 TEST_F(Layout, ALongCaptionWrapsAndItsRowGrows) {
   const RowPlace fits = PlaceComboRow(qvga, 1, 2, L"Sixteen letters.", 8);
   EXPECT_FALSE(fits.wraps);
   const RowPlace combo = PlaceComboRow(qvga, 1, 2, L"Two lines of a label", 8);
   EXPECT_TRUE(combo.wraps);
-  EXPECT_EQ(combo.controls[0].rect, (Rect{0, 11, 100, 28}));
+  EXPECT_EQ(combo.controls[0].rect, (Rect{4, 11, 96, 28}));
   EXPECT_EQ(combo.height, 34);
   const RowPlace check = PlaceCheckRow(qvga, 1, L"A caption that runs on under its check box", 8);
   EXPECT_EQ(check.controls[0].rect, (Rect{10, 8, 220, 28}));
@@ -71,7 +89,14 @@ TEST_F(Layout, AWordThatIsWiderThanItsColumnEndsInAnEllipsis) {
   EXPECT_EQ(PlaceComboRow(qvga, 1, 2, L"Aufgabenerinnerung", 8).caption, L"Aufgabenerinner\u2026");
   EXPECT_EQ(PlaceComboRow(qvga, 1, 2, L"Die Aufgabenerinnerung an", 8).caption,
             L"Die Aufgabenerinner\u2026 an");
-  EXPECT_EQ(ShortenWords(measure, L"wide", 3), L"w\u2026");
+  EXPECT_EQ(FitWords(measure, L"wide", 3), L"w\u2026");
+}
+
+TEST_F(Layout, AWordIsDividedWhereItMayBe) {
+  const std::wstring word = L"Auf\u00ADgaben\u00ADerinnerung";
+  EXPECT_EQ(PlaceCheckRow(qvga, 1, word, 8).caption, L"Aufgabenerinnerung");
+  EXPECT_EQ(PlaceComboRow(qvga, 1, 2, word + L" an", 8).caption, L"Aufgaben- erinnerung an");
+  EXPECT_EQ(FitWords(measure, word, 50), L"Auf- gaben- erinner\u2026");
 }
 
 TEST(Scrolling, StaysWithinItsEndsAndMovesNoFurtherThanNeeded) {

@@ -71,6 +71,15 @@ TEST_F(PathDialogTest, OneTapOpensAFolderAndTheSecondOfADoubleTapNothingMore) {
       {TapRightKey, L""},
   });
   EXPECT_EQ(Folder(L"\\My Documents"), std::nullopt);
+  // Closing is cancelling, but not below a message of the dialog's own.
+  const auto close = [](bool below) {
+    return [=] {
+      EnableWindow(FrontDialog(), !below);
+      PostMessageW(FrontDialog(), WM_CLOSE, 0, 0);
+    };
+  };
+  driver.Play({{close(true), L"\\Windows: Up one level (No entries)"}, {close(false), L""}});
+  EXPECT_EQ(Folder(L"\\Windows"), std::nullopt);
 }
 
 TEST_F(PathDialogTest, AFileIsMarkedByATapAndTakenByTheSoftKeyOrASecondTap) {
