@@ -44,10 +44,9 @@ class DoneTest : public ProgramTest {
     SendMessageW(Window(), WM_COMMAND, IDOK, 0);
     PumpMessages();
   }
-  int CountBroadcasts() const {
-    return listener.Count(RegisterWindowMessageW(L"VelmontTidewellSettingsChanged"));
-  }
+  int CountBroadcasts() const { return listener.Count(kBroadcast); }
 
+  const UINT kBroadcast = RegisterWindowMessageW(L"VelmontTidewellSettingsChanged");
   TestWindow listener{WS_POPUP, 0};
 };
 
@@ -58,7 +57,15 @@ TEST_F(DoneTest, SavesTheSettingsTheCategoriesAndTheFiltersFile) {
   Start();
   program->Settings().root.OnClick.Set(1);
   program->Categories().FindCategory(L"Work")->color = 0x0000FF;
+  bool isTold = false;
+  const auto watchTheQueue = [&](auto) {
+    MSG message;
+    isTold = isTold || PeekMessageW(&message, listener.Get(), kBroadcast, kBroadcast, PM_NOREMOVE);
+  };
+  registry.Meter().Watch(watchTheQueue);
+  files.Meter().Watch(watchTheQueue);
   Done();
+  EXPECT_FALSE(isTold) << "before everything was written";
   EXPECT_EQ(CountBroadcasts(), 1);
   EXPECT_TRUE(HasValue(L"OnClick"));
   EXPECT_TRUE(HasValue(L"CatColor.Work", L"\\Categories"));

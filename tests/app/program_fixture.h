@@ -10,6 +10,7 @@
 
 #include "app/main_window.h"
 #include "platform/memory/memory_machine.h"
+#include "platform/memory/metered_files.h"
 #include "platform/memory/metered_registry.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
@@ -38,7 +39,7 @@ class ProgramTest : public testing::Test {
   }
 
   void Start() {
-    StartOn({registry, device.files, device.locale, device.libraries, device.system}, Parts());
+    StartOn({registry, files, device.locale, device.libraries, device.system}, Parts());
   }
   void StartOn(Machine machine, MainWindowParts parts) {
     program = std::make_unique<MainWindow>(GetModuleHandleW(nullptr), machine, std::move(parts));
@@ -114,6 +115,7 @@ class ProgramTest : public testing::Test {
 
   MemoryMachine device;
   MeteredRegistry registry{device.registry};
+  MeteredFiles files{device.files};
   std::unique_ptr<MainWindow> program;
   std::vector<PimCategory> categories;
   std::vector<std::wstring> asked;  // each question, answered with no

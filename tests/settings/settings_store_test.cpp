@@ -114,6 +114,7 @@ TEST_P(SettingsStoreTest, ValuesThatCannotBeAreRepairedAtLoadAndTheRepairIsSaved
         // The default length with any start reaches past midnight.
         {"TimelinesStart=10", "TimelinesStart=10 TimelinesLength=8 "},
         {"TimelinesStart=10 TimelinesLength=8", "TimelinesStart=10 TimelinesLength=8 "},
+        {"TimelinesStart=10 TimelinesLength=9", "TimelinesStart=10 TimelinesLength=8 "},
         {"TimelinesStart=2147483647 TimelinesLength=2147483647",
          "TimelinesStart=2147483647 TimelinesLength=-2147483629 "},
         {"CalTitlesOrder5=4", ""},

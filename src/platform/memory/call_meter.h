@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <string>
@@ -42,13 +43,16 @@ class CallMeter {
     lastFailure_ = std::numeric_limits<int>::max();
   }
   void FailEvery(Kind kind) { fails_[Index(kind)] = true; }
-  // Forgets counts, log and failures.
+  // `watcher` runs inside every call that can fail, before it does anything.
+  void Watch(std::function<void(Kind)> watcher) { watcher_ = std::move(watcher); }
+  // Forgets counts, log, failures and the watcher.
   void Reset() { *this = CallMeter(); }
 
   // For the metered objects. A call that can fail asks whether it is to.
   bool Note(Kind kind) {
     ++counts_[Index(kind)];
     ++failable_;
+    if (watcher_) watcher_(kind);
     return fails_[Index(kind)] || (failable_ >= firstFailure_ && failable_ <= lastFailure_);
   }
   void NoteUnfailing(Kind kind) { ++counts_[Index(kind)]; }
@@ -65,6 +69,7 @@ class CallMeter {
   int failable_ = 0;
   int firstFailure_ = std::numeric_limits<int>::max();
   int lastFailure_ = 0;
+  std::function<void(Kind)> watcher_;
   std::vector<Entry> log_;
 };
 
