@@ -1,6 +1,9 @@
 // The hosted Today plug-ins: one subkey of TabSettings each, named after the plug-in.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "platform/registry.h"
 #include "settings/tab_list.h"
 
@@ -9,14 +12,24 @@ namespace tidewell {
 // The order of a hosted tab that has none of its own: behind the built-in ones.
 inline constexpr std::int32_t kHostedOrder = 9;
 
-// Adds an entry for every hosted plug-in below TabSettings, at the place of its order. A subkey
-// that cannot be opened adds nothing.
-void ReadHostedPlugins(Registry& registry, RegistryKey& tabSettingsKey, TabList& tabs);
+// Knows which subkeys it has read, for only those are ever emptied or deleted: whatever else stands
+// below TabSettings was refused, has come since, or is not ours.
+class HostedPlugins {
+ public:
+  // Adds an entry for every hosted plug-in below TabSettings, at the place of its order. A subkey
+  // that cannot be read adds nothing. False when there is or may be one of those; the key is null
+  // when it could not be opened.
+  bool Read(Registry& registry, RegistryKey* tabSettingsKey, TabList& tabs);
 
-// Deletes the subkeys of all hosted plug-ins.
-void DeleteHostedPlugins(Registry& registry, RegistryKey& tabSettingsKey);
+  // Makes the subkeys hold the list's hosted entries and nothing else, so that at every moment each
+  // value is the old or the new one: what is there already is not written, what differs is written
+  // before anything is deleted. Failures are silent.
+  void Save(Registry& registry, const TabList& tabs);
 
-// Writes every hosted entry of the list into its own subkey.
-void WriteHostedPlugins(Registry& registry, const TabList& tabs);
+ private:
+  void SaveEntry(Registry& registry, const TabEntry& entry);
+
+  std::vector<std::wstring> names_;
+};
 
 }  // namespace tidewell

@@ -21,40 +21,51 @@ std::wstring TextUpToZero(std::span<const std::byte> bytes) {
   return text;
 }
 
+void NoteRefusal(RegistryStatus status, bool* refused) {
+  if (refused && status != kStatusSuccess && status != kStatusFileNotFound) *refused = true;
+}
+
 }  // namespace
 
-std::optional<std::uint32_t> FindDword(RegistryKey* key, const std::wstring& name) {
+std::optional<std::uint32_t> FindDword(RegistryKey* key, const std::wstring& name, bool* refused) {
   static_assert(std::endian::native == std::endian::little, "registry numbers are little-endian");
   std::array<std::byte, 4> bytes{};
   ValueInfo info;
-  if (!key || key->Query(name, bytes, info) != kStatusSuccess) return std::nullopt;
+  const RegistryStatus status = key ? key->Query(name, bytes, info) : kStatusAccessDenied;
+  const bool isTooLong = status == kStatusMoreData && info.size > bytes.size();
+  if (!isTooLong) NoteRefusal(status, refused);
   // Fewer bytes would leave a number of which only a part was ever written.
-  if (info.size != bytes.size()) return std::nullopt;
+  if (status != kStatusSuccess || info.size != bytes.size()) return std::nullopt;
   return std::bit_cast<std::uint32_t>(bytes);
 }
 
-std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& name) {
-  if (!key) return std::nullopt;
+std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& name, bool* refused) {
   std::array<std::byte, kUsualTextBytes> usual;
   ValueInfo info;
-  const RegistryStatus status = key->Query(name, usual, info);
+  const RegistryStatus status = key ? key->Query(name, usual, info) : kStatusAccessDenied;
   if (status == kStatusSuccess) return TextUpToZero(std::span(usual).first(info.size));
-  if (status != kStatusMoreData) return std::nullopt;
+  if (status != kStatusMoreData) {
+    NoteRefusal(status, refused);
+    return std::nullopt;
+  }
 
   std::vector<std::byte> bytes(info.size);
-  const RegistryStatus again = key->Query(name, bytes, info);
+  RegistryStatus again = key->Query(name, bytes, info);
   // The value may have grown in between.
-  if (again != kStatusSuccess || info.size > bytes.size()) return std::nullopt;
+  if (again == kStatusSuccess && info.size > bytes.size()) again = kStatusMoreData;
+  NoteRefusal(again, refused);
+  if (again != kStatusSuccess) return std::nullopt;
   return TextUpToZero(std::span(bytes).first(info.size));
 }
 
-std::uint32_t ReadDword(RegistryKey* key, const std::wstring& name, std::uint32_t defaultValue) {
-  return FindDword(key, name).value_or(defaultValue);
+std::uint32_t ReadDword(RegistryKey* key, const std::wstring& name, std::uint32_t defaultValue,
+                        bool* refused) {
+  return FindDword(key, name, refused).value_or(defaultValue);
 }
 
 bool ReadString(RegistryKey* key, const std::wstring& name, const std::wstring& defaultText,
-                std::wstring& text) {
-  std::optional<std::wstring> found = FindString(key, name);
+                std::wstring& text, bool* refused) {
+  std::optional<std::wstring> found = FindString(key, name, refused);
   if (!found) {
     text = defaultText;
     return false;

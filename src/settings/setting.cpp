@@ -55,7 +55,8 @@ Setting::Setting(SettingGroup& group, const wchar_t* name, Access access)
 
 void Setting::Load(RegistryKey* key, const LoadContext& context) {
   changed_ = false;
-  Read(key, context);
+  refused_ = false;
+  Read(key, context, refused_);
 }
 
 void Setting::Save(RegistryKey* key) {
@@ -77,9 +78,9 @@ std::uint32_t DwordSetting::Set(std::uint32_t value) {
   return std::exchange(value_, value);
 }
 
-void DwordSetting::Read(RegistryKey* key, const LoadContext& context) {
+void DwordSetting::Read(RegistryKey* key, const LoadContext& context, bool& refused) {
   default_ = rule_.Resolve(context);
-  value_ = ReadDword(key, Name(), default_);
+  value_ = ReadDword(key, Name(), default_, &refused);
 }
 
 void DwordSetting::Write(RegistryKey& key) {
@@ -91,16 +92,16 @@ void StringSetting::Set(std::wstring text) {
   value_ = std::move(text);
 }
 
-void StringSetting::Read(RegistryKey* key, const LoadContext& context) {
+void StringSetting::Read(RegistryKey* key, const LoadContext& context, bool& refused) {
   default_ = rule_.Resolve(context);
-  ReadString(key, Name(), default_, value_);
+  ReadString(key, Name(), default_, value_, &refused);
 }
 
 void StringSetting::Write(RegistryKey& key) {
   WriteStringOrDelete(&key, Name(), value_, default_);
 }
 
-void FlagArraySetting::Read(RegistryKey* key, const LoadContext&) {
+void FlagArraySetting::Read(RegistryKey* key, const LoadContext&, bool&) {
   const std::size_t count = (bits_ + 7) / 8;
   const auto fill = std::byte(fill_ == FlagFill::kAllSet ? 0xFF : 0x00);
   bytes_.assign(count, fill);
@@ -154,7 +155,7 @@ std::array<DwordSetting*, 6> FontSetting::Members() {
   return {&weight, &italic, &underline, &strikeOut, &height, &color};
 }
 
-void FontSetting::Read(RegistryKey* key, const LoadContext& context) {
+void FontSetting::Read(RegistryKey* key, const LoadContext& context, bool&) {
   for (DwordSetting* member : Members()) member->Load(key, context);
   faceName_ = look_.face.Value().substr(0, kFaceNameLength);
   clearType_ = look_.clearType.Value() != 0;

@@ -47,6 +47,8 @@ class Setting {
   bool IsReadOnly() const { return access_ == kReadOnly; }
   // True from the first set operation on, also after a save, until the next load.
   virtual bool IsChanged() const { return changed_; }
+  // True when the last load was not told what is stored: the default merely stands for it.
+  bool WasRefused() const { return refused_; }
 
   // `key` is the setting's own key, opened by the caller; a null one loads the default.
   void Load(RegistryKey* key, const LoadContext& context);
@@ -65,13 +67,15 @@ class Setting {
   void MarkChanged() { changed_ = true; }
 
  private:
-  virtual void Read(RegistryKey* key, const LoadContext& context) = 0;
+  // A null key is a refusal.
+  virtual void Read(RegistryKey* key, const LoadContext& context, bool& refused) = 0;
   virtual void Write(RegistryKey& key) = 0;
 
   SettingKey key_;
   std::wstring name_;
   Access access_;
   bool changed_ = false;
+  bool refused_ = false;
 };
 
 class DwordSetting final : public Setting {
@@ -87,10 +91,12 @@ class DwordSetting final : public Setting {
   const DwordDefault& DefaultRule() const { return rule_; }
   // Marks the setting changed, also when the value is the same. Returns the previous value.
   std::uint32_t Set(std::uint32_t value);
+  // Puts right what stands there without a change: it is never saved.
+  void Replace(std::uint32_t value) { value_ = value; }
   void Accept(SettingVisitor& visitor) override { visitor.Visit(*this); }
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context) override;
+  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey& key) override;
 
   DwordDefault rule_;
@@ -113,7 +119,7 @@ class StringSetting final : public Setting {
   void Accept(SettingVisitor& visitor) override { visitor.Visit(*this); }
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context) override;
+  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey& key) override;
 
   StringDefault rule_;
@@ -137,7 +143,7 @@ class FlagArraySetting final : public Setting {
   void Accept(SettingVisitor& visitor) override { visitor.Visit(*this); }
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context) override;
+  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey&) override {}
 
   std::size_t bits_;
@@ -190,7 +196,7 @@ class FontSetting final : public Setting {
   DwordSetting color;
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context) override;
+  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey& key) override;
 
   const FontLook& look_;

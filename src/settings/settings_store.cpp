@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "platform/text.h"
-#include "settings/hosted_plugins.h"
 
 namespace tidewell {
 
@@ -34,6 +33,20 @@ void SaveGroup(Registry& registry, SettingGroup& group) {
 // that a save without one writes nothing.
 void SetIfDifferent(DwordSetting& setting, std::uint32_t value) {
   if (setting.Value() != value) setting.Set(value);
+}
+
+// What only looks wrong because a part of it was refused is put right for this run, and not saved.
+void Repair(DwordSetting& setting, std::uint32_t value, bool isRead) {
+  if (isRead) {
+    setting.Set(value);
+  } else {
+    setting.Replace(value);
+  }
+}
+
+bool AreRead(std::span<const DwordSetting* const> settings) {
+  return std::ranges::none_of(settings,
+                              [](const DwordSetting* setting) { return setting->WasRefused(); });
 }
 
 bool IsPermutation(std::span<DwordSetting* const> settings) {
@@ -104,14 +117,17 @@ void SettingsStore::RepairCalendar() {
 
   const std::int64_t start = calendar.TimelinesStart.Signed();
   if (start + calendar.TimelinesLength.Signed() + 6 > 24) {
-    calendar.TimelinesLength.Set(static_cast<std::uint32_t>(18 - start));
+    const std::array<const DwordSetting*, 2> parts = {&calendar.TimelinesStart,
+                                                      &calendar.TimelinesLength};
+    Repair(calendar.TimelinesLength, static_cast<std::uint32_t>(18 - start), AreRead(parts));
   }
 
   const std::array<DwordSetting*, 6> titles = {
       &calendar.CalTitlesOrder0, &calendar.CalTitlesOrder1, &calendar.CalTitlesOrder2,
       &calendar.CalTitlesOrder3, &calendar.CalTitlesOrder4, &calendar.CalTitlesOrder5};
   if (IsPermutation(titles)) return;
-  for (std::uint32_t i = 0; i < titles.size(); ++i) titles[i]->Set(i);
+  const bool isRead = AreRead(titles);
+  for (std::uint32_t i = 0; i < titles.size(); ++i) Repair(*titles[i], i, isRead);
 }
 
 void SettingsStore::LoadTabs(Registry& registry, const LoadContext& context,
@@ -127,8 +143,13 @@ void SettingsStore::LoadTabs(Registry& registry, const LoadContext& context,
     entry.caption = TextOf(language, tab.captionId);
     InsertByOrder(tabs, std::move(entry));
   }
-  if (key.Get()) ReadHostedPlugins(registry, *key.Get(), tabs);
+  bool isWhole = hostedPlugins_.Read(registry, key.Get(), tabs);
   Renumber(tabs);
+  for (const BuiltInTab& tab : tabSettings.builtInTabs) {
+    isWhole = isWhole && !tab.enabled.WasRefused() && !tab.order.WasRefused();
+  }
+  partOfTheTabs_.reset();
+  if (!isWhole) partOfTheTabs_ = tabs;
 }
 
 void SettingsStore::ChooseActiveTab() {
@@ -148,7 +169,8 @@ void SettingsStore::Save(Registry& registry, const ScreenScale& scale) {
   SaveGroup(registry, root);
 
   // A pinned month needs the room.
-  const bool low = root.dHeightLimit.Signed() < scale.ScaleX(200);
+  const bool low = root.dHeightLimit.Signed() < scale.ScaleX(200) &&
+                   (!root.dHeightLimit.WasRefused() || root.dHeightLimit.IsChanged());
   if (calendar.PinnedMonthlyClr.Value() == 1 && low) calendar.PinnedMonthlyClr.Set(0);
   SaveGroup(registry, calendar);
 
@@ -165,18 +187,21 @@ void SettingsStore::Save(Registry& registry, const ScreenScale& scale) {
 }
 
 void SettingsStore::SaveTabs(Registry& registry) {
+  const FlushedKey key = CreateSettingKey(registry, tabSettings.Key());
+  // The places in a list with gaps are not the user's, unless he has edited it.
+  const bool isKept = partOfTheTabs_ == tabs;
+  if (!isKept) WriteBackBuiltInTabs();
+  tabSettings.Save(key.Get());
+  if (!isKept) hostedPlugins_.Save(registry, tabs);
+}
+
+void SettingsStore::WriteBackBuiltInTabs() {
   for (const BuiltInTab& tab : tabSettings.builtInTabs) {
     const TabEntry* entry = FindByType(tabs, tab.type);
     if (!entry) continue;
     SetIfDifferent(tab.enabled, entry->enabled);
     SetIfDifferent(tab.order, static_cast<std::uint32_t>(entry->order));
   }
-  {
-    const FlushedKey key = CreateSettingKey(registry, tabSettings.Key());
-    if (key.Get()) DeleteHostedPlugins(registry, *key.Get());
-    tabSettings.Save(key.Get());
-  }
-  WriteHostedPlugins(registry, tabs);
 }
 
 }  // namespace tidewell

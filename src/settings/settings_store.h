@@ -3,6 +3,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/machine.h"
@@ -22,6 +23,7 @@
 #include "settings/catalogue/tab_settings.h"
 #include "settings/catalogue/tasks_settings.h"
 #include "settings/catalogue/today_item_settings.h"
+#include "settings/hosted_plugins.h"
 #include "settings/tab_list.h"
 #include "settings/theme_colors.h"
 
@@ -38,7 +40,8 @@ class SettingsStore {
   // Reads everything anew, repairs what cannot be, and replaces the language library by the chosen
   // one, else by the English one; null when neither loads. What cannot be read is its default.
   void Load(Machine& machine, const ScreenScale& scale, std::unique_ptr<ResourceLibrary>& language);
-  // Writes what was changed, and the hosted tabs. Failures are silent.
+  // Writes what was changed, and what the registry does not hold of the hosted tabs. What the load
+  // was refused is left as it is unless it was set since. Failures are silent.
   void Save(Registry& registry, const ScreenScale& scale);
 
   // In load order.
@@ -71,6 +74,11 @@ class SettingsStore {
   void LoadTabs(Registry& registry, const LoadContext& context, const ResourceLibrary* language);
   void ChooseActiveTab();
   void SaveTabs(Registry& registry);
+  void WriteBackBuiltInTabs();
+
+  HostedPlugins hostedPlugins_;
+  // The list as loaded, when not every tab could be read.
+  std::optional<TabList> partOfTheTabs_;
 };
 
 }  // namespace tidewell

@@ -27,6 +27,8 @@ struct TabEntry {
   std::wstring dll;
   std::wstring installPath;
   std::wstring customIconName;
+
+  bool operator==(const TabEntry&) const = default;
 };
 
 // Entries stay where they are in memory while others come and go.

@@ -63,31 +63,52 @@ TEST_P(TabsTest, TheListHoldsTheTabsByTheirOrdersAndNumbersThemAnew) {
   EXPECT_EQ(store.tabs.back().enabled, 0u);
 }
 
-TEST_P(TabsTest, HostedTabsStandBehindEqualOrdersAndAreWrittenAnewFromTheList) {
+TEST_P(TabsTest, HostedTabsStandBehindEqualOrdersAndTheirSubkeysHoldTheListAndNothingElse) {
   PutHosted(L"Weather", 2, L"weather.dll");
   const std::wstring weather = kTabsPath + L"\\Weather";
   SetString(*registry, kUser, weather, L"InstallPath", L"\\Weather");
   SetString(*registry, kUser, weather, L"CustomIconName", L"weather.ico");
   SetDword(*registry, kUser, weather, L"Type", 77);
+  SetBinary(*registry, kUser, weather, L"Enabled", {1, 0, 0, 0});
   PutHosted(L"contacts", 8);  // its case makes it a plug-in's
+  PutHosted(L"Again", 1);
   PutHosted(L"Gone", 1);
-  registry->Create(kUser, kTabsPath + L"\\Bare");
+  const std::wstring bare = kTabsPath + L"\\Bare";
+  SetString(*registry, kUser, bare, L"DLL", L"");  // a default
+  SetString(*registry, kUser, bare, std::wstring(300, L'n'), std::wstring(60'000, L's'));
+  PutHosted(L"Bare\\Subkey\\Subkey", 1);
   Load();
-  EXPECT_EQ(Strip(), "calendar Gone tasks Weather notes contacts mail events contacts Bare");
-  store.tabs.remove_if([](const TabEntry& entry) { return entry.caption == L"Gone"; });
+  EXPECT_EQ(Strip(), "calendar Again Gone tasks Weather notes contacts mail events contacts Bare");
+  const auto removed = [](const TabEntry& entry) {
+    return entry.caption == L"Gone" || entry.caption == L"Again";
+  };
+  store.tabs.remove_if(removed);
+  store.tabs.push_back({TabType::kHosted, kHostedOrder, 0, L"AGAIN", L"again.dll", L"", L""});
   Renumber(store.tabs);
+  PutHosted(L"Since", 1);  // of whoever made it
   Save();
-  EXPECT_EQ(metered.Count(RegistryCall::kDeleteTree), 4) << "each of the old ones";
+  const std::wstring deleted = L"HKCU\\" + kTabsPath + L"\\";
+  EXPECT_EQ(metered.Meter().Paths(RegistryCall::kDeleteTree),
+            (std::vector{deleted + L"Again", deleted + L"Bare\\Subkey", deleted + L"Gone"}));
   EXPECT_EQ(Dump(kTabs),
             "[Software\\Velmont\\Tidewell\\TabSettings]\n"
             "ContactsTabOrder = 5\nMailTabOrder = 6\nNotesTabOrder = 4\nSEventsTabOrder = 7\n"
+            "[Software\\Velmont\\Tidewell\\TabSettings\\AGAIN]\n"
+            "DLL = \"again.dll\"\nOrder = 10\nType = 1\n"
             "[Software\\Velmont\\Tidewell\\TabSettings\\Bare]\n"
             "Type = 1\n"
             "[Software\\Velmont\\Tidewell\\TabSettings\\contacts]\n"
             "Enabled = 1\nOrder = 8\nType = 1\n"
+            "[Software\\Velmont\\Tidewell\\TabSettings\\Since]\n"
+            "Enabled = 1\nOrder = 1\n"
             "[Software\\Velmont\\Tidewell\\TabSettings\\Weather]\n"
             "CustomIconName = \"weather.ico\"\nDLL = \"weather.dll\"\nEnabled = 1\n"
             "InstallPath = \"\\Weather\"\nOrder = 3\nType = 1\n");
+  for (const bool isNew : {true, false}) {
+    Load();
+    Save();
+    EXPECT_EQ(metered.CountWrites() > 0, isNew) << "once for the one that has come since";
+  }
 }
 
 TEST_P(TabsTest, TheSubkeyContactsIsKeptAsItIs) {
