@@ -24,7 +24,8 @@ std::wstring ValueName(std::wstring_view prefix, const CategoryRecord& category)
 // Asking first costs no more than writing, spares the device's memory, and holds whatever else
 // has written the key since it was loaded.
 void StoreDword(RegistryKey& key, const std::wstring& name, std::uint32_t value,
-                std::uint32_t meaningless) {
+                std::uint32_t meaningless, bool wasRefused) {
+  if (wasRefused && value == meaningless) return;
   std::array<std::byte, 4> stored{};
   ValueInfo info;
   const RegistryStatus status = key.Query(name, stored, info);
@@ -76,11 +77,13 @@ CategoryRecord* CategoryCatalog::Add(const PimCategory& category) {
 void CategoryCatalog::LoadCategoryValues() {
   const FlushedKey key = CreateSettingKey(machine_.registry, SettingKey::kCategories);
   for (const auto& category : categories_) {
-    category->color = ReadDword(key.Get(), ValueName(kColorPrefix, *category), category->color);
+    category->colorRefused = category->filterFlagsRefused = false;
+    category->color = ReadDword(key.Get(), ValueName(kColorPrefix, *category), category->color,
+                                &category->colorRefused);
   }
   for (const auto& category : categories_) {
-    category->filterFlags =
-        ReadDword(key.Get(), ValueName(kFilterPrefix, *category), category->filterFlags);
+    category->filterFlags = ReadDword(key.Get(), ValueName(kFilterPrefix, *category),
+                                      category->filterFlags, &category->filterFlagsRefused);
   }
 }
 
@@ -89,8 +92,9 @@ void CategoryCatalog::SaveCategoryValues() const {
   if (!key.Get()) return;
   for (const auto& category : categories_) {
     StoreDword(*key.Get(), ValueName(kColorPrefix, *category), category->color,
-               CategoryRecord::kNoColor);
-    StoreDword(*key.Get(), ValueName(kFilterPrefix, *category), category->filterFlags, 0);
+               CategoryRecord::kNoColor, category->colorRefused);
+    StoreDword(*key.Get(), ValueName(kFilterPrefix, *category), category->filterFlags, 0,
+               category->filterFlagsRefused);
   }
 }
 
@@ -100,8 +104,11 @@ std::wstring CategoryCatalog::FiltersPath() const {
 
 bool CategoryCatalog::LoadFiltersFile() {
   std::optional<FilterSet> filters;
+  filtersRefused_ = false;
   if (const auto input = machine_.files.OpenForReading(FiltersPath())) {
-    filters = ReadFilters(*input);
+    filters = ReadFilters(*input, &filtersRefused_);
+  } else {
+    filtersRefused_ = machine_.files.Find(FiltersPath()).has_value();
   }
   if (!filters) {
     ResetFilters();
@@ -112,6 +119,7 @@ bool CategoryCatalog::LoadFiltersFile() {
 }
 
 bool CategoryCatalog::SaveFiltersFile() const {
+  if (filtersRefused_ && filters_ == DefaultFilters()) return false;
   const std::vector<std::byte> bytes = BytesOf(FormatFilters(filters_));
   if (ReadWholeFile(machine_.files, FiltersPath()) == bytes) return true;
   ReplacementFile file(machine_.files, FiltersPath());

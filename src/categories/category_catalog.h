@@ -47,12 +47,14 @@ class CategoryCatalog {
   CategoryRecord* Add(const PimCategory& category);
 
   void LoadCategoryValues();
-  // Writes what the registry does not hold already; a value of no meaning is deleted.
+  // Writes what the registry does not hold already; a value of no meaning is deleted, unless it
+  // only stands for one that was refused.
   void SaveCategoryValues() const;
 
   // False when there is no file with exactly 32 filters; the filters are the defaults then.
   bool LoadFiltersFile();
-  // Leaves the old file or the whole new one. False when it could not be written.
+  // Leaves the old file or the whole new one. False when it could not be written, and when the
+  // filters are but the defaults in place of a file that is there and could not be read.
   bool SaveFiltersFile() const;
   void ResetFilters();
 
@@ -80,6 +82,7 @@ class CategoryCatalog {
   const SettingsStore& store_;
   std::vector<std::unique_ptr<CategoryRecord>> categories_;
   FilterSet filters_ = DefaultFilters();
+  bool filtersRefused_ = false;
   AllRecord all_;
   std::array<Selection, kRestrictedViewCount> selections_;
 };

@@ -29,10 +29,14 @@ class ByteLineReader {
     return any;
   }
 
+  bool WasRefused() const { return refused_; }
+
  private:
   bool Fill() {
+    const std::optional<std::size_t> count = input_.Read(buffer_);
+    refused_ = refused_ || !count;
     at_ = 0;
-    end_ = input_.Read(buffer_).value_or(0);
+    end_ = count.value_or(0);
     return end_ != 0;
   }
 
@@ -40,6 +44,7 @@ class ByteLineReader {
   std::array<std::byte, 4096> buffer_;
   std::size_t at_ = 0;
   std::size_t end_ = 0;
+  bool refused_ = false;
 };
 
 // What a line does not tell, because it is missing or malformed, keeps its default.
@@ -99,7 +104,7 @@ std::wstring FormatFilters(const FilterSet& filters) {
   return text;
 }
 
-std::optional<FilterSet> ReadFilters(InputStream& input) {
+std::optional<FilterSet> ReadFilters(InputStream& input, bool* refused) {
   ByteLineReader lines(input);
   FilterSet filters;
   std::wstring line;
@@ -111,7 +116,8 @@ std::optional<FilterSet> ReadFilters(InputStream& input) {
     filters[static_cast<std::size_t>(count)] = ReadFilter(lines, count + 1);
     header = HeaderOf(++count);
   }
-  if (count != kFilterCount) return std::nullopt;
+  if (refused) *refused = lines.WasRefused();
+  if (lines.WasRefused() || count != kFilterCount) return std::nullopt;
   return filters;
 }
 

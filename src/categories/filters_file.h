@@ -11,7 +11,8 @@ namespace tidewell {
 
 std::wstring FormatFilters(const FilterSet& filters);
 
-// Nothing unless the text holds exactly 32 filters, headed by 0 to 31 in that order.
-std::optional<FilterSet> ReadFilters(InputStream& input);
+// Nothing unless the text holds exactly 32 filters, headed by 0 to 31 in that order. `refused`,
+// where given, tells whether the text could not be read to its end.
+std::optional<FilterSet> ReadFilters(InputStream& input, bool* refused = nullptr);
 
 }  // namespace tidewell

@@ -20,6 +20,9 @@ struct CategoryRecord {
   std::wstring name;
   std::uint32_t filterFlags = 0;
   std::uint32_t color = kNoColor;  // 0x00BBGGRR
+  // The registry would not say: what stands here is only the default.
+  bool filterFlagsRefused = false;
+  bool colorRefused = false;
   std::unique_ptr<CategoryIcon> bitmap;
   bool pimFlag = false;
   std::uint16_t pimId = 0;
@@ -31,6 +34,8 @@ struct FilterRecord {
   bool visible = true;
   bool includeUncategorized = false;  // items without a category pass
   std::int32_t index = 0;             // 1 to 32, the filter's identity
+
+  bool operator==(const FilterRecord&) const = default;
 };
 
 // No restriction at all.

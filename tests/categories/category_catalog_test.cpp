@@ -72,11 +72,37 @@ TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
   EXPECT_EQ(DumpTree(registry, kUser, kCategories), saved);
 }
 
-TEST_F(Catalog, ARegistryThatRefusesLeavesTheDefaults) {
-  machine.registry.Meter().FailFrom(1);
-  machine.Start({L"A"});
-  EXPECT_EQ(catalog.FindCategory(L"A")->color, CategoryRecord::kNoColor);
-  catalog.SaveCategoryValues();
+TEST_F(Catalog, WhatIsRefusedAtLoadIsADefaultThatDeletesNothing) {
+  SetDword(registry, kUser, kCategories, L"CatColor.A", 7);
+  SetDword(registry, kUser, kCategories, L"CatFilter.A", 8);
+  const std::string tree = DumpTree(registry, kUser, kCategories);
+  for (int n = 1; n <= 3; ++n) {
+    machine.registry.Meter().Reset();
+    machine.registry.Meter().FailNth(n);
+    machine.Start({L"A"});
+    const CategoryRecord& a = *catalog.FindCategory(L"A");
+    EXPECT_TRUE(a.color == CategoryRecord::kNoColor || a.filterFlags == 0) << n;
+    catalog.SaveCategoryValues();
+    EXPECT_EQ(DumpTree(registry, kUser, kCategories), tree) << n;
+  }
+}
+
+TEST_F(Catalog, AFiltersFileThatCannotBeReadIsReplacedByNewFiltersAlone) {
+  FilterSet filters = DefaultFilters();
+  filters[4].title = L"Fifth";
+  const std::vector<std::byte> own = BytesOf(FormatFilters(filters));
+  files.Put(kFiltersFile, own);
+  for (const FileCall call : {FileCall::kOpenForReading, FileCall::kRead}) {
+    machine.files.Meter().Reset();
+    machine.files.Meter().FailEvery(call);
+    EXPECT_FALSE(catalog.LoadFiltersFile());
+    machine.files.Meter().Reset();
+    EXPECT_FALSE(catalog.SaveFiltersFile());
+    EXPECT_EQ(files.Contents(kFiltersFile), own);
+  }
+  catalog.FindFilter(1)->visible = false;
+  EXPECT_TRUE(catalog.SaveFiltersFile());
+  EXPECT_NE(files.Contents(kFiltersFile), own);
 }
 
 TEST_F(Catalog, WhateverCallFailsTheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
@@ -100,6 +126,7 @@ TEST_F(Catalog, WhateverCallFailsTheFiltersFileIsTheOldOrTheNewOneAndUnchangedNo
     EXPECT_EQ(files.Contents(kFiltersFile), saved ? changed : *old) << n;
     EXPECT_FALSE(files.Find(kFiltersFile + L".new").has_value()) << n;
   }
+  machine.files.Meter().Reset();
   EXPECT_EQ(saves, 10 - 4) << "all but create, write, close and replace";
 
   catalog.ResetFilters();
