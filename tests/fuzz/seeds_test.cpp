@@ -25,6 +25,7 @@ TEST(FuzzSeeds, EveryTargetTakesItsOwn) {
   FeedSeeds("/registry_text", registry_text);
   FeedSeeds("/filters_file", filters_file);
   FeedSeeds("/pim_volume", pim_volume);
+  FeedSeeds("/settings_load", settings_load);
 }
 
 }  // namespace

@@ -1,12 +1,23 @@
 #include <algorithm>
+#include <array>
 
 #include "platform/memory/memory_machine.h"
+#include "platform/memory/metered_registry.h"
 #include "tests/fuzz/fuzz_targets.h"
+#include "tests/support/registry_support.h"
 #include "tests/support/setting_lines.h"
 
 namespace tidewell::fuzz {
 
 namespace {
+
+constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
+const std::wstring kTabs = LocationOf(SettingKey::kTabSettings).path;
+// Two stand for whatever else a subkey may hold.
+constexpr const wchar_t* kHostedValues[] = {L"Type",  L"DLL",     L"InstallPath", L"CustomIconName",
+                                            L"Order", L"Enabled", L"Left",        L"over"};
+constexpr const wchar_t* kPlugins[] = {L"A", L"B", L"C", L"contacts", L"Contacts", L"A\\Nested"};
+constexpr const wchar_t* kThemeValues[] = {L"4", L"6", L"34", L"SHColor"};
 
 std::uint8_t TakeNumber(Bytes& input) {
   if (input.empty()) return 0;
@@ -15,26 +26,79 @@ std::uint8_t TakeNumber(Bytes& input) {
   return number;
 }
 
-// Each record is a setting (or a hosted tab's order), a type, a size and data.
+template <typename Items>
+auto& TakeOneOf(const Items& items, Bytes& input) {
+  const std::size_t low = TakeNumber(input);
+  return items[(low | std::size_t{TakeNumber(input)} << 8) % std::size(items)];
+}
+
+// Each record is the kind of a value, which of them it is, a type, a size and data.
 void Fill(Registry& registry, Bytes input) {
   static SettingsStore catalogue;
   static const SettingLines lines(catalogue);
   while (!input.empty()) {
-    const std::size_t low = TakeNumber(input);
-    const std::size_t index = low | std::size_t{TakeNumber(input)} << 8;
+    RegistryRoot root = kUser;
+    std::wstring path;
+    std::wstring name;
+    switch (TakeNumber(input) % 3) {
+      case 0: {
+        const Setting& setting = *TakeOneOf(lines.all, input);
+        root = LocationOf(setting.Key()).root;
+        path = LocationOf(setting.Key()).path;
+        name = setting.Name();
+        break;
+      }
+      case 1:
+        path = kTabs + L"\\" + TakeOneOf(kPlugins, input);
+        name = TakeOneOf(kHostedValues, input);
+        break;
+      default:
+        root = RegistryRoot::kLocalMachine;
+        path = L"SOFTWARE\\Microsoft\\Color";
+        name = TakeOneOf(kThemeValues, input);
+    }
     const std::uint32_t type = TakeNumber(input);
     const std::size_t size = TakeNumber(input);
     const Bytes data = input.first(std::min(size, input.size()));
     input = input.subspan(data.size());
-    if (index < lines.all.size()) {
-      const Setting& setting = *lines.all[index];
-      CreateSettingKey(registry, setting.Key()).Get()->Set(setting.Name(), type, data);
+    SetRaw(registry, root, path, name, type, data);
+  }
+}
+
+// A registry with what the input says.
+struct Device {
+  Device(const ScreenScale& itsScale, Bytes input) : scale(itsScale) {
+    Fill(machine.registry, input);
+  }
+  void Load(SettingsStore& store) {
+    Machine door{registry, machine.files, machine.locale, machine.libraries, machine.system};
+    std::unique_ptr<ResourceLibrary> language;
+    store.Load(door, scale, language);
+  }
+  void Save(SettingsStore& store) { store.Save(registry, scale); }
+  std::string Tree() { return DumpTree(machine.registry, kUser, L"Software"); }
+
+  ScreenScale scale;
+  MemoryMachine machine;
+  MeteredRegistry registry{machine.registry};
+};
+
+// The end of a save that has to write every hosted subkey anew.
+std::string TreeWrittenAnew(const ScreenScale& scale, Bytes input) {
+  Device device(scale, input);
+  SettingsStore store;
+  device.Load(store);
+  const auto key = device.registry.Create(kUser, kTabs);
+  std::wstring name;
+  for (std::uint32_t index = 0; key->EnumSubkey(index, 256, name) == kStatusSuccess;) {
+    if (name == L"Contacts") {
+      ++index;
     } else {
-      const KeyLocation tabs = LocationOf(SettingKey::kTabSettings);
-      const std::wstring plugin = {L'\\', static_cast<wchar_t>(L'A' + index % 23)};
-      registry.Create(tabs.root, tabs.path + plugin)->Set(L"Order", type, data);
+      device.registry.DeleteTree(kUser, kTabs + L"\\" + name);
     }
   }
+  device.Save(store);
+  return device.Tree();
 }
 
 // What the Today item writes itself may be repaired anew; all else must outlive a save.
@@ -47,26 +111,41 @@ void RequireSame(const std::vector<Kind*>& saved, const std::vector<Kind*>& load
 
 }  // namespace
 
-// Whatever a registry holds, what was saved is what is loaded again.
+// Whatever a registry holds, what was saved is what is loaded again; a second save writes nothing;
+// and a registry that refuses, for once or from some call on, has nothing of it changed.
 void settings_load(Bytes bytes) {
-  MemoryMachine machine;
   const int dpi = 96 + TakeNumber(bytes);
+  const bool isForOnce = TakeNumber(bytes) % 2 == 0;
+  const int high = TakeNumber(bytes);
+  const int refused = 1 + high * 4 + TakeNumber(bytes);
   const ScreenScale scale(dpi, dpi, false);
-  Fill(machine.registry, bytes);
 
-  Machine door = machine.Door();
-  std::unique_ptr<ResourceLibrary> language;
+  Device device(scale, bytes);
   SettingsStore first;
-  first.Load(door, scale, language);
-  first.Save(machine.registry, scale);
-  SettingsStore second;
-  second.Load(door, scale, language);
+  device.Load(first);
+  device.Save(first);
+  const std::string tree = device.Tree();
+  Require(tree == TreeWrittenAnew(scale, bytes));
 
+  SettingsStore second;
+  device.Load(second);
   RequireSame(SettingLines(first).dwords, SettingLines(second).dwords);
   RequireSame(SettingLines(first).strings, SettingLines(second).strings);
-  Require(std::ranges::equal(first.tabs, second.tabs, [](const TabEntry& a, const TabEntry& b) {
-    return a.order == b.order && a.caption == b.caption && a.enabled == b.enabled && a.dll == b.dll;
-  }));
+  Require(first.tabs == second.tabs);
+  device.registry.Meter().Reset();
+  device.Save(second);
+  Require(device.registry.CountWrites() == 0);
+
+  SettingsStore third;
+  device.registry.Meter().Reset();
+  if (isForOnce) {
+    device.registry.Meter().FailNth(refused);
+  } else {
+    device.registry.Meter().FailFrom(refused);
+  }
+  device.Load(third);
+  device.Save(third);
+  Require(device.Tree() == tree);
 }
 
 }  // namespace tidewell::fuzz
