@@ -12,6 +12,7 @@
 #include "bench/stopwatch.h"
 #include "platform/memory/memory_libraries.h"
 #include "platform/memory/metered_registry.h"
+#include "platform/text.h"
 #include "platform/windows/windows_machine.h"
 #include "settings/settings_store.h"
 
@@ -20,6 +21,7 @@ namespace tidewell::bench {
 namespace {
 
 constexpr int kRounds = 200;
+constexpr int kHostedTabs = 30;
 constexpr ScreenScale kScale(192, 192, false);
 
 // The system's registry through a wrapper; the rest of the machine as it is.
@@ -114,10 +116,31 @@ void CountSaving(const char* name, const std::function<void(SettingsStore&)>& ch
   PrintFigure(name, metered.CountWrites(), "", aim, "", behind);
 }
 
+void ForgetSettings() {
+  WindowsRegistry().DeleteTree(RegistryRoot::kCurrentUser, L"Software\\Velmont\\Tidewell");
+}
+
+// As the program itself leaves them.
+void PutHostedTabs(int count) {
+  WindowsRegistry registry;
+  SettingsStore store;
+  Load(store, registry);
+  for (int i = 1; i <= count; ++i) {
+    store.tabs.push_back({TabType::kHosted, 0, 1, L"Plug-in " + FormatDecimal(i),
+                          L"\\Windows\\plug-in.dll", L"\\Plug-ins", L"icon.ico"});
+  }
+  Renumber(store.tabs);
+  store.Save(registry, kScale);
+}
+
 int Run() {
   CompareLoading("loading, nothing stored / bare loop", 1.15);
   CountSaving(
       "saving no change, calls to write", [](SettingsStore&) {}, 0);
+  PutHostedTabs(kHostedTabs);
+  CountSaving(
+      "saving no change with 30 hosted tabs, calls to write", [](SettingsStore&) {}, 0);
+  ForgetSettings();
   CountSaving(
       "saving one change, calls to write",
       [](SettingsStore& store) { store.calendar.dNumOfDays.Set(14); }, 1);
@@ -129,7 +152,7 @@ int Run() {
   for (SettingGroup* group : store.Groups()) group->Accept(changer);
   store.Save(registry, kScale);
   CompareLoading("loading, everything stored / bare loop", 1.15);
-  registry.DeleteTree(RegistryRoot::kCurrentUser, L"Software\\Velmont\\Tidewell");
+  ForgetSettings();
   return 0;
 }
 
