@@ -4,8 +4,6 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include <cstdint>
-#include <span>
 #include <utility>
 
 #include "platform/desktop/shell_look.h"
@@ -17,43 +15,10 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"DeviceMenuBar";
 
-// One button as a menu bar's resource stores it.
-struct ButtonRecord {
-  std::uint16_t picture;
-  std::uint16_t command;
-  std::uint16_t state;
-  std::uint16_t style;
-  std::uint16_t textId;
-  std::uint16_t data;
-  std::uint16_t popup;
-};
-
-struct BarRecord {
-  std::uint16_t menuId;
-  std::uint16_t buttonCount;
-};
-
-std::wstring TextOf(HINSTANCE module, UINT id) {
-  const wchar_t* text = nullptr;
-  const int length = LoadStringW(module, id, reinterpret_cast<wchar_t*>(&text), 0);
-  return length > 0 ? std::wstring(text, static_cast<std::size_t>(length)) : std::wstring();
-}
-
 std::wstring TextOfItem(HMENU menu, int position) {
   wchar_t text[64] = {};
   GetMenuStringW(menu, static_cast<UINT>(position), text, ARRAYSIZE(text), MF_BYPOSITION);
   return text;
-}
-
-// The records of a bar's resource; nothing when it is absent or shorter than it claims.
-std::span<const ButtonRecord> FindButtons(HINSTANCE module, UINT id, UINT& menuId) {
-  const HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
-  const DWORD size = found ? SizeofResource(module, found) : 0;
-  if (size < sizeof(BarRecord)) return {};
-  const auto* bar = static_cast<const BarRecord*>(LockResource(LoadResource(module, found)));
-  if (size < sizeof(BarRecord) + bar->buttonCount * sizeof(ButtonRecord)) return {};
-  menuId = bar->menuId;
-  return {reinterpret_cast<const ButtonRecord*>(bar + 1), bar->buttonCount};
 }
 
 }  // namespace
@@ -70,13 +35,10 @@ MenuBar::MenuBar(const SHMENUBARINFO& info)
   CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, kClassName, L"", WS_POPUP, 0, 0, 0, 0,
                   parent_, nullptr, windowClass.hInstance, this);
 
-  if (info.dwFlags & SHCMBF_EMPTYBAR) return;
-  if (info.dwFlags & SHCMBF_HMENU) {
-    menu_ = LoadMenuW(info.hInstRes, MAKEINTRESOURCEW(info.nToolBarId));
-    LoadKeysOfMenu();
-  } else {
-    LoadKeys(info.hInstRes, info.nToolBarId);
-  }
+  const DWORD kind = info.dwFlags & (SHCMBF_EMPTYBAR | SHCMBF_HMENU);
+  if (kind != SHCMBF_HMENU) return;
+  menu_ = LoadMenuW(info.hInstRes, MAKEINTRESOURCEW(info.nToolBarId));
+  LoadKeys();
 }
 
 MenuBar::~MenuBar() {
@@ -84,20 +46,7 @@ MenuBar::~MenuBar() {
   if (menu_) DestroyMenu(menu_);
 }
 
-void MenuBar::LoadKeys(HINSTANCE module, UINT id) {
-  UINT menuId = 0;
-  const auto buttons = FindButtons(module, id, menuId);
-  if (buttons.empty()) return;
-  menu_ = LoadMenuW(module, MAKEINTRESOURCEW(menuId));
-  for (std::size_t i = 0; i < keys_.size() && i < buttons.size(); ++i) {
-    const ButtonRecord& button = buttons[i];
-    keys_[i] = SoftKey{button.command, TextOf(module, button.textId),
-                       (button.state & TBSTATE_ENABLED) != 0,
-                       button.popup == NOMENU ? nullptr : GetSubMenu(menu_, button.popup)};
-  }
-}
-
-void MenuBar::LoadKeysOfMenu() {
+void MenuBar::LoadKeys() {
   for (std::size_t i = 0; i < keys_.size(); ++i) {
     const int position = static_cast<int>(i);
     if (position >= GetMenuItemCount(menu_)) return;

@@ -20,8 +20,8 @@ struct SoftKey {
 
 class MenuBar {
  public:
-  // Keys and menus come from the resources that `info` names; an unknown one leaves a bar without
-  // keys.
+  // The keys are the first two items of the menu that `info` names; without SHCMBF_HMENU, or with a
+  // menu that is not there, the bar has none.
   explicit MenuBar(const tagSHMENUBARINFO& info);
   MenuBar(const MenuBar&) = delete;
   MenuBar& operator=(const MenuBar&) = delete;
@@ -37,8 +37,7 @@ class MenuBar {
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandleShellMessage(UINT message, WPARAM wParam, LPARAM lParam);
-  void LoadKeys(HINSTANCE module, UINT id);
-  void LoadKeysOfMenu();
+  void LoadKeys();
   LRESULT SetKeyInfo(int command, const void* info);
   SoftKey* FindKey(int command);
   void OnPaint();

@@ -99,12 +99,6 @@ BOOL SHDoneButton(HWND hwndRequester, DWORD dwState);
 #define SHCMBF_COLORBK 0x0008
 #define SHCMBF_HMENU 0x0010
 
-// The resource of a menu bar: the id of its menu, the number of its buttons, and for each button
-// seven 16-bit numbers: picture, command, state, style, text id, 0, and the place of its pop-up
-// menu in the menu (NOMENU for a plain button).
-#define SHMENUBAR RCDATA
-#define NOMENU 0xFFFF
-
 typedef struct tagSHMENUBARINFO {
   DWORD cbSize;
   HWND hwndParent;
