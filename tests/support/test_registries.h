@@ -1,5 +1,4 @@
-// The registries that a suite runs on: the twin in memory in both orders of enumeration, or, in a
-// Windows program of its own, a corner of the real one. The program's sources decide.
+// The registries that a suite runs on: the twin in memory in both orders of enumeration.
 #pragma once
 
 #include <memory>
@@ -10,17 +9,15 @@
 
 namespace tidewell {
 
-enum class RegistryKind : std::uint8_t { kMemory, kMemorySorted, kReal };
+enum class RegistryKind : std::uint8_t { kMemory, kMemorySorted };
 
 std::vector<RegistryKind> RegistryKinds();
-// Empty at first; nothing of it remains afterwards.
+// Empty at first.
 std::unique_ptr<Registry> MakeTestRegistry(RegistryKind kind);
 
 // How a test's name shows the registry that it ran on.
 inline void PrintTo(RegistryKind kind, std::ostream* out) {
-  *out << (kind == RegistryKind::kReal     ? "Real"
-           : kind == RegistryKind::kMemory ? "Memory"
-                                           : "MemorySorted");
+  *out << (kind == RegistryKind::kMemory ? "Memory" : "MemorySorted");
 }
 
 }  // namespace tidewell
