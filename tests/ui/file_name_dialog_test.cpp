@@ -70,6 +70,13 @@ TEST_F(FileNameDialogTest, ShowsTheRequestAndConfirmsTheNameByTheLeftKeyOrReturn
             L"\\My Documents\\first.twsb");
   EXPECT_EQ(Run({{[] { SetFocus(NameField()); }, L""}, {Key(VK_RETURN), L""}}),
             L"\\My Documents\\first.twsb");
+  const auto disable = [] {
+    SendMessageW(SHFindMenuBar(FrontDialog()), TB_ENABLEBUTTON, IDOK, FALSE);
+  };
+  EXPECT_EQ(Run({{disable, L""},
+                 {TapLeftKey, L"first: zoo.twsb, april.twsb, may.twsb"},
+                 {Key(VK_ESCAPE), L""}}),
+            L"");
 }
 
 TEST_F(FileNameDialogTest, RefusesAMissingAndAnIllegalNameAndStaysOpen) {
