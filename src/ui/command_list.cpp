@@ -11,9 +11,6 @@ namespace {
 
 constexpr int kRowHeight = 36;
 constexpr int kMargin = 8;
-constexpr int kThumbWidth = 3;
-constexpr int kThumbMargin = 2;
-constexpr int kShortestThumb = 16;
 
 }  // namespace
 
@@ -29,8 +26,10 @@ void CommandList::Create(HWND window, const ScreenScale& scale, HFONT regular, H
 void CommandList::Show(std::vector<CommandEntry> entries, int width, int height) {
   entries_ = std::move(entries);
   pictureWidth_ = 0;
+  pictureHeight_ = 0;
   for (const auto& entry : entries_) {
     pictureWidth_ = std::max(pictureWidth_, entry.picture.Width());
+    pictureHeight_ = std::max(pictureHeight_, entry.picture.Height());
   }
   selected_ = 0;
   pressed_.reset();
@@ -42,8 +41,7 @@ void CommandList::MoveSelection(int step) {
   if (!canMove) return;
   selected_ = step < 0 ? selected_ - 1 : selected_ + 1;
   const int top = static_cast<int>(selected_) * RowHeight();
-  list_.BringIntoView(top, top + RowHeight());
-  list_.Redraw();
+  if (!list_.BringIntoView(top, top + RowHeight())) list_.Redraw();
 }
 
 void CommandList::RunSelected() {
@@ -51,7 +49,7 @@ void CommandList::RunSelected() {
 }
 
 int CommandList::RowHeight() const {
-  return scale_.ScaleY(kRowHeight);
+  return std::max(scale_.ScaleY(kRowHeight), pictureHeight_);
 }
 
 std::optional<std::size_t> CommandList::RowAt(int contentY) const {
@@ -61,21 +59,25 @@ std::optional<std::size_t> CommandList::RowAt(int contentY) const {
   return row;
 }
 
-int CommandList::Paint(int, void* surface, void*, int offset, int width, int height) {
+// While the list scrolls, what may be drawn on is the strip that comes into view: rows beside it
+// are left out.
+int CommandList::Paint(int, void* surface, void*, int offset, int width, int) {
   const HDC dc = static_cast<HDC>(surface);
-  FillPlain(dc, {0, 0, width, height}, kPaper);
+  RECT part{};
+  GetClipBox(dc, &part);
+  FillPlain(dc, part, kPaper);
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, kInk);
-  const std::size_t highlighted = pressed_.value_or(selected_);
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    const int top = offset + static_cast<int>(i) * RowHeight();
-    const int bottom = top + RowHeight();
-    if (bottom > 0 && top < height) {
-      PaintRow(dc, {0, top, width, bottom}, entries_[i], i == highlighted);
-    }
+  const tidewell::Selected font(dc, regular_);
+  const int height = RowHeight();
+  const int count = static_cast<int>(entries_.size());
+  const int end = std::min((static_cast<int>(part.bottom) - offset + height - 1) / height, count);
+  for (int i = std::max((static_cast<int>(part.top) - offset) / height, 0); i < end; ++i) {
+    const int top = offset + i * height;
+    const auto row = static_cast<std::size_t>(i);
+    PaintRow(dc, {0, top, width, top + height}, entries_[row], row == pressed_.value_or(selected_));
   }
-  PaintThumb(dc, offset, width, height);
-  return static_cast<int>(entries_.size()) * RowHeight();
+  return count * height;
 }
 
 void CommandList::PaintRow(HDC dc, const RECT& row, const CommandEntry& entry,
@@ -95,19 +97,6 @@ void CommandList::PaintRow(HDC dc, const RECT& row, const CommandEntry& entry,
   const tidewell::Selected font(dc, selected ? bold_ : regular_);
   DrawTextW(dc, entry.caption.c_str(), static_cast<int>(entry.caption.size()), &place,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-}
-
-// A thin mark at the right edge tells that there is more than the view shows, and where it is.
-void CommandList::PaintThumb(HDC dc, int offset, int width, int height) const {
-  const int content = static_cast<int>(entries_.size()) * RowHeight();
-  if (content <= height) return;
-  const int margin = scale_.ScaleX(kThumbMargin);
-  const int track = height - 2 * margin;
-  const int length = std::max(scale_.ScaleY(kShortestThumb), track * height / content);
-  const int scrolled = std::clamp(-offset, 0, content - height);
-  const int top = margin + (track - length) * scrolled / (content - height);
-  const int right = width - margin;
-  FillPlain(dc, {right - scale_.ScaleX(kThumbWidth), top, right, top + length}, kScrollThumb);
 }
 
 bool CommandList::Highlight(int, int, int contentY) {

@@ -50,7 +50,6 @@ class CommandList final : private ScrollerClient {
 
   std::optional<std::size_t> RowAt(int contentY) const;
   void PaintRow(HDC dc, const RECT& row, const CommandEntry& entry, bool selected) const;
-  void PaintThumb(HDC dc, int offset, int width, int height) const;
 
   KineticList list_;
   HWND window_ = nullptr;
@@ -59,7 +58,8 @@ class CommandList final : private ScrollerClient {
   HFONT bold_ = nullptr;
   Run run_;
   std::vector<CommandEntry> entries_;
-  int pictureWidth_ = 0;  // of the widest picture
+  int pictureWidth_ = 0;   // of the widest picture
+  int pictureHeight_ = 0;  // of the highest picture
   std::size_t selected_ = 0;
   std::optional<std::size_t> pressed_;  // looks selected while it is touched
 };

@@ -1,5 +1,6 @@
 // The window half of a finger-scrolled view: holds the off-screen bitmap, forwards the host
-// window's messages to the scroller, and copies the bitmap in one block.
+// window's messages to the scroller, and copies the bitmap in one block, with a thumb on it where
+// there is more than the view shows.
 #pragma once
 
 #include <windows.h>
@@ -16,7 +17,7 @@ class KineticList final : private ScrollerHost {
                   const ScrollView& view);
   bool Resize(int width, int height);
   void Redraw();
-  void BringIntoView(int contentTop, int contentBottom);
+  bool BringIntoView(int contentTop, int contentBottom);
   void Paint(HDC dc) const;
 
   // Each tells whether the message was the list's.
@@ -34,12 +35,18 @@ class KineticList final : private ScrollerHost {
   void CapturePointer() override;
   void ReleasePointer() override;
   void* CreateSurface(int width, int height) override;
+  void BeginStrip(int distance) override;
+  void EndStrip() override;
   void Update() override;
   void Wait(unsigned milliseconds) override;
 
+  RECT ThumbArea() const;
+
   HWND window_ = nullptr;
+  ScreenScale scale_;
   KineticScroller scroller_;
-  MemoryBitmap surface_;
+  MemoryBitmap surface_;     // the content alone: the thumb is on it only while it is copied
+  MemoryBitmap underThumb_;  // what the thumb covers meanwhile
   SIZE surfaceSize_{};
 };
 

@@ -63,24 +63,48 @@ bool KineticScroller::Resize(int width, int height) {
 bool KineticScroller::SetPaintContext(void* context, bool repaintNow) {
   if (context == context_) return false;
   context_ = context;
+  stale_ = true;
   if (repaintNow) Redraw(true);
   return true;
 }
 
 void KineticScroller::Redraw(bool updateNow) {
+  Paint();
+  stale_ = false;
+  if (updateNow) host_->Update();
+}
+
+void KineticScroller::Paint() {
   if (client_) {
     contentHeight_ =
         client_->Paint(clientId_, surface_, context_, offset_, view_.width, view_.height);
   }
-  if (updateNow) host_->Update();
+  paintedOffset_ = offset_;
 }
 
-void KineticScroller::BringIntoView(int contentTop, int contentBottom) {
+// What the bitmap holds already is moved, not painted again.
+void KineticScroller::ShowOffset() {
+  const int distance = offset_ - paintedOffset_;
+  if (stale_ || std::abs(distance) >= view_.height) {
+    Redraw(true);
+    return;
+  }
+  if (distance != 0) {
+    host_->BeginStrip(distance);
+    Paint();
+    host_->EndStrip();
+  }
+  host_->Update();
+}
+
+bool KineticScroller::BringIntoView(int contentTop, int contentBottom) {
   StopMotion();
   const int before = offset_;
   offset_ = std::max(std::min(offset_, view_.height - contentBottom), -contentTop);
   if (OutOfRange()) offset_ = Target();
-  if (offset_ != before) Redraw(true);
+  if (offset_ == before) return false;
+  Redraw(true);
+  return true;
 }
 
 bool KineticScroller::PointerDown(int x, int y, std::uint32_t now) {
@@ -111,12 +135,13 @@ bool KineticScroller::PointerMove(int y, std::uint32_t now) {
     held_ = false;
     host_->StopTimer(kHoldTimer);
     if (client_) client_->DragStarted(clientId_);
+    stale_ = true;  // the highlight
   }
   offset_ += viewY - last_.y;
   earlier_ = previous_;
   previous_ = last_;
   last_ = {viewY, now};
-  Redraw(true);
+  ShowOffset();
   return true;
 }
 
@@ -186,7 +211,7 @@ int KineticScroller::Target() const {
 void KineticScroller::SnapIntoRange() {
   if (!OutOfRange() || offset_ == Target()) return;
   offset_ = Target();
-  Redraw(true);
+  ShowOffset();
 }
 
 void KineticScroller::StopMotion() {
@@ -210,7 +235,7 @@ void KineticScroller::Fling(int distance) {
 void KineticScroller::FlingStep() {
   velocity_ = Decayed(velocity_);
   offset_ += static_cast<int>(std::ceil(velocity_));
-  Redraw(true);
+  ShowOffset();
   if (OutOfRange()) {
     StartBounce();
     EndFling();
@@ -249,7 +274,7 @@ void KineticScroller::BounceStep() {
     --bounceSteps_;
   }
   if (OutOfRange()) offset_ = BounceOffset(step);
-  Redraw(true);
+  ShowOffset();
 }
 
 int KineticScroller::BounceOffset(int step) const {

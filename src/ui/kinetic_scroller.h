@@ -24,6 +24,10 @@ class ScrollerHost {
   // Makes the off-screen bitmap, in place of an earlier one, and returns what the client draws on
   // (a memory DC).
   virtual void* CreateSurface(int width, int height) = 0;
+  // Moves what the bitmap holds by `distance`, down when positive and less than its height, and
+  // lets the client draw only on the strip that this leaves out of date, until EndStrip.
+  virtual void BeginStrip(int distance) = 0;
+  virtual void EndStrip() = 0;
   // Copies the bitmap to the screen before it returns.
   virtual void Update() = 0;
   virtual void Wait(unsigned milliseconds) = 0;
@@ -34,6 +38,8 @@ class ScrollerClient {
  public:
   virtual ~ScrollerClient() = default;
   // Paints all of the surface, the content moved down by `offset`. Returns the content's height.
+  // The host may bound the drawing to a strip; so nothing but the offset and the content decides
+  // what stands where.
   virtual int Paint(int clientId, void* surface, void* context, int offset, int width,
                     int height) = 0;
   // The pointer rests here. True when something changed and a repaint is needed.
@@ -62,11 +68,12 @@ class KineticScroller {
   bool Resize(int width, int height);
   // `context` is handed to the client with every paint. False when it is the same as before.
   bool SetPaintContext(void* context, bool repaintNow);
-  // Has the client paint into the bitmap and, when asked, shows the result.
+  // Has the client paint all of the bitmap and, when asked, shows the result. Whoever changes the
+  // content calls it: mere scrolling paints only what comes into view.
   void Redraw(bool updateNow);
   // Scrolls no further than needed to show content from `contentTop` to `contentBottom`; ends any
-  // motion of the list.
-  void BringIntoView(int contentTop, int contentBottom);
+  // motion of the list. False when that was in view already; otherwise all is painted anew.
+  bool BringIntoView(int contentTop, int contentBottom);
 
   // Pointer and timer messages, in the host's client coordinates; `now` in milliseconds of a
   // 32-bit tick counter. Each tells whether the scroller has consumed the message.
@@ -91,6 +98,8 @@ class KineticScroller {
   bool BeyondBottom() const;
   bool OutOfRange() const;
   int Target() const;
+  void Paint();
+  void ShowOffset();
   void SnapIntoRange();
   void StopMotion();
   void Fling(int distance);
@@ -111,7 +120,9 @@ class KineticScroller {
   void* surface_ = nullptr;
   void* context_ = nullptr;
   int deadZone_ = 0;
-  int offset_ = 0;  // negative values scroll down
+  int offset_ = 0;         // negative values scroll down
+  int paintedOffset_ = 0;  // the offset that the bitmap shows
+  bool stale_ = false;     // the bitmap shows what only a whole paint puts right
   int contentHeight_ = 0;
   double velocity_ = 0;   // pixels per fling step
   bool moving_ = false;   // a drag, a fling or a bounce

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "tests/support/window_support.h"
 #include "ui/look.h"
 
@@ -38,6 +40,16 @@ class CommandListTest : public testing::Test {
   bool LooksSelected(int row) {
     list.Paint(WindowDc(window.Get()).Dc());
     return Screenshot(window.Get()).At(2, row * list.RowHeight() + 1) != kPaper;
+  }
+
+  // Every pixel of the list.
+  std::vector<BYTE> Pixels() {
+    const MemoryBitmap canvas(WindowDc(window.Get()).Dc(), kWidth, 2 * kHeight);
+    list.Paint(canvas.Dc());
+    std::vector<BYTE> bits(kWidth * 2 * kHeight * 4);
+    GetBitmapBits(static_cast<HBITMAP>(GetCurrentObject(canvas.Dc(), OBJ_BITMAP)),
+                  static_cast<LONG>(bits.size()), bits.data());
+    return bits;
   }
 
   TestWindow window{WS_POPUP | WS_VISIBLE, 0, {0, 0, kWidth, kHeight}};
@@ -83,6 +95,31 @@ TEST_F(CommandListTest, AHeldRowLooksSelectedUntilItIsDragged) {
   EXPECT_FALSE(LooksSelected(1));
   list.Pointer().PointerUp({5, list.RowHeight() + 3});
   EXPECT_TRUE(ran.empty());
+}
+
+TEST_F(CommandListTest, HoweverItIsScrolledItLooksAsIfItWerePaintedWhole) {
+  std::mt19937 random(7);
+  const auto below = [&](unsigned end) { return static_cast<int>(random() % end); };
+  const auto touch = [&] { return POINT{5, below(kHeight)}; };
+  KineticList& finger = list.Pointer();
+  const std::function<void()> steps[] = {
+      [&] { finger.PointerDown(touch()); },
+      [&] { finger.PointerMove(touch()); },
+      [&] { finger.PointerMove(touch()); },
+      [&] { finger.PointerUp(touch()); },
+      [&] { finger.PointerLost(); },
+      [&] { finger.Timer(kFlingTimer + static_cast<unsigned>(below(3))); },
+      [&] { list.MoveSelection(below(2) * 2 - 1); },
+      [&] { list.Resize(kWidth, kHeight + below(kHeight)); },
+      [&] { ShowRows(below(20)); },
+  };
+  for (int step = 0; step < 2000; ++step) {
+    steps[below(std::size(steps))]();
+    if (below(4) != 0) continue;
+    const std::vector<BYTE> shown = Pixels();
+    finger.Redraw();
+    ASSERT_TRUE(Pixels() == shown) << "after step " << step;
+  }
 }
 
 }  // namespace

@@ -30,6 +30,8 @@ class Recorder : public ScrollerHost, public ScrollerClient {
     Note("surface", width, height);
     return this;
   }
+  void BeginStrip(int distance) override { Note("strip", distance); }
+  void EndStrip() override { Note("whole"); }
   void Update() override { Note("update"); }
   void Wait(unsigned milliseconds) override { Note("wait", milliseconds); }
 
@@ -116,7 +118,7 @@ class Gestures : public testing::TestWithParam<Gesture> {
         {"timer", [&] { return scroller_.Timer(static_cast<unsigned>(first)); }},
         {"resize", [&] { return scroller_.Resize(200, first); }},
         {"context", [&] { return scroller_.SetPaintContext(first ? this : nullptr, second); }},
-        {"show", [&] { return scroller_.BringIntoView(first, second), true; }},
+        {"show", [&] { return scroller_.BringIntoView(first, second); }},
         {"grow", [&] { return recorder_.contentHeight = first; }},
         {"unmarked", [&] { return !(recorder_.repaintHighlight = false); }},
         {"refilling", [&] {
