@@ -61,9 +61,6 @@ class MemoryBitmap {
       : dc_(CreateCompatibleDC(like)),
         bitmap_(CreateCompatibleBitmap(like, width, height)),
         previous_(SelectObject(dc_, bitmap_.Get())) {}
-  // A memory context for reading from a bitmap that somebody else owns.
-  MemoryBitmap(HDC like, HBITMAP bitmap)
-      : dc_(CreateCompatibleDC(like)), previous_(SelectObject(dc_, bitmap)) {}
   MemoryBitmap(MemoryBitmap&& other) noexcept
       : dc_(std::exchange(other.dc_, nullptr)),
         bitmap_(std::move(other.bitmap_)),
@@ -92,6 +89,34 @@ class MemoryBitmap {
   HDC dc_ = nullptr;
   Bitmap bitmap_;
   HGDIOBJ previous_ = nullptr;
+};
+
+// Reads, for the length of a scope, from a bitmap that somebody else owns; one at a time. All do so
+// in one device context: making one takes longer than drawing a picture.
+class BitmapReader {
+ public:
+  explicit BitmapReader(HBITMAP bitmap) : selected_(Dc(), bitmap) {}
+
+  static HDC Dc() {
+    static const MemoryDc dc;
+    return dc.Get();
+  }
+
+ private:
+  class MemoryDc {
+   public:
+    MemoryDc() : dc_(CreateCompatibleDC(nullptr)) {}
+    MemoryDc(const MemoryDc&) = delete;
+    MemoryDc& operator=(const MemoryDc&) = delete;
+    ~MemoryDc() { DeleteDC(dc_); }
+
+    HDC Get() const { return dc_; }
+
+   private:
+    HDC dc_;
+  };
+
+  Selected selected_;
 };
 
 // The device context of a WM_PAINT.
@@ -190,7 +215,7 @@ inline void FillPlain(HDC dc, const RECT& area, COLORREF colour) {
 
 // Draws a picture whose colours are multiplied with their transparency already.
 inline void DrawWithAlpha(HDC dc, int x, int y, HBITMAP picture, int width, int height) {
-  const MemoryBitmap source(dc, picture);
+  const BitmapReader source(picture);
   AlphaBlend(dc, x, y, width, height, source.Dc(), 0, 0, width, height,
              {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA});
 }

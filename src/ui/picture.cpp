@@ -18,7 +18,7 @@ void Picture::Draw(HDC dc, int x, int y) const {
   if (hasAlpha_) {
     DrawWithAlpha(dc, x, y, bitmap_.Get(), width_, height_);
   } else {
-    const MemoryBitmap source(dc, bitmap_.Get());
+    const BitmapReader source(bitmap_.Get());
     BitBlt(dc, x, y, width_, height_, source.Dc(), 0, 0, SRCCOPY);
   }
 }

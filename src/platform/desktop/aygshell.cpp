@@ -112,7 +112,7 @@ BOOL TransparentImage(HDC hdcDest, LONG DstX, LONG DstY, LONG DstCx, LONG DstCy,
                           TransparentColor);
   };
   if (GetObjectType(hSrc) != OBJ_BITMAP) return copy(static_cast<HDC>(hSrc));
-  const tidewell::MemoryBitmap source(hdcDest, static_cast<HBITMAP>(hSrc));
+  const tidewell::BitmapReader source(static_cast<HBITMAP>(hSrc));
   return copy(source.Dc());
 }
 
