@@ -28,7 +28,7 @@ class CatalogueWalkTest : public StoreFixture {
   }
 };
 
-TEST_P(CatalogueWalkTest, EveryLineIsLoadedSavedInOrderAndDeletedWhenSetBack) {
+TEST_F(CatalogueWalkTest, EveryLineIsLoadedSavedInOrderAndDeletedWhenSetBack) {
   for (SettingGroup* group : store.Groups()) {
     std::wstring saved;
     for (const Setting* setting : SettingLines(*group).all) {
@@ -50,7 +50,7 @@ TEST_P(CatalogueWalkTest, EveryLineIsLoadedSavedInOrderAndDeletedWhenSetBack) {
   }
 }
 
-TEST_P(CatalogueWalkTest, EveryValueIsReadWholeOrNotAtAll) {
+TEST_F(CatalogueWalkTest, EveryValueIsReadWholeOrNotAtAll) {
   for (const std::uint32_t type : {0u, kTypeString, kTypeBinary, kTypeDword}) {
     for (const std::size_t size : {0, 3, 4, 5, 6, 16, 17, 513, 8002}) {
       SCOPED_TRACE("type " + std::to_string(type) + ", " + std::to_string(size) + " bytes");
@@ -75,9 +75,6 @@ TEST_P(CatalogueWalkTest, EveryValueIsReadWholeOrNotAtAll) {
     }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(On, CatalogueWalkTest, testing::ValuesIn(RegistryKinds()),
-                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tidewell

@@ -23,16 +23,16 @@ class RefusingRegistryTest : public StoreFixture {
     PutNumbers(SettingKey::kTabSettings, "CalendarTabOrder=3 TasksTabOrder=1 NotesTabEnabled=0");
     for (const auto& [name, order] : {std::pair(L"\\One", 2u), {L"\\Two", 6u}}) {
       const std::wstring path = LocationOf(SettingKey::kTabSettings).path + std::wstring(name);
-      SetString(*registry, RegistryRoot::kCurrentUser, path, L"DLL", std::wstring(300, L'd'));
-      SetString(*registry, RegistryRoot::kCurrentUser, path, L"InstallPath", L"\\Plug-ins");
-      SetDword(*registry, RegistryRoot::kCurrentUser, path, L"Order", order);
-      SetDword(*registry, RegistryRoot::kCurrentUser, path, L"Enabled", 1);
+      SetString(registry, RegistryRoot::kCurrentUser, path, L"DLL", std::wstring(300, L'd'));
+      SetString(registry, RegistryRoot::kCurrentUser, path, L"InstallPath", L"\\Plug-ins");
+      SetDword(registry, RegistryRoot::kCurrentUser, path, L"Order", order);
+      SetDword(registry, RegistryRoot::kCurrentUser, path, L"Enabled", 1);
     }
     Load();
     Save();
   }
 
-  std::string Tree() { return DumpTree(*registry, RegistryRoot::kCurrentUser, L"Software"); }
+  std::string Tree() { return DumpTree(registry, RegistryRoot::kCurrentUser, L"Software"); }
   // By "[key]name".
   std::map<std::string, std::string> Values() {
     std::map<std::string, std::string> values;
@@ -83,7 +83,7 @@ class RefusingRegistryTest : public StoreFixture {
   const std::vector<std::byte> kFolded = std::vector<std::byte>(6, std::byte(0x5A));
 };
 
-TEST_P(RefusingRegistryTest, ARefusalCostsNoMoreThanWhatItWasFor) {
+TEST_F(RefusingRegistryTest, ARefusalCostsNoMoreThanWhatItWasFor) {
   const std::string tree = Tree();
   const int calls = Run(store, [](Meter&) {});
   EXPECT_EQ(metered.CountWrites(), 0) << "nothing was changed";
@@ -100,7 +100,7 @@ TEST_P(RefusingRegistryTest, ARefusalCostsNoMoreThanWhatItWasFor) {
   }
 }
 
-TEST_P(RefusingRegistryTest, ASaveThatIsCutOffLeavesEachValueTheOldOrTheNewOne) {
+TEST_F(RefusingRegistryTest, ASaveThatIsCutOffLeavesEachValueTheOldOrTheNewOne) {
   const std::map<std::string, std::string> before = Values();
   std::map<std::string, std::string> after = before;
   after.erase(kTabs + "\\One]DLL");
@@ -111,7 +111,7 @@ TEST_P(RefusingRegistryTest, ASaveThatIsCutOffLeavesEachValueTheOldOrTheNewOne) 
   int calls = 1;
   for (int n = 1; n <= calls + 1 && !HasFailure(); ++n) {
     SCOPED_TRACE(n);
-    registry->DeleteTree(RegistryRoot::kCurrentUser, L"Software");
+    registry.DeleteTree(RegistryRoot::kCurrentUser, L"Software");
     SetUp();
     Load();
     for (TabEntry& entry : store.tabs) {
@@ -137,9 +137,6 @@ TEST_P(RefusingRegistryTest, ASaveThatIsCutOffLeavesEachValueTheOldOrTheNewOne) 
   }
   ASSERT_GT(calls, 25);
 }
-
-INSTANTIATE_TEST_SUITE_P(On, RefusingRegistryTest, testing::Values(RegistryKind::kMemory),
-                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tidewell

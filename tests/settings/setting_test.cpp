@@ -23,7 +23,7 @@ class SettingTest : public StoreFixture {
   }
 };
 
-TEST_P(SettingTest, ATextIsItsBytesUpToTheFirstZeroWhateverTheirType) {
+TEST_F(SettingTest, ATextIsItsBytesUpToTheFirstZeroWhateverTheirType) {
   using namespace std::string_literals;
   const std::wstring text255(255, L'q');  // just within one query
   const std::wstring text4000(4000, L'x');
@@ -50,7 +50,7 @@ TEST_P(SettingTest, ATextIsItsBytesUpToTheFirstZeroWhateverTheirType) {
   EXPECT_EQ(Sets(), 1) << "letter case counts";
 }
 
-TEST_P(SettingTest, ASaveWritesWhatWasSetAndDeletesWhatIsTheDefault) {
+TEST_F(SettingTest, ASaveWritesWhatWasSetAndDeletesWhatIsTheDefault) {
   constexpr std::uint32_t kDefault = 1;
   constexpr std::uint32_t kBehindOurBack = 7;
   using Number = std::optional<std::uint32_t>;
@@ -74,7 +74,7 @@ TEST_P(SettingTest, ASaveWritesWhatWasSetAndDeletesWhatIsTheDefault) {
   }
 }
 
-TEST_P(SettingTest, AloneItOpensFlushesAndClosesItsOwnKeyAndMakesItWhereItIsMissing) {
+TEST_F(SettingTest, AloneItOpensFlushesAndClosesItsOwnKeyAndMakesItWhereItIsMissing) {
   DwordSetting number(kKey, L"Number", 1);
   number.LoadAlone(metered, {});
   EXPECT_EQ(number.Value(), 1u);
@@ -86,14 +86,14 @@ TEST_P(SettingTest, AloneItOpensFlushesAndClosesItsOwnKeyAndMakesItWhereItIsMiss
     EXPECT_EQ(metered.Count(call), 2);
 }
 
-TEST_P(SettingTest, FlagsAreRoundedUpToBytesAndFilledWhenAbsent) {
+TEST_F(SettingTest, FlagsAreRoundedUpToBytesAndFilledWhenAbsent) {
   FlagArraySetting clear(kKey, L"Flags", 8, FlagFill::kAllClear);
   FlagArraySetting set(kKey, L"Flags", 9, FlagFill::kAllSet);
   EXPECT_TRUE(std::ranges::equal(Loaded(clear).Bytes(), std::vector(1, std::byte(0))));
   EXPECT_TRUE(std::ranges::equal(Loaded(set).Bytes(), std::vector(2, std::byte(0xFF))));
 }
 
-TEST_P(SettingTest, AFontIsSixNumbersAndTheFaceAndQualityOfItsTime) {
+TEST_F(SettingTest, AFontIsSixNumbersAndTheFaceAndQualityOfItsTime) {
   constexpr SettingKey kFonts = SettingKey::kFonts;
   scale = ScreenScale(192, 192, false);
   Put(kFonts, L"FontFaceToUse", std::wstring(40, L'f'));
@@ -118,9 +118,6 @@ TEST_P(SettingTest, AFontIsSixNumbersAndTheFaceAndQualityOfItsTime) {
             "FontMailUnreadlfUnderline = 1\nFontMailUnreadlfWeight = 400\n");
   EXPECT_EQ(Deletes(), 2) << "height and slant";
 }
-
-INSTANTIATE_TEST_SUITE_P(On, SettingTest, testing::ValuesIn(RegistryKinds()),
-                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tidewell

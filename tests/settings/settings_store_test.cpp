@@ -15,15 +15,15 @@ class SettingsStoreTest : public StoreFixture {
   static constexpr auto kToday = L"Software\\Microsoft\\today\\items\\Tidewell";
 };
 
-TEST_P(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIsWritten) {
+TEST_F(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIsWritten) {
   const std::wstring product = L"HKCU\\Software\\Velmont\\Tidewell";
   Texts keys = {product};
   for (const wchar_t* name : {L"Calendar", L"Tasks", L"Notes", L"Contacts", L"Messages", L"SEvents",
                               L"Fonts", L"Colors", L"CustomPIM", L"TabSettings", L"Categories"}) {
     keys.push_back(product + L"\\" + name);
   }
-  registry->Create(kMachine, kToday);
-  registry->Create(kMachine, L"SOFTWARE\\Microsoft\\Color");
+  registry.Create(kMachine, kToday);
+  registry.Create(kMachine, L"SOFTWARE\\Microsoft\\Color");
   store.root.OnClick.Set(5);
   Load();
   EXPECT_EQ(metered.Meter().Paths(RegistryCall::kOpen),
@@ -52,7 +52,7 @@ TEST_P(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIs
   EXPECT_EQ(Deletes(), 1);
 }
 
-TEST_P(SettingsStoreTest, DefaultsFollowTheScreenAndTheLocale) {
+TEST_F(SettingsStoreTest, DefaultsFollowTheScreenAndTheLocale) {
   machine.locale.firstDayOfWeek = L"6";
   for (const auto& [screen, height, font] : {std::tuple(ScreenScale(192, 192, false), 320u, 24u),
                                              {ScreenScale(131, 128, false), 213u, 16u}}) {
@@ -71,25 +71,25 @@ TEST_P(SettingsStoreTest, DefaultsFollowTheScreenAndTheLocale) {
   }
 }
 
-TEST_P(SettingsStoreTest, FoldersFollowTheKeysThatNameThem) {
+TEST_F(SettingsStoreTest, FoldersFollowTheKeysThatNameThem) {
   Load();
   EXPECT_EQ(store.installFolder, L"\\Program Files\\Velmont\\Tidewell");
   EXPECT_EQ(store.todayItemFolder, store.installFolder);
   EXPECT_EQ(store.pocketInformant.PIVOL.Value(), L"My Documents\\WebIS\\PocketInformant.vol");
-  EXPECT_FALSE(registry->Open(kMachine, kToday)) << "the key is not ours";
+  EXPECT_FALSE(registry.Open(kMachine, kToday)) << "the key is not ours";
 
-  SetString(*registry, kMachine, kToday, L"ProgramFiles", L"\\Card");
+  SetString(registry, kMachine, kToday, L"ProgramFiles", L"\\Card");
   Load();
   EXPECT_EQ(store.todayItemFolder, L"\\Card\\Velmont\\Tidewell");
   EXPECT_EQ(store.root.TWFiltersFileFolder.Value(), L"\\Card\\Velmont\\Tidewell");
   EXPECT_EQ(store.root.TWIconsFolder.Value(), L"\\Card\\Velmont\\Tidewell\\CategoryIcons");
-  SetString(*registry, kMachine, kToday, L"InstallPath", L"\\Other");
+  SetString(registry, kMachine, kToday, L"InstallPath", L"\\Other");
   Load();
   EXPECT_EQ(store.installFolder, L"\\Card\\Velmont\\Tidewell");
   EXPECT_EQ(store.todayItemFolder, L"\\Other\\Velmont\\Tidewell");
 }
 
-TEST_P(SettingsStoreTest, TheChosenLanguageLibraryReplacesTheOldOneElseTheEnglishOneDoes) {
+TEST_F(SettingsStoreTest, TheChosenLanguageLibraryReplacesTheOldOneElseTheEnglishOneDoes) {
   const wchar_t* english = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\TWEngRc.dll";
   Put(SettingKey::kRoot, L"SelectedLangResFile", L"\\LangRes\\German.dll");
   Load();
@@ -103,7 +103,7 @@ TEST_P(SettingsStoreTest, TheChosenLanguageLibraryReplacesTheOldOneElseTheEnglis
   }
 }
 
-TEST_P(SettingsStoreTest, ValuesThatCannotBeAreRepairedAtLoadAndTheRepairIsSaved) {
+TEST_F(SettingsStoreTest, ValuesThatCannotBeAreRepairedAtLoadAndTheRepairIsSaved) {
   constexpr SettingKey kCalendar = SettingKey::kCalendar;
   // What is stored, and what is then loaded that differs from its default.
   for (const auto& [stored, expected] :
@@ -135,7 +135,7 @@ TEST_P(SettingsStoreTest, ValuesThatCannotBeAreRepairedAtLoadAndTheRepairIsSaved
   }
 }
 
-TEST_P(SettingsStoreTest, HeightsAreSavedWithinTheirRangesAndAMonthIsPinnedWhereThereIsRoom) {
+TEST_F(SettingsStoreTest, HeightsAreSavedWithinTheirRangesAndAMonthIsPinnedWhereThereIsRoom) {
   for (const std::uint32_t limit : {59u, 60u, 500u, 501u, 0xFFFFFFFFu}) {
     Put(SettingKey::kRoot, L"dHeightLimitLandscape", limit);
     Load();
@@ -154,9 +154,6 @@ TEST_P(SettingsStoreTest, HeightsAreSavedWithinTheirRangesAndAMonthIsPinnedWhere
     EXPECT_EQ(Stored(SettingKey::kCalendar, L"PinnedMonthlyClr").has_value(), isKept) << height;
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(On, SettingsStoreTest, testing::ValuesIn(RegistryKinds()),
-                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tidewell

@@ -1,4 +1,4 @@
-// A settings store on a registry of a test's choice, with every call counted.
+// A settings store on a machine in memory, with every call to its registry counted.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,12 +14,11 @@
 #include "platform/text.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/setting_lines.h"
-#include "tests/support/test_registries.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
 
-class StoreFixture : public testing::TestWithParam<RegistryKind> {
+class StoreFixture : public testing::Test {
  protected:
   void LoadInto(SettingsStore& target) {
     Machine door{metered, machine.files, machine.locale, machine.libraries, machine.system};
@@ -37,12 +36,12 @@ class StoreFixture : public testing::TestWithParam<RegistryKind> {
   int Deletes() const { return metered.Count(RegistryCall::kDeleteValue); }
 
   // All below make a setting's key when it is missing.
-  FlushedKey KeyOf(SettingKey key) { return CreateSettingKey(*registry, key); }
+  FlushedKey KeyOf(SettingKey key) { return CreateSettingKey(registry, key); }
   void Put(SettingKey key, const std::wstring& name, std::uint32_t number) {
-    SetDword(*registry, LocationOf(key).root, LocationOf(key).path, name, number);
+    SetDword(registry, LocationOf(key).root, LocationOf(key).path, name, number);
   }
   void Put(SettingKey key, const std::wstring& name, const std::wstring& text) {
-    SetString(*registry, LocationOf(key).root, LocationOf(key).path, name, text);
+    SetString(registry, LocationOf(key).root, LocationOf(key).path, name, text);
   }
   // Numbers by name: "dNumOfDays=7 TimelinesStart=-1".
   void PutNumbers(SettingKey key, const char* text) {
@@ -54,18 +53,18 @@ class StoreFixture : public testing::TestWithParam<RegistryKind> {
     }
   }
   std::optional<std::uint32_t> Stored(SettingKey key, const std::wstring& name) {
-    return FindDword(*registry, LocationOf(key).root, LocationOf(key).path, name);
+    return FindDword(registry, LocationOf(key).root, LocationOf(key).path, name);
   }
   std::string Dump(SettingKey key) {
-    return DumpTree(*registry, LocationOf(key).root, LocationOf(key).path);
+    return DumpTree(registry, LocationOf(key).root, LocationOf(key).path);
   }
   void DeleteKey(SettingKey key) {
-    registry->DeleteTree(LocationOf(key).root, LocationOf(key).path);
+    registry.DeleteTree(LocationOf(key).root, LocationOf(key).path);
   }
 
   MemoryMachine machine;
-  std::unique_ptr<Registry> registry = MakeTestRegistry(GetParam());
-  MeteredRegistry metered{*registry};
+  MemoryRegistry& registry = machine.registry;
+  MeteredRegistry metered{registry};
   ScreenScale scale{96, 96, false};
   std::unique_ptr<ResourceLibrary> language;
   SettingsStore store;

@@ -13,9 +13,9 @@ const std::wstring kTabsPath = L"Software\\Velmont\\Tidewell\\TabSettings";
 class TabsTest : public StoreFixture {
  protected:
   void PutHosted(const std::wstring& name, std::uint32_t order, const std::wstring& dll = L"") {
-    SetDword(*registry, kUser, kTabsPath + L"\\" + name, L"Order", order);
-    SetDword(*registry, kUser, kTabsPath + L"\\" + name, L"Enabled", 1);
-    if (!dll.empty()) SetString(*registry, kUser, kTabsPath + L"\\" + name, L"DLL", dll);
+    SetDword(registry, kUser, kTabsPath + L"\\" + name, L"Order", order);
+    SetDword(registry, kUser, kTabsPath + L"\\" + name, L"Enabled", 1);
+    if (!dll.empty()) SetString(registry, kUser, kTabsPath + L"\\" + name, L"DLL", dll);
   }
   // The captions in order, the built-in tabs' as below.
   std::string Strip() {
@@ -38,13 +38,13 @@ class TabsTest : public StoreFixture {
   }
 };
 
-TEST_P(TabsTest, TheListHoldsTheTabsByTheirOrdersAndNumbersThemAnew) {
+TEST_F(TabsTest, TheListHoldsTheTabsByTheirOrdersAndNumbersThemAnew) {
   for (const auto& [orders, expected] :
        {std::pair("", "calendar tasks notes contacts mail events"),
         {"CalendarTabOrder=10", "tasks notes contacts mail events calendar"},
         {"SEventsTabOrder=1 MailTabOrder=1", "calendar mail events tasks notes contacts"},
         {"MailTabOrder=-1", "mail calendar tasks notes contacts events"}}) {
-    registry->DeleteTree(kUser, kTabsPath);
+    registry.DeleteTree(kUser, kTabsPath);
     PutNumbers(kTabs, orders);
     Load();
     EXPECT_EQ(Strip(), expected);
@@ -63,19 +63,19 @@ TEST_P(TabsTest, TheListHoldsTheTabsByTheirOrdersAndNumbersThemAnew) {
   EXPECT_EQ(store.tabs.back().enabled, 0u);
 }
 
-TEST_P(TabsTest, HostedTabsStandBehindEqualOrdersAndTheirSubkeysHoldTheListAndNothingElse) {
+TEST_F(TabsTest, HostedTabsStandBehindEqualOrdersAndTheirSubkeysHoldTheListAndNothingElse) {
   PutHosted(L"Weather", 2, L"weather.dll");
   const std::wstring weather = kTabsPath + L"\\Weather";
-  SetString(*registry, kUser, weather, L"InstallPath", L"\\Weather");
-  SetString(*registry, kUser, weather, L"CustomIconName", L"weather.ico");
-  SetDword(*registry, kUser, weather, L"Type", 77);
-  SetBinary(*registry, kUser, weather, L"Enabled", {1, 0, 0, 0});
+  SetString(registry, kUser, weather, L"InstallPath", L"\\Weather");
+  SetString(registry, kUser, weather, L"CustomIconName", L"weather.ico");
+  SetDword(registry, kUser, weather, L"Type", 77);
+  SetBinary(registry, kUser, weather, L"Enabled", {1, 0, 0, 0});
   PutHosted(L"contacts", 8);  // its case makes it a plug-in's
   PutHosted(L"Again", 1);
   PutHosted(L"Gone", 1);
   const std::wstring bare = kTabsPath + L"\\Bare";
-  SetString(*registry, kUser, bare, L"DLL", L"");  // a default
-  SetString(*registry, kUser, bare, std::wstring(300, L'n'), std::wstring(60'000, L's'));
+  SetString(registry, kUser, bare, L"DLL", L"");  // a default
+  SetString(registry, kUser, bare, std::wstring(300, L'n'), std::wstring(60'000, L's'));
   PutHosted(L"Bare\\Subkey\\Subkey", 1);
   Load();
   EXPECT_EQ(Strip(), "calendar Again Gone tasks Weather notes contacts mail events contacts Bare");
@@ -111,7 +111,7 @@ TEST_P(TabsTest, HostedTabsStandBehindEqualOrdersAndTheirSubkeysHoldTheListAndNo
   }
 }
 
-TEST_P(TabsTest, TheSubkeyContactsIsKeptAsItIs) {
+TEST_F(TabsTest, TheSubkeyContactsIsKeptAsItIs) {
   PutHosted(L"Contacts", 4, L"x.dll");
   PutHosted(L"Contacts\\Alphabets", 1);
   const std::string before = Dump(kTabs);
@@ -121,7 +121,7 @@ TEST_P(TabsTest, TheSubkeyContactsIsKeptAsItIs) {
   EXPECT_EQ(Dump(kTabs), before);
 }
 
-TEST_P(TabsTest, TheActiveTabIsAnEnabledBuiltInOneOrTheDefaultTab) {
+TEST_F(TabsTest, TheActiveTabIsAnEnabledBuiltInOneOrTheDefaultTab) {
   for (const auto& [active, tabs, expected] :
        {std::tuple(3, "", 3u),
         {8, "", 1u},
@@ -133,7 +133,7 @@ TEST_P(TabsTest, TheActiveTabIsAnEnabledBuiltInOneOrTheDefaultTab) {
         {3, "DfltTabOnStartup=1 DfltTab=6", 3u},
         {3, "DfltTabOnStartup=2 DfltTab=5", 3u},
         {1, "DfltTabOnStartup=1 DfltTab=1 TasksTabOrder=50", 7u}}) {
-    registry->DeleteTree(kUser, kTabsPath);
+    registry.DeleteTree(kUser, kTabsPath);
     PutHosted(L"Weather", 9);
     Put(SettingKey::kRoot, L"ActiveTab", static_cast<std::uint32_t>(active));
     PutNumbers(kTabs, tabs);
@@ -141,9 +141,6 @@ TEST_P(TabsTest, TheActiveTabIsAnEnabledBuiltInOneOrTheDefaultTab) {
     EXPECT_EQ(store.root.ActiveTab.Value(), expected) << active << ": " << tabs;
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(On, TabsTest, testing::ValuesIn(RegistryKinds()),
-                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tidewell

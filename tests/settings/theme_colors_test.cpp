@@ -13,7 +13,7 @@ namespace {
 class DeviceProbeTest : public StoreFixture {
  protected:
   void PutColor(const std::wstring& name, const std::vector<unsigned char>& bytes) {
-    SetBinary(*registry, RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color", name, bytes);
+    SetBinary(registry, RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color", name, bytes);
   }
   // A table whose bytes count up from 0.
   void PutTable(std::size_t size) {
@@ -23,9 +23,9 @@ class DeviceProbeTest : public StoreFixture {
   }
 };
 
-TEST_P(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDefault) {
+TEST_F(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDefault) {
   const auto find = [&](std::uint32_t index) {
-    return ThemeColorLookup(*registry).Find(index, 0x123456);
+    return ThemeColorLookup(registry).Find(index, 0x123456);
   };
   EXPECT_EQ(find(34), 0x123456u) << "no key";
   PutTable(140);
@@ -39,7 +39,7 @@ TEST_P(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDef
   }
 }
 
-TEST_P(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
+TEST_F(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
   using Colors = std::array<std::uint32_t, 6>;
   const auto expectColors = [&](SystemVersion version, const Colors& expected) {
     const ThemeColors read = ReadThemeColors(metered, version);
@@ -57,7 +57,7 @@ TEST_P(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
   EXPECT_EQ(metered.Count(RegistryCall::kQuery), 6 + 2) << "six names, the table's size, the table";
 }
 
-TEST_P(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
+TEST_F(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
   using enum CalendarProgram;
   using enum RegistryRoot;
   for (const auto& [program, root, path, value] :
@@ -67,16 +67,13 @@ TEST_P(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
         {kAgendaFusion, kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion",
          L"VerMajor"},
         {kAgendaOne, kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"}}) {
-    registry->Create(root, path);
+    registry.Create(root, path);
     EXPECT_FALSE(IsInstalled(metered, program)) << "no value";
-    SetRaw(*registry, root, path, value, 99, {});
+    SetRaw(registry, root, path, value, 99, {});
     EXPECT_TRUE(IsInstalled(metered, program)) << "an empty value of any type";
   }
   EXPECT_EQ(metered.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";
 }
-
-INSTANTIATE_TEST_SUITE_P(On, DeviceProbeTest, testing::ValuesIn(RegistryKinds()),
-                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tidewell
