@@ -2,8 +2,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <cstdio>
-#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -137,82 +135,6 @@ TEST_F(DeviceTest, DoneTellsTheTodayItemOnce) {
   EXPECT_TRUE(program.Ended());
   listener_.HearAllPosted();
   EXPECT_EQ(listener_.heard, kOnce);
-}
-
-// Thirty hosted tabs whose numbers and types a Done has to put right.
-class HostedTabs {
- public:
-  static constexpr int kCount = 30;
-
-  static void Put() {
-    for (int i = 1; i <= kCount; ++i) {
-      const std::wstring key = KeyOf(i);
-      for (const wchar_t* name : kTexts) {
-        const std::wstring text = name + std::to_wstring(i);
-        RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name, REG_SZ, text.c_str(),
-                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-      }
-      for (const auto& [name, number] : {std::pair(L"Enabled", 1), {L"Order", 1000 + i}}) {
-        RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name, REG_DWORD, &number, sizeof number);
-      }
-    }
-  }
-  // How many hold their new number; -1 when one of them holds what is neither old nor new.
-  static int CountNew() {
-    int count = 0;
-    for (int i = 1; i <= kCount; ++i) {
-      for (const wchar_t* name : kTexts) {
-        wchar_t text[64] = L"";
-        DWORD size = sizeof text;
-        RegGetValueW(HKEY_CURRENT_USER, KeyOf(i).c_str(), name, RRF_RT_REG_SZ, nullptr, text,
-                     &size);
-        if (text != name + std::to_wstring(i)) return -1;
-      }
-      const int order = NumberOf(i, L"Order");
-      const bool isNew = order == kBuiltIn + i;
-      if (NumberOf(i, L"Enabled") != 1 || (!isNew && order != 1000 + i)) return -1;
-      count += isNew;
-    }
-    return count;
-  }
-
- private:
-  static constexpr int kBuiltIn = 6;
-  static constexpr const wchar_t* kTexts[] = {L"DLL", L"InstallPath", L"CustomIconName"};
-
-  static std::wstring KeyOf(int tab) {
-    return L"Software\\Velmont\\Tidewell\\TabSettings\\Plug-in " + std::to_wstring(tab);
-  }
-  static int NumberOf(int tab, const wchar_t* name) {
-    int number = 9;  // what an absent order is
-    DWORD size = sizeof number;
-    RegGetValueW(HKEY_CURRENT_USER, KeyOf(tab).c_str(), name, RRF_RT_REG_DWORD, nullptr, &number,
-                 &size);
-    return number;
-  }
-};
-
-TEST_F(DeviceTest, AKilledDoneLosesNoHostedTab) {
-  constexpr int kKills = 10;  // --gtest_repeat=20 makes 200, at other moments each time
-  static std::mt19937 random(20261121);
-  int inTheMidst = 0;
-  for (int i = 0; i < kKills; ++i) {
-    HostedTabs::Put();
-    DrivenProgram program;
-    ASSERT_TRUE(program.WaitForMainWindow());
-    PostMessageW(program.Main(), WM_COMMAND, IDOK, 0);
-    Sleep(std::uniform_int_distribution<DWORD>(0, 30)(random));
-    program.GetProcess().Kill();
-    const int count = HostedTabs::CountNew();
-    ASSERT_GE(count, 0) << i;
-    inTheMidst += count > 0 && count < HostedTabs::kCount;
-  }
-  std::printf("%d of %d were killed in the midst of the tabs\n", inTheMidst, kKills);
-  DrivenProgram program;
-  ASSERT_TRUE(program.WaitForMainWindow());
-  program.TapOk();
-  EXPECT_TRUE(program.Ended());
-  EXPECT_EQ(HostedTabs::CountNew(), HostedTabs::kCount);
 }
 
 TEST_F(DeviceTest, ExitAnsweredYesWritesAndTellsNothing) {

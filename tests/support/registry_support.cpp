@@ -2,6 +2,7 @@
 
 #include <map>
 #include <set>
+#include <sstream>
 
 #include "platform/text.h"
 #include "tests/support/utf8.h"
@@ -109,6 +110,19 @@ std::string DumpTree(Registry& registry, RegistryRoot root, const std::wstring& 
     text += DumpTree(registry, root, path.empty() ? each : JoinPath(path, each));
   }
   return text;
+}
+
+bool IsOldOrNew(const std::string& before, const std::string& after, const std::string& left) {
+  std::istringstream olds(before);
+  std::istringstream news(after);
+  std::istringstream lines(left);
+  std::string old;
+  std::string current;
+  for (std::string line; std::getline(lines, line);) {
+    if (!std::getline(olds, old) || !std::getline(news, current)) return false;
+    if (line != old && line != current) return false;
+  }
+  return !std::getline(olds, old) && !std::getline(news, current);
 }
 
 }  // namespace tidewell

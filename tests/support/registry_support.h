@@ -34,4 +34,7 @@ std::optional<std::uint32_t> FindDword(Registry& registry, RegistryRoot root,
 //   Odd = string 41 00
 std::string DumpTree(Registry& registry, RegistryRoot root, const std::wstring& path);
 
+// Whether every line of `left` is the line that `before` or `after` has there, and none is missing.
+bool IsOldOrNew(const std::string& before, const std::string& after, const std::string& left);
+
 }  // namespace tidewell
