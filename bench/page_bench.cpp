@@ -12,8 +12,8 @@
 
 #include "bench/figures.h"
 #include "bench/stopwatch.h"
-#include "pages/create_page.h"
 #include "pages/page_list.h"
+#include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_machine.h"
 #include "ui/look.h"
@@ -139,7 +139,7 @@ class PageBench {
 
   void Run() {
     for (int page = 0; page < kPageCount; ++page) {
-      if (kPages[static_cast<std::size_t>(page)].table) Measure(page);
+      if (kPages[static_cast<std::size_t>(page)].make) Measure(page);
     }
   }
 

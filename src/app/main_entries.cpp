@@ -1,27 +1,13 @@
 #include "app/main_entries.h"
 
+#include "pages/page_list.h"
 #include "resources/art/bitmap_ids.h"
-#include "resources/text/text_ids.h"
 
 namespace tidewell {
 
 namespace {
 
-constexpr MainEntry kMainEntries[] = {
-    {0, IDS_GROUP_GENERAL, L"", IDB_GENERAL},
-    {1, IDS_GROUP_CALENDAR, L"", IDB_CALENDAR},
-    {2, IDS_GROUP_TASKS, L"", IDB_TASKS},
-    {3, IDS_GROUP_NOTES, L"", IDB_NOTES},
-    {4, IDS_GROUP_CONTACTS, L"", IDB_CONTACTS},
-    {5, IDS_GROUP_MESSAGES, L"", IDB_MESSAGES},
-    {6, IDS_GROUP_SPECIAL_EVENTS, L"", IDB_SPECIAL_EVENTS},
-    {7, IDS_GROUP_FONTS, L"", IDB_FONTS},
-    {8, IDS_GROUP_COLORS, L"", IDB_COLORS},
-    {9, IDS_GROUP_PIM, L"", IDB_PIM},
-    {10, IDS_GROUP_TABS, L"", IDB_TABS},
-    {11, IDS_GROUP_CATEGORIES, L"", IDB_CATEGORIES},
-    {kAboutCommand, 0, L"About Tidewell", IDB_ABOUT},
-};
+constexpr MainEntry kAboutEntry{kAboutCommand, 0, L"About Tidewell", IDB_ABOUT};
 
 constexpr MainEntry kToolEntries[] = {
     {kExportCommand, 0, L"Export Settings", 0},
@@ -31,8 +17,14 @@ constexpr MainEntry kToolEntries[] = {
 
 }  // namespace
 
-std::span<const MainEntry> MainEntries() {
-  return kMainEntries;
+std::vector<MainEntry> MainEntries() {
+  std::vector<MainEntry> entries;
+  for (const PageEntry& page : kPages) {
+    const int command = static_cast<int>(entries.size());
+    entries.push_back({command, page.captionId, L"", page.pictureId});
+  }
+  entries.push_back(kAboutEntry);
+  return entries;
 }
 
 std::span<const MainEntry> ToolEntries() {

@@ -1,14 +1,15 @@
 // What the main list offers: the twelve groups with the about entry, or the tools.
 #pragma once
 
-#include <windows.h>
-
 #include <span>
+#include <vector>
+
+#include "pages/page_list.h"
 
 namespace tidewell {
 
 // Commands of the main list. 0 to 11 open the page of that group.
-inline constexpr int kGroupCount = 12;
+inline constexpr int kGroupCount = kPageCount;
 inline constexpr int kAboutCommand = 12;
 inline constexpr int kExportCommand = 21;
 inline constexpr int kImportCommand = 22;
@@ -21,12 +22,12 @@ inline constexpr int kShowMainCommand = 2;
 
 struct MainEntry {
   int command;
-  UINT textId;          // a text of the language library, or 0
+  int textId;           // a text of the language library, or 0
   const wchar_t* text;  // the caption where there is no such text
-  WORD picture;         // a bitmap of the resolution library, or 0
+  int picture;          // a bitmap of the resolution library, or 0
 };
 
-std::span<const MainEntry> MainEntries();
+std::vector<MainEntry> MainEntries();
 std::span<const MainEntry> ToolEntries();
 
 }  // namespace tidewell

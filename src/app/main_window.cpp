@@ -164,7 +164,8 @@ void MainWindow::LoadCategories() {
 void MainWindow::ShowEntries(std::span<const MainEntry> entries) {
   std::vector<CommandEntry> rows;
   for (const MainEntry& entry : entries) {
-    rows.push_back({entry.textId ? TextOf(language_.get(), entry.textId) : entry.text,
+    rows.push_back({entry.textId ? TextOf(language_.get(), static_cast<std::uint32_t>(entry.textId))
+                                 : entry.text,
                     entry.picture ? LoadPicture(entry.picture) : Picture(), entry.command});
   }
   const RECT client = ClientArea(window_);
@@ -232,7 +233,7 @@ void MainWindow::ShowAbout() {
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
   pageContext_.emplace(
-      PageContext{machine_, settings_, categories_, language_.get(), scale_, &pageDialogs_});
+      PageContext{machine_, settings_, categories_, language_.get(), scale_, &dialogs_});
   page_ = parts_.createPage(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());
@@ -266,6 +267,10 @@ void MainWindow::AskToExit() {
   const std::wstring question = TextOf(language_.get(), IDS_EXIT_QUESTION);
   const std::wstring caption = TextOf(language_.get(), IDS_EXIT_CAPTION);
   if (parts_.ask(window_, question, caption, MB_YESNO) == IDYES) DestroyWindow(window_);
+}
+
+DialogContext MainWindow::DialogOverAll() const {
+  return {page_ ? page_->Window() : window_, machine_, language_.get(), scale_};
 }
 
 LRESULT MainWindow::OnSize(int width, int height) {
@@ -342,8 +347,8 @@ void MainWindow::PressBar(std::optional<POINT> point) {
   if (commandBar_.ShowPressed(area, point)) InvalidateRect(window_, &area, FALSE);
 }
 
-Picture MainWindow::LoadPicture(WORD id) const {
-  return Picture(ModuleOf(pictures_.get()), id);
+Picture MainWindow::LoadPicture(int id) const {
+  return Picture(ModuleOf(pictures_.get()), static_cast<WORD>(id));
 }
 
 int MainWindow::ListHeight(int clientHeight) const {

@@ -15,8 +15,7 @@
 #include "app/backup_commands.h"
 #include "app/main_entries.h"
 #include "categories/category_catalog.h"
-#include "pages/hosted_page.h"
-#include "pages/page_dialogs.h"
+#include "pages/windows/page_window.h"
 #include "platform/desktop/imaging.h"
 #include "platform/gdi.h"
 #include "platform/libraries.h"
@@ -25,6 +24,7 @@
 #include "settings/settings_store.h"
 #include "ui/command_bar.h"
 #include "ui/command_list.h"
+#include "ui/device_dialogs.h"
 
 namespace tidewell {
 
@@ -86,8 +86,9 @@ class MainWindow {
   void ClosePage();
   void Done();
   void AskToExit();
+  DialogContext DialogOverAll() const;
   void PressBar(std::optional<POINT> point);
-  Picture LoadPicture(WORD id) const;
+  Picture LoadPicture(int id) const;
   int ListHeight(int clientHeight) const;
   RECT BarArea() const;
 
@@ -106,9 +107,9 @@ class MainWindow {
   Font bold_;
   CommandList list_;
   CommandBar commandBar_;
-  DevicePageDialogs pageDialogs_;
+  DeviceDialogs dialogs_{[this] { return DialogOverAll(); }};
   std::optional<PageContext> pageContext_;
-  std::unique_ptr<HostedPage> page_;  // null while the list is shown
+  std::unique_ptr<PageWindow> page_;  // null while the list is shown
 };
 
 }  // namespace tidewell

@@ -1,82 +1,126 @@
 #include "pages/general_page.h"
 
-#include "pages/general_table.h"
-#include "pages/page_dialogs.h"
+#include "addons/language_packs.h"
+#include "resources/text/text_ids.h"
 
 namespace tidewell {
 
 namespace {
 
-constexpr int kHeightTab = 0;
+using namespace general_ids;
+
+constexpr int kWideScreen = 480;  // pixels: a VGA screen
+
+Choices LandscapeHeights() {
+  Choices choices = Numbers(80, 600, 20);
+  choices.insert(choices.begin(), L"0");
+  return choices;
+}
+
 constexpr int kLanguageTab = 1;
-constexpr int kDPadTab = 2;
+
+class GeneralRules final : public PageRules {
+ public:
+  explicit GeneralRules(PageContext& context) : context_(context) {}
+
+  PageTabs Tabs() override;
+  void OnBuilt(PageView& view, int tab) override;
+  std::vector<Enabling> Enabled(const PageView& view) const override;
+  void Store(const PageView& view) override;
+
+ private:
+  PageContext& context_;
+  LanguagePacks packs_;
+};
+
+PageTabs GeneralRules::Tabs() {
+  RootSettings& s = context_.settings.root;
+  const bool wide = context_.machine.system.Screen().width >= kWideScreen;
+  const bool modern = !IsBeforeWindowsMobile5(context_.machine.system.Version());
+  return {
+      RowTab(
+          IDS_PAGE_TAB_GENERAL,
+          {
+              List(1200, 1201, IDS_ON_TAP, s.OnClick,
+                   {IDS_ON_TAP_SELECT, IDS_ON_TAP_OPEN, IDS_ON_TAP_PREVIEW}),
+              List(1202, 1203, IDS_ON_DOUBLE_TAP, s.OnDoubleClick,
+                   {IDS_ON_DOUBLE_TAP_OPEN, IDS_ON_DOUBLE_TAP_PREVIEW, IDS_ON_DOUBLE_TAP_NOTHING}),
+              Check(kAutoHeight, IDS_AUTO_HEIGHT, s.AutoHeight),
+              Number(kHeightLabel, kHeight, IDS_HEIGHT_LIMIT, s.dHeightLimit, Numbers(80, 600, 20)),
+              Number(kLandscapeHeightLabel, kLandscapeHeight, IDS_HEIGHT_LIMIT_LANDSCAPE,
+                     s.dHeightLimitLandscape, LandscapeHeights()),
+          }),
+      RowTab(IDS_GENERAL_TAB_LOOK,
+             {
+                 Path(1211, kSkinPath, kClearSkin, kBrowseSkin, IDS_SKIN_FOLDER, s.SkinPath,
+                      {L"Select Skin Path"}),
+                 FilledByRules(1215, kLanguage, IDS_LANGUAGE, s.SelectedLangResFile),
+                 Check(1217, IDS_SOUND_EFFECTS, s.EnableSoundEffect).ReducedSpacing(2),
+                 Check(1218, IDS_GOOFY_MODE, s.GoofyMode).ReducedSpacing(2),
+                 Check(1219, IDS_INDENT_ITEMS, s.IndentItems).ReducedSpacing(2),
+             }),
+      RowTab(IDS_GENERAL_TAB_DPAD,
+             {
+                 Check(kDPadEnabled, IDS_DPAD_ENABLED, s.DPadEnabled),
+                 Selector(kDPadGroupLabel, kDPadGroup, IDS_DPAD_GROUP,
+                          {IDS_DPAD_GROUP_NAVIGATION, IDS_DPAD_GROUP_SCROLLING}),
+                 List(kActionLabel, kAction, IDS_DPAD_ACTION, s.DPadCompleteAction,
+                      {IDS_DPAD_ACTION_OPEN, IDS_DPAD_ACTION_PREVIEW, IDS_DPAD_ACTION_MENU}),
+                 Check(kDoublePress, IDS_DPAD_DOUBLE_PRESS_SWITCHES_TABS,
+                       s.DPadDoubleClickTabSwitching),
+                 List(kScrollingLabel, kScrolling, IDS_DPAD_SCROLLING, s.DPadScrollingAction,
+                      {IDS_DPAD_SCROLL_LINE, IDS_DPAD_SCROLL_ITEM, IDS_DPAD_SCROLL_PAGE}),
+                 Check(kExclusive, IDS_DPAD_EXCLUSIVE, s.ExclusiveDPadNavig).When(modern),
+             }),
+      RowTab(IDS_PAGE_TAB_OTHER,
+             {
+                 Check(1229, IDS_DOUBLE_TAP_SCROLLS, s.UseDoubleClickScroll),
+                 Check(1230, IDS_SCROLL_WHOLE_PAGES, s.UseFullScrollings),
+                 Check(1231, IDS_VGA_MODE, s.MyVgaMode).When(wide),
+                 Check(1232, IDS_THIN_LINES, s.UseThinLines).When(wide),
+                 Check(1233, IDS_REMOVE_HIGHLIGHT, s.RemoveHighlight),
+                 List(1234, 1235, IDS_LOADING_DELAY, s.LoadingDelay,
+                      {L"0", L"1", L"2", L"3", L"4", L"5"}),
+             }),
+  };
+}
+
+void GeneralRules::OnBuilt(PageView& view, int tab) {
+  if (tab != kLanguageTab) return;
+  const SettingsStore& settings = context_.settings;
+  packs_ = ScanLanguagePacks(context_.machine, settings.installFolder,
+                             settings.root.SelectedLangResFile.Value());
+  Choices choices;
+  for (const std::wstring& name : packs_.names) choices.emplace_back(name);
+  view.SetChoices(kLanguage, choices);
+  view.SetState(kLanguage, ControlState::OfLine(packs_.selection));
+}
+
+// The limits apply to a height that does not fit itself to the content; of the D-pad's two groups
+// one can be edited at a time.
+std::vector<Enabling> GeneralRules::Enabled(const PageView& view) const {
+  const bool fixed = !view.State(kAutoHeight).checked;
+  const bool dPad = view.State(kDPadEnabled).checked;
+  const int group = view.State(kDPadGroup).selection;
+  const bool navigation = dPad && group == 0;
+  const bool scrolling = dPad && group == 1;
+  return {{kHeightLabel, fixed},        {kHeight, fixed},        {kLandscapeHeightLabel, fixed},
+          {kLandscapeHeight, fixed},    {kDPadGroupLabel, dPad}, {kDPadGroup, dPad},
+          {kActionLabel, navigation},   {kAction, navigation},   {kDoublePress, navigation},
+          {kScrollingLabel, scrolling}, {kScrolling, scrolling}, {kExclusive, dPad}};
+}
+
+// Where no pack is chosen, the present one stays.
+void GeneralRules::Store(const PageView& view) {
+  if (const std::wstring* path = packs_.PathOf(view.State(kLanguage).selection)) {
+    context_.settings.root.SelectedLangResFile.Set(*path);
+  }
+}
 
 }  // namespace
 
-using namespace general_ids;
-
-GeneralPage::GeneralPage(PageContext& context) : TablePage(context, GeneralTable(context)) {}
-
-void GeneralPage::OnTabBuilt(int tab) {
-  if (tab == kHeightTab) ApplyHeightRule();
-  if (tab == kLanguageTab) FillLanguages();
-  if (tab == kDPadTab) ApplyDPadRule();
-}
-
-void GeneralPage::OnDestroy(HWND window) {
-  TablePage::OnDestroy(window);
-  // Where no pack is chosen, the present one stays.
-  const int choice =
-      Control(kLanguage) ? static_cast<int>(Send(kLanguage, CB_GETCURSEL)) : kNoChoice;
-  if (const std::wstring* path = packs_.PathOf(choice)) {
-    Context().settings.root.SelectedLangResFile.Set(*path);
-  }
-}
-
-LRESULT GeneralPage::OnCommand(HWND, WPARAM wParam, LPARAM) {
-  switch (LOWORD(wParam)) {
-    case kAutoHeight:
-      ApplyHeightRule();
-      break;
-    case kDPadEnabled:
-      ApplyDPadRule();
-      break;
-    case kDPadGroup:
-      if (HIWORD(wParam) == CBN_SELCHANGE) ApplyDPadRule();
-      break;
-    case kClearSkin:
-      SetPathOfControl(kSkinPath, L"");
-      break;
-    case kBrowseSkin:
-      BrowseSkin();
-      break;
-  }
-  return 0;
-}
-
-void GeneralPage::FillLanguages() {
-  const SettingsStore& settings = Context().settings;
-  packs_ = ScanLanguagePacks(Context().machine, settings.installFolder,
-                             settings.root.SelectedLangResFile.Value());
-  for (const std::wstring& name : packs_.names) {
-    Send(kLanguage, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
-  }
-  Send(kLanguage, CB_SETCURSEL, static_cast<WPARAM>(packs_.selection));
-}
-
-void GeneralPage::ApplyHeightRule() const {
-  Enable(HeightRule(IsChecked(kAutoHeight)));
-}
-
-void GeneralPage::ApplyDPadRule() const {
-  Enable(DPadRule(IsChecked(kDPadEnabled), static_cast<int>(Send(kDPadGroup, CB_GETCURSEL))));
-}
-
-void GeneralPage::BrowseSkin() {
-  if (!Context().dialogs) return;
-  const auto folder = Context().dialogs->ChooseFolder(Window(), Context(), L"Select Skin Path",
-                                                      TextOfControl(kSkinPath));
-  if (folder) SetPathOfControl(kSkinPath, *folder);
+std::unique_ptr<PageRules> MakeGeneralPage(PageContext& context) {
+  return std::make_unique<GeneralRules>(context);
 }
 
 }  // namespace tidewell

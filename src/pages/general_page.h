@@ -1,26 +1,34 @@
+// The General page: what concerns the item as a whole.
 #pragma once
 
-#include "addons/language_packs.h"
-#include "pages/table_page.h"
+#include <memory>
+
+#include "pages/page_context.h"
+#include "pages/page_rules.h"
 
 namespace tidewell {
 
-class GeneralPage final : public TablePage {
- public:
-  explicit GeneralPage(PageContext& context);
+namespace general_ids {
+inline constexpr int kAutoHeight = 1206;
+inline constexpr int kHeightLabel = 1207;
+inline constexpr int kHeight = 1208;
+inline constexpr int kLandscapeHeightLabel = 1209;
+inline constexpr int kLandscapeHeight = 1210;
+inline constexpr int kSkinPath = 1212;
+inline constexpr int kClearSkin = 1213;
+inline constexpr int kBrowseSkin = 1214;
+inline constexpr int kLanguage = 1216;
+inline constexpr int kDPadEnabled = 1220;
+inline constexpr int kDPadGroupLabel = 1221;
+inline constexpr int kDPadGroup = 1222;
+inline constexpr int kActionLabel = 1223;
+inline constexpr int kAction = 1224;
+inline constexpr int kScrollingLabel = 1225;
+inline constexpr int kScrolling = 1226;
+inline constexpr int kDoublePress = 1227;
+inline constexpr int kExclusive = 1228;
+}  // namespace general_ids
 
- protected:
-  void OnTabBuilt(int tab) override;
-  void OnDestroy(HWND window) override;
-  LRESULT OnCommand(HWND window, WPARAM wParam, LPARAM lParam) override;
-
- private:
-  void FillLanguages();
-  void ApplyHeightRule() const;
-  void ApplyDPadRule() const;
-  void BrowseSkin();
-
-  LanguagePacks packs_;
-};
+std::unique_ptr<PageRules> MakeGeneralPage(PageContext& context);
 
 }  // namespace tidewell

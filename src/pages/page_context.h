@@ -8,7 +8,7 @@
 
 namespace tidewell {
 
-class PageDialogs;
+class UserDialogs;
 
 struct PageContext {
   Machine& machine;
@@ -16,7 +16,7 @@ struct PageContext {
   CategoryCatalog& categories;
   const ResourceLibrary* language;  // null: every text is empty
   ScreenScale scale;
-  PageDialogs* dialogs = nullptr;  // null: nothing is asked or told
+  UserDialogs* dialogs = nullptr;  // null: nothing is asked or told
 };
 
 }  // namespace tidewell

@@ -168,6 +168,20 @@ RowPlace PlacePathEdit(const PageMetrics& metrics, int editId, int clearId, int 
   return row;
 }
 
+Rect PlaceOf(const PageMetrics& metrics, const DesignPlace& place) {
+  const ScreenScale& scale = metrics.scale;
+  const int width = metrics.clientWidth;
+  const int height = metrics.clientHeight;
+  Rect rect;
+  rect.left = scale.ScaleX(place.left) + (place.left < 0 ? width : 0);
+  rect.top = scale.ScaleY(place.top) + (place.top < 0 ? height : 0);
+  rect.width = scale.ScaleX(place.width) + (place.width > 0 ? 0 : width);
+  rect.height = scale.ScaleY(place.height) + (place.height > 0 ? 0 : height - rect.top);
+  rect.width = std::max(rect.width, 0);
+  rect.height = std::max(rect.height, 0);
+  return rect;
+}
+
 Rect PlaceList(const ScreenScale& scale, int clientWidth, int clientHeight, int yOffset) {
   const int offset = scale.ScaleY(yOffset);
   return {scale.ScaleX(kMargin), scale.ScaleY(68) + offset, clientWidth - scale.ScaleX(2 * kMargin),
@@ -193,8 +207,11 @@ RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring
       place =
           PlacePathRow(metrics, row.labelId, row.controlId, row.clearId, row.browseId, caption, y);
       break;
+    case RowKind::kText:
+    case RowKind::kOrder:
+      break;  // stand in no column
   }
-  place.height -= metrics.scale.ScaleY(row.closer);
+  place.height -= metrics.scale.ScaleY(row.reducedSpacing);
   return place;
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "pages/page_table.h"
+#include "pages/page_rows.h"
 #include "platform/scale.h"
 
 namespace tidewell {
@@ -35,6 +35,18 @@ struct PageMetrics {
   int clientHeight;
   TextMeasure& text;
 };
+
+// A place in the client area at 96 dots per inch. A negative `left` or `top` counts from the right
+// or the bottom edge. A `width` that is not positive is the client's width less it; a `height` that
+// is not positive reaches to that far above the bottom.
+struct DesignPlace {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+// In pixels; never smaller than nothing.
+Rect PlaceOf(const PageMetrics& metrics, const DesignPlace& place);
 
 struct ControlPlace {
   int id;

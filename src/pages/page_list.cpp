@@ -1,26 +1,27 @@
 #include "pages/page_list.h"
 
-#include "pages/general_table.h"
-#include "pages/messages_table.h"
-#include "pages/pim_table.h"
-#include "pages/special_events_table.h"
+#include "pages/general_page.h"
+#include "pages/messages_page.h"
+#include "pages/pim_page.h"
+#include "pages/special_events_page.h"
+#include "resources/art/bitmap_ids.h"
 #include "resources/text/text_ids.h"
 
 namespace tidewell {
 
 const std::array<PageEntry, kPageCount> kPages = {{
-    {L"GeneralSettingsWin", IDS_GROUP_GENERAL, GeneralTable},
-    {L"CalendarSettingsWin", IDS_GROUP_CALENDAR, nullptr},
-    {L"TasksSettingsWin", IDS_GROUP_TASKS, nullptr},
-    {L"NotesSettingsWin", IDS_GROUP_NOTES, nullptr},
-    {L"ContactSettingsWin", IDS_GROUP_CONTACTS, nullptr},
-    {L"MessagesSettingsWin", IDS_GROUP_MESSAGES, MessagesTable},
-    {L"SEventsSettingsWin", IDS_GROUP_SPECIAL_EVENTS, SpecialEventsTable},
-    {L"FontSettingsWin", IDS_GROUP_FONTS, nullptr},
-    {L"ColorSettingsWin", IDS_GROUP_COLORS, nullptr},
-    {L"PIMSettingsWin", IDS_GROUP_PIM, PimTable},
-    {L"TabsSettingsWin", IDS_GROUP_TABS, nullptr},
-    {L"CategorySettingsWin", IDS_GROUP_CATEGORIES, nullptr},
+    {L"GeneralSettingsWin", IDS_GROUP_GENERAL, IDB_GENERAL, MakeGeneralPage},
+    {L"CalendarSettingsWin", IDS_GROUP_CALENDAR, IDB_CALENDAR, nullptr},
+    {L"TasksSettingsWin", IDS_GROUP_TASKS, IDB_TASKS, nullptr},
+    {L"NotesSettingsWin", IDS_GROUP_NOTES, IDB_NOTES, nullptr},
+    {L"ContactSettingsWin", IDS_GROUP_CONTACTS, IDB_CONTACTS, nullptr},
+    {L"MessagesSettingsWin", IDS_GROUP_MESSAGES, IDB_MESSAGES, MakeMessagesPage},
+    {L"SEventsSettingsWin", IDS_GROUP_SPECIAL_EVENTS, IDB_SPECIAL_EVENTS, MakeSpecialEventsPage},
+    {L"FontSettingsWin", IDS_GROUP_FONTS, IDB_FONTS, nullptr},
+    {L"ColorSettingsWin", IDS_GROUP_COLORS, IDB_COLORS, nullptr},
+    {L"PIMSettingsWin", IDS_GROUP_PIM, IDB_PIM, MakePimPage},
+    {L"TabsSettingsWin", IDS_GROUP_TABS, IDB_TABS, nullptr},
+    {L"CategorySettingsWin", IDS_GROUP_CATEGORIES, IDB_CATEGORIES, nullptr},
 }};
 
 }  // namespace tidewell

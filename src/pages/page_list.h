@@ -1,10 +1,12 @@
-// The twelve settings pages, by the index under which the main list opens them.
+// The twelve settings pages, by the index under which the main list opens them. The list's entries,
+// the page host, the tests and the documentation come from here.
 #pragma once
 
 #include <array>
+#include <memory>
 
 #include "pages/page_context.h"
-#include "pages/page_table.h"
+#include "pages/page_rules.h"
 
 namespace tidewell {
 
@@ -28,7 +30,8 @@ enum class PageIndex : int {
 struct PageEntry {
   const wchar_t* className;
   int captionId;
-  PageTable (*table)(PageContext& context);  // null until the page exists
+  int pictureId;                                             // in the resolution library
+  std::unique_ptr<PageRules> (*make)(PageContext& context);  // null until the page exists
 };
 
 extern const std::array<PageEntry, kPageCount> kPages;

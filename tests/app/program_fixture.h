@@ -94,7 +94,7 @@ class ProgramTest : public testing::Test {
   }
 
   // A page is a bare window over its host; none unless a test wants pages.
-  class Page final : public HostedPage {
+  class Page final : public PageWindow {
    public:
     Page(HWND host, int& destroyed) : window_(WS_POPUP, 0, {}, host), destroyed_(destroyed) {}
     ~Page() override { ++destroyed_; }
@@ -104,7 +104,7 @@ class ProgramTest : public testing::Test {
     TestWindow window_;
     int& destroyed_;
   };
-  std::unique_ptr<HostedPage> MakePage(int page, HWND host) {
+  std::unique_ptr<PageWindow> MakePage(int page, HWND host) {
     pageAsked = page;
     captionSeen = CaptionOf(host);
     if (!hasPages) return nullptr;

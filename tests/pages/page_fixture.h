@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "pages/page_context.h"
-#include "pages/page_table.h"
 #include "platform/memory/memory_machine.h"
 
 namespace tidewell {

@@ -6,31 +6,15 @@
 
 #include <commctrl.h>
 
-#include "pages/create_page.h"
-#include "pages/page_dialogs.h"
 #include "pages/page_list.h"
+#include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_libraries.h"
+#include "tests/pages/fake_view.h"
 #include "tests/pages/page_fixture.h"
 #include "tests/support/window_support.h"
 
 namespace tidewell {
-
-// Answers in the user's place and keeps what was shown.
-class FakeDialogs final : public PageDialogs {
- public:
-  void ShowMessage(HWND, const std::wstring& text, const std::wstring& caption) override {
-    shown.push_back(caption + L": " + text);
-  }
-  std::optional<std::wstring> ChooseFolder(HWND, const PageContext&, const std::wstring& title,
-                                           const std::wstring& present) override {
-    shown.push_back(title + L": " + present);
-    return answer;
-  }
-
-  std::vector<std::wstring> shown;
-  std::optional<std::wstring> answer;
-};
 
 class PageHost : public PageFixture {
  protected:
@@ -135,7 +119,7 @@ class PageHost : public PageFixture {
   FakeDialogs dialogs_;
   std::unique_ptr<ResourceLibrary> language_;
   TestWindow host_{WS_POPUP | WS_VISIBLE, 0};
-  std::unique_ptr<HostedPage> page_;
+  std::unique_ptr<PageWindow> page_;
 };
 
 }  // namespace tidewell

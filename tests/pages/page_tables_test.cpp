@@ -19,9 +19,9 @@ class Tables : public PageFixture {
   std::vector<Row> AllRows() {
     std::vector<Row> rows;
     for (const PageEntry& page : kPages) {
-      if (!page.table) continue;
-      for (const PageTab& tab : page.table(context)) {
-        rows.insert(rows.end(), tab.rows.begin(), tab.rows.end());
+      if (!page.make) continue;
+      for (const PageTab& tab : page.make(context)->Tabs()) {
+        for (const Row* row : tab.Rows()) rows.push_back(*row);
       }
     }
     return rows;
@@ -104,7 +104,7 @@ std::wstring LineOf(const Row& row) {
   line += ChoicesOf(row);
   if (row.otherwise != kNoChoice) line += L" | else line " + FormatDecimal(row.otherwise);
   if (row.ofNoChoice == 0) line += L" | without one 0";
-  if (row.closer) line += L" | closer by " + FormatDecimal(row.closer);
+  if (row.reducedSpacing) line += L" | closer by " + FormatDecimal(row.reducedSpacing);
   return line + L"\n";
 }
 
@@ -112,12 +112,13 @@ TEST_F(Tables, SayWhatTheirListingSays) {
   InstallOtherPrograms();
   std::wstring listing;
   for (const PageEntry& page : kPages) {
-    if (!page.table) continue;
+    if (!page.make) continue;
     listing += page.className + (L" " + FormatDecimal(page.captionId)) + L"\n";
-    for (const PageTab& tab : page.table(context)) {
-      listing += L"  tab " + FormatDecimal(tab.titleId) + L", " + FormatDecimal(tab.firstId) +
-                 L" to " + FormatDecimal(tab.lastId) + L"\n";
-      for (const Row& row : tab.rows) listing += LineOf(row);
+    for (const PageTab& tab : page.make(context)->Tabs()) {
+      listing += L"  tab " + FormatDecimal(tab.titleId) + L", " +
+                 FormatDecimal(tab.ControlIds().front()) + L" to " +
+                 FormatDecimal(tab.ControlIds().back()) + L"\n";
+      for (const Row* row : tab.Rows()) listing += LineOf(*row);
     }
   }
   std::ifstream file(TIDEWELL_PAGES_EXPECTED, std::ios::binary);

@@ -1,6 +1,6 @@
 // What every page does beyond its rows: its frame, keys, scrolling, turning, and that it fits its
 // screen in every language.
-#include "pages/general_table.h"
+#include "pages/general_page.h"
 #include "platform/gdi.h"
 #include "tests/pages/page_host.h"
 
@@ -253,7 +253,7 @@ TEST_F(PageOnScreens, EveryTabHasItsTextsInTheirPlacesInEveryLanguage) {
       UseScreen(screen.width, screen.height, screen.dpi, screen.vgaMode);
       doubled_ = screen.vgaMode;
       for (int index = 0; index < kPageCount; ++index) {
-        if (!kPages[static_cast<std::size_t>(index)].table) continue;
+        if (!kPages[static_cast<std::size_t>(index)].make) continue;
         SCOPED_TRACE(testing::Message() << screen.name << ", page " << index);
         Open(static_cast<PageIndex>(index));
         CheckTabs();

@@ -1,9 +1,8 @@
 // The pages as windows: what each shows, what a finger does to it, what it stores.
 #include <gmock/gmock.h>
 
-#include "pages/general_table.h"
-#include "pages/pim_table.h"
-#include "resources/text/text_ids.h"
+#include "pages/general_page.h"
+#include "pages/pim_page.h"
 #include "tests/pages/page_host.h"
 
 namespace tidewell {
@@ -45,10 +44,10 @@ class EachPage : public PageHost, public testing::WithParamInterface<PageIndex> 
     UseScreen(480, 640, 192);
     InstallCompanion();
     InstallOtherPrograms();
-    table_ = kPages[static_cast<std::size_t>(GetParam())].table(context);
-    for (const PageTab& tab : table_) {
-      for (const Row& row : tab.rows) {
-        if (row.stored < Stored::kByPage) storing_.push_back(&row);
+    tabs_ = kPages[static_cast<std::size_t>(GetParam())].make(context)->Tabs();
+    for (const PageTab& tab : tabs_) {
+      for (const Row* row : tab.Rows()) {
+        if (row->stored < Stored::kByRules) storing_.push_back(row);
       }
     }
   }
@@ -58,6 +57,10 @@ class EachPage : public PageHost, public testing::WithParamInterface<PageIndex> 
       state.checked = IsChecked(row.controlId);
     } else if (row.kind == RowKind::kList) {
       state.selection = Selection(row.controlId);
+      if (state.selection == kNoChoice) return state;
+      const Choice& chosen = row.choices[static_cast<std::size_t>(state.selection)];
+      state.data = chosen.data;
+      if (row.stored == Stored::kName) state.text = chosen.text;
     } else {
       state.text = TextOfControl(row.controlId);
     }
@@ -82,7 +85,7 @@ class EachPage : public PageHost, public testing::WithParamInterface<PageIndex> 
     EXPECT_EQ(text, row.text ? row.text->Value() : L"") << row.controlId;
   }
 
-  PageTable table_;
+  PageTabs tabs_;
   std::vector<const Row*> storing_;  // something by themselves
 };
 
@@ -100,6 +103,10 @@ TEST_P(EachPage, ShowsEveryStoredValueAndStoresWhatItShows) {
     }
     Open(GetParam());
     for (std::size_t i = 0; i < storing_.size(); ++i) {
+      if (storing_[i]->stored == Stored::kName && expected[i].selection >= 0) {
+        const auto line = static_cast<std::size_t>(expected[i].selection);
+        expected[i].text = storing_[i]->choices[line].text;
+      }
       EXPECT_EQ(StateOfControl(*storing_[i]), expected[i]) << storing_[i]->controlId;
     }
     Close();
@@ -133,11 +140,12 @@ TEST_P(EachPage, ShowsATabAtATimeAndStoresWhatAFingerChanges) {
   store.root.AutoHeight.Set(0);
   Open(GetParam());
   std::vector<std::pair<const Row*, ControlState>> changed;
-  for (std::size_t tab = 0; tab < table_.size(); ++tab) {
+  for (std::size_t tab = 0; tab < tabs_.size(); ++tab) {
     Turn(static_cast<int>(tab));
     for (auto row = storing_.rbegin(); row != storing_.rend(); ++row) {
       const int id = (*row)->controlId;
-      EXPECT_EQ(IsShown(id), id >= table_[tab].firstId && id <= table_[tab].lastId) << id;
+      const std::vector<int> ids = tabs_[tab].ControlIds();
+      EXPECT_EQ(IsShown(id), std::binary_search(ids.begin(), ids.end(), id)) << id;
       if (!IsShown(id) || !IsWindowEnabled(Control(id)) || (*row)->kind == RowKind::kPath) continue;
       const ControlState before = StateOfControl(**row);
       Change(**row);
@@ -150,28 +158,9 @@ TEST_P(EachPage, ShowsATabAtATimeAndStoresWhatAFingerChanges) {
   for (const auto& [row, state] : changed) ExpectStored(*row, state);
 }
 
-// ---- The General page
+// ---- What their rules do, as a finger sees it
 
-class GeneralPage : public PageHost {};
-
-TEST_F(GeneralPage, GreysTheLimitsOfAHeightThatFits) {
-  Open(PageIndex::kGeneral);
-  EXPECT_EQ(Enabled(1206, 1210), Ids{1206});
-  TapControl(general_ids::kAutoHeight);
-  EXPECT_EQ(Enabled(1206, 1210), (Ids{1206, 1207, 1208, 1209, 1210}));
-}
-
-TEST_F(GeneralPage, TurnsTheGroupsOfTheDPad) {
-  Open(PageIndex::kGeneral);
-  Turn(2);
-  EXPECT_EQ(Enabled(1220, 1228), (Ids{1220, 1221, 1222, 1223, 1224, 1227, 1228}));
-  Choose(general_ids::kDPadGroup, 1);
-  EXPECT_EQ(Enabled(1220, 1228), (Ids{1220, 1221, 1222, 1225, 1226, 1228}));
-  TapControl(general_ids::kDPadEnabled);
-  EXPECT_EQ(Enabled(1220, 1228), Ids{1220});
-}
-
-TEST_F(GeneralPage, AsksForTheSkinFolder) {
+TEST_F(PageHost, AsksForTheSkinFolder) {
   store.root.SkinPath.Set(L"\\My Documents\\Skins");
   Open(PageIndex::kGeneral);
   Turn(1);
@@ -186,72 +175,15 @@ TEST_F(GeneralPage, AsksForTheSkinFolder) {
   EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"");
 }
 
-// A library without a name has no line, but a slot: here English has the second one.
-TEST_F(GeneralPage, StoresTheLanguageOfTheChosenSlot) {
-  const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\";
-  const auto open = [&](int lines, int selection) {
-    Open(PageIndex::kGeneral);
-    EXPECT_EQ(Send(general_ids::kLanguage, CB_GETCOUNT), lines);
-    EXPECT_EQ(Selection(general_ids::kLanguage), selection);
-  };
-  open(0, -1);
-  Close();
-  EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWEngRc.dll") << "none to choose";
-  const std::pair<const wchar_t*, MemoryLibraries::Texts> packs[] = {
-      {L"AAA.dll", {}},
-      {L"TWEngRc.dll", {{IDS_LANGUAGE_NAME, L"English"}}},
-      {L"TWGerRc.dll", {{IDS_LANGUAGE_NAME, L"Deutsch"}}}};
-  for (const auto& [name, texts] : packs) {
-    machine.files.Put(folder + name, "MZ");
-    machine.libraries.Put(folder + name, texts);
-  }
-  open(2, 1);
-  Close();
-  EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWEngRc.dll");
-}
-
-// ---- The PIM page
-
-class PimPage : public PageHost {
- protected:
-  DwordSetting& program() { return store.customPim.PimSw; }
-};
-
-TEST_F(PimPage, StoresAProgramAtOnceAndGreysWhatItDoesNotHave) {
-  InstallOtherPrograms();
+TEST_F(PageHost, RefusesAProgramAndGreysByFingerAndByKey) {
   Open(PageIndex::kPim);
-  struct Case {
-    int line;
-    std::uint32_t stored;
-    Ids enabled;
-  };
-  const Case cases[] = {{2, 1, {1206, 1207, 1209}},
-                        {3, 2, {1206, 1207, 1208, 1209}},
-                        {4, 3, {1206, 1207, 1209}},
-                        {0, 0, {1202, 1203, 1204, 1205}}};
-  for (const Case& c : cases) {
-    Choose(pim_ids::kProgram, c.line);
-    EXPECT_EQ(program().Value(), c.stored);
-    EXPECT_EQ(Enabled(1202, 1209), c.enabled);
-  }
-}
-
-TEST_F(PimPage, TakesTheCompanionOnlyWhereItIs) {
-  program().Set(1);  // which is not there any more
-  Open(PageIndex::kPim);
-  EXPECT_EQ(Send(pim_ids::kProgram, CB_GETCOUNT), 2);
-  EXPECT_EQ(Selection(pim_ids::kProgram), 0);
   Choose(pim_ids::kProgram, 1);
   EXPECT_THAT(dialogs_.shown,
               ElementsAre(L"Not installed: Velmont Calendar is not installed on this device."));
   EXPECT_EQ(Selection(pim_ids::kProgram), 0);
-  EXPECT_EQ(program().Value(), 0u);
-  EXPECT_EQ(Enabled(1202, 1209), (Ids{1202, 1203, 1204, 1205}));
-
   InstallCompanion();
-  Press(VK_RIGHT);  // turned by a key, the list stores its program too
-  EXPECT_EQ(dialogs_.shown.size(), 1u);
-  EXPECT_EQ(program().Value(), 4u);
+  Press(VK_RIGHT);
+  EXPECT_EQ(store.customPim.PimSw.Value(), 4u);
   EXPECT_EQ(Enabled(1202, 1209), (Ids{1206, 1207, 1209}));
 }
 

@@ -1,5 +1,5 @@
 // The base and its factory, on a page that no table describes.
-#include "pages/settings_page.h"
+#include "pages/windows/settings_page.h"
 
 #include <gmock/gmock.h>
 
@@ -17,8 +17,6 @@ constexpr int kName = 1304;
 
 class FreePage final : public SettingsPage {
  public:
-  using SettingsPage::DrawColorSwatch;
-  using SettingsPage::MoveListItem;
   using SettingsPage::SettingsPage;
 
   std::vector<std::string> told;
@@ -28,7 +26,7 @@ class FreePage final : public SettingsPage {
   int GetTabTitleId(int) const override { return 0; }
   void OnCreate(HWND) override {
     AddPathEdit(kEdit, kClear, kBrowse, L"\\My Documents", 8);
-    AddEdit(kName, L"Name", 10, 32, 100, 20);
+    AddEdit(kName, L"Name", {10, 32, 100, 20});
     const int texts[] = {IDS_GROUP_GENERAL, IDS_GROUP_CALENDAR, IDS_GROUP_TASKS};
     AddList(kList, texts, 8);
   }

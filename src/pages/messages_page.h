@@ -1,11 +1,13 @@
 // The Messages page: the mail tab.
 #pragma once
 
+#include <memory>
+
 #include "pages/page_context.h"
-#include "pages/page_table.h"
+#include "pages/page_rules.h"
 
 namespace tidewell {
 
-PageTable MessagesTable(PageContext& context);
+std::unique_ptr<PageRules> MakeMessagesPage(PageContext& context);
 
 }  // namespace tidewell

@@ -1,4 +1,4 @@
-#include "pages/page_controls.h"
+#include "pages/windows/key_navigation.h"
 
 #include <commctrl.h>
 
@@ -48,13 +48,13 @@ bool IsAtEnd(HWND rows, int direction) {
 
 }  // namespace
 
-void PageControls::Add(HWND control, ControlKind kind) {
+void KeyNavigation::Add(HWND control, ControlKind kind) {
   Hook(control, control, kind);
   if (kind != ControlKind::kNumber) return;
   if (const HWND edit = GetWindow(control, GW_CHILD)) Hook(edit, control, kind);
 }
 
-void PageControls::Hook(HWND window, HWND control, ControlKind kind) {
+void KeyNavigation::Hook(HWND window, HWND control, ControlKind kind) {
   if (!window) return;
   Entry& entry = entries_.emplace_back(Entry{this, control, kind, nullptr});
   SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&entry));
@@ -62,32 +62,33 @@ void PageControls::Hook(HWND window, HWND control, ControlKind kind) {
       SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WindowProc)));
 }
 
-LRESULT CALLBACK PageControls::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK KeyNavigation::WindowProc(HWND window, UINT message, WPARAM wParam,
+                                           LPARAM lParam) {
   const Entry& entry = *reinterpret_cast<Entry*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  PageControls& controls = *entry.controls;
+  KeyNavigation& navigation = *entry.navigation;
   switch (message) {
     case WM_KEYDOWN:
-      if (controls.OnKey(entry, wParam)) return 0;
+      if (navigation.OnKey(entry, wParam)) return 0;
       break;
     case WM_CHAR:
-      if (controls.Swallows(entry, wParam)) return 0;
+      if (navigation.Swallows(entry, wParam)) return 0;
       break;
     case WM_MOUSEWHEEL:
       if (entry.kind == ControlKind::kRows || IsDropped(entry.control)) break;
-      controls.owner_.OnWheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      navigation.owner_.OnWheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     case WM_SETFOCUS:
       if (entry.kind == ControlKind::kRows) FocusARow(entry.control);
-      controls.owner_.OnFocusMoved(entry.control);
+      navigation.owner_.OnFocusMoved(entry.control);
       break;
     case WM_KILLFOCUS:
-      controls.owner_.OnFocusMoved(nullptr);
+      navigation.owner_.OnFocusMoved(nullptr);
       break;
   }
   return CallWindowProcW(entry.next, window, message, wParam, lParam);
 }
 
-bool PageControls::OnKey(const Entry& entry, WPARAM key) {
+bool KeyNavigation::OnKey(const Entry& entry, WPARAM key) {
   switch (key) {
     case VK_UP:
       return OnArrow(entry, -1, true);
@@ -113,7 +114,7 @@ bool PageControls::OnKey(const Entry& entry, WPARAM key) {
   }
 }
 
-bool PageControls::OnArrow(const Entry& entry, int direction, bool vertical) {
+bool KeyNavigation::OnArrow(const Entry& entry, int direction, bool vertical) {
   switch (entry.kind) {
     case ControlKind::kList:
     case ControlKind::kNumber:
@@ -137,7 +138,7 @@ bool PageControls::OnArrow(const Entry& entry, int direction, bool vertical) {
   return true;
 }
 
-bool PageControls::OnAction(const Entry& entry, bool isSpace) {
+bool KeyNavigation::OnAction(const Entry& entry, bool isSpace) {
   switch (entry.kind) {
     case ControlKind::kButton:
     case ControlKind::kCheck:
@@ -167,18 +168,18 @@ bool PageControls::OnAction(const Entry& entry, bool isSpace) {
 
 // The characters of keys that did something else already; a control would sound an alarm, or
 // search for a line that begins with a blank.
-bool PageControls::Swallows(const Entry& entry, WPARAM character) const {
+bool KeyNavigation::Swallows(const Entry& entry, WPARAM character) const {
   return character == VK_RETURN || character == VK_TAB ||
          (character == VK_SPACE && entry.kind == ControlKind::kList);
 }
 
-bool PageControls::CanFocus(HWND control) const {
+bool KeyNavigation::CanFocus(HWND control) const {
   const bool known = std::any_of(entries_.begin(), entries_.end(),
                                  [&](const Entry& entry) { return entry.control == control; });
   return known && IsShown(control) && IsWindowEnabled(control);
 }
 
-bool PageControls::MarksItself(HWND control) const {
+bool KeyNavigation::MarksItself(HWND control) const {
   return std::any_of(entries_.begin(), entries_.end(), [&](const Entry& entry) {
     return entry.control == control &&
            (entry.kind == ControlKind::kList || entry.kind == ControlKind::kRows ||
@@ -186,7 +187,7 @@ bool PageControls::MarksItself(HWND control) const {
   });
 }
 
-void PageControls::FocusFirst(HWND preferred) {
+void KeyNavigation::FocusFirst(HWND preferred) {
   if (preferred && CanFocus(preferred)) {
     SetFocus(preferred);
     return;
@@ -198,7 +199,7 @@ void PageControls::FocusFirst(HWND preferred) {
   }
 }
 
-void PageControls::Walk(HWND from, int direction) {
+void KeyNavigation::Walk(HWND from, int direction) {
   const auto count = static_cast<int>(entries_.size());
   const auto at = [&](int i) -> const Entry& { return entries_[static_cast<std::size_t>(i)]; };
   int start = 0;

@@ -1,5 +1,5 @@
 // What rows show of a setting, and what they store of what was left in them.
-#include "pages/page_table.h"
+#include "pages/page_rows.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ class Rows : public testing::Test {
   Row dataOrSecond = DataList(1, 2, 3, group.number, {{L"15", 15}, {L"30", 30}}, 1, 0);
   Row number = Number(1, 2, 3, group.number, Numbers(80, 600, 20));
   Row name = NameList(1, 2, 3, group.text, {40, L"Business", L"Stra\u00DFe", L"\u00C4rzte"});
-  Row path = Path(1, 2, 3, 4, 5, group.text);
+  Row path = Path(1, 2, 3, 4, 5, group.text, {L"Folder"});
 };
 
 TEST_F(Rows, ShowTheLineOfTheStoredNumberAndStoreTheNumberOfTheLine) {
@@ -59,12 +59,12 @@ TEST_F(Rows, TakeTypedNumbersInTheirOwnBaseAndCutTexts) {
       {L"", 0},      {L"tall", 0},  {L"12px", 12}, {std::wstring(256, L' ') + L"7", 0},
   };
   for (const auto& [text, expected] : cases) {
-    Store(number, {false, kNoChoice, text});
+    Store(number, ControlState::OfText(text));
     EXPECT_EQ(group.number.Value(), expected);
   }
   group.number.Set(~0u);
   EXPECT_EQ(StateOf(number).text, L"-1");
-  Store(path, {false, kNoChoice, std::wstring(261, L'x')});
+  Store(path, ControlState::OfText(std::wstring(261, L'x')));
   EXPECT_EQ(StateOf(path).text, std::wstring(260, L'x'));
 }
 
@@ -81,7 +81,9 @@ TEST_F(Rows, FindNamesWithoutRegardToCaseAndStoreNoneForTheFirstLine) {
   for (const Case& c : cases) {
     group.text.Set(c.stored);
     EXPECT_EQ(StateOf(name).selection, c.line);
-    Store(name, StateOf(name));
+    ControlState left = StateOf(name);
+    left.text = name.choices[static_cast<std::size_t>(c.line)].text;
+    Store(name, left);
     EXPECT_EQ(group.text.Value(), c.storedAgain);
   }
 }

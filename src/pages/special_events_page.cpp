@@ -1,4 +1,4 @@
-#include "pages/special_events_table.h"
+#include "pages/special_events_page.h"
 
 #include "resources/text/text_ids.h"
 
@@ -29,21 +29,22 @@ constexpr int kThirtyDays = 1;
 
 }  // namespace
 
-PageTable SpecialEventsTable(PageContext& context) {
+std::unique_ptr<PageRules> MakeSpecialEventsPage(PageContext& context) {
   SpecialEventsSettings& s = context.settings.specialEvents;
   const Choices categories = Categories(context.categories);
-  return {
-      Tab(IDS_EVENTS_TAB_EVENTS, 1200, 1207,
-          {
-              List(1200, 1201, IDS_EVENTS_AHEAD, s.SEventDays,
-                   {IDS_EVENTS_AHEAD_WEEK, IDS_EVENTS_AHEAD_TWO_WEEKS, IDS_EVENTS_AHEAD_MONTH}),
-              List(1202, 1203, IDS_EVENTS_ALERT, s.SEAlertBeforeDays, Numbers(1, 16, 1)),
-              List(1204, 1205, IDS_EVENTS_DATE_FORMAT, s.SEDateFormat,
-                   DateFormats(context.machine.locale)),
-              List(1206, 1207, IDS_NAME_FORMAT, s.SEContactFormat,
-                   {IDS_NAME_FIRST_LAST, IDS_NAME_LAST_FIRST, IDS_NAME_AS_FILED}),
-          }),
-      Tab(IDS_EVENTS_TAB_FILTERS, 1208, 1219,
+  return std::make_unique<NoRules>(PageTabs{
+      RowTab(IDS_EVENTS_TAB_EVENTS,
+             {
+                 List(1200, 1201, IDS_EVENTS_AHEAD, s.SEventDays,
+                      {IDS_EVENTS_AHEAD_WEEK, IDS_EVENTS_AHEAD_TWO_WEEKS, IDS_EVENTS_AHEAD_MONTH}),
+                 List(1202, 1203, IDS_EVENTS_ALERT, s.SEAlertBeforeDays, Numbers(1, 16, 1)),
+                 List(1204, 1205, IDS_EVENTS_DATE_FORMAT, s.SEDateFormat,
+                      DateFormats(context.machine.locale)),
+                 List(1206, 1207, IDS_NAME_FORMAT, s.SEContactFormat,
+                      {IDS_NAME_FIRST_LAST, IDS_NAME_LAST_FIRST, IDS_NAME_AS_FILED}),
+             }),
+      RowTab(
+          IDS_EVENTS_TAB_FILTERS,
           {
               DataList(1208, 1209, IDS_EVENTS_SEARCH_DAYS, s.SEApptsDaySpan, DaySpans(),
                        kThirtyDays, 0),
@@ -54,14 +55,15 @@ PageTable SpecialEventsTable(PageContext& context) {
               NameList(1216, 1217, IDS_EVENTS_EXTRA_CATEGORY_3, s.AdditionalFilterCat3, categories),
               NameList(1218, 1219, IDS_EVENTS_EXTRA_CATEGORY_4, s.AdditionalFilterCat4, categories),
           }),
-      Tab(IDS_PAGE_TAB_DISPLAY, 1220, 1223,
+      RowTab(
+          IDS_PAGE_TAB_DISPLAY,
           {
               List(1220, 1221, IDS_DIVIDER, s.BreakLineStyle,
                    {IDS_DIVIDER_NONE, IDS_DIVIDER_SOLID, IDS_DIVIDER_DOTTED, IDS_DIVIDER_FADING}),
               Check(1222, IDS_SHOW_FOLD_BUTTONS, s.IncldFoldBttns),
               Check(1223, IDS_SHOW_COUNTERS, s.IncldCounters),
           }),
-  };
+  });
 }
 
 }  // namespace tidewell

@@ -12,9 +12,10 @@
 #include <string>
 #include <utility>
 
-#include "pages/hosted_page.h"
-#include "pages/page_controls.h"
 #include "pages/page_layout.h"
+#include "pages/page_rules.h"
+#include "pages/windows/key_navigation.h"
+#include "pages/windows/page_window.h"
 #include "platform/gdi.h"
 
 namespace tidewell {
@@ -23,13 +24,7 @@ namespace tidewell {
 inline constexpr UINT kPreviewMessage1 = 1788;
 inline constexpr UINT kPreviewMessage2 = 1789;
 
-// What a page owns beyond the base's own things; deleted with the page.
-class PageExtra {
- public:
-  virtual ~PageExtra() = default;
-};
-
-class SettingsPage : public HostedPage, private ControlsOwner {
+class SettingsPage : public PageWindow, private NavigationOwner {
  public:
   explicit SettingsPage(PageContext& context);
   SettingsPage(const SettingsPage&) = delete;
@@ -40,14 +35,57 @@ class SettingsPage : public HostedPage, private ControlsOwner {
   bool Create(HWND host, const wchar_t* className, const std::wstring& caption);
   HWND Window() const override { return window_; }
 
+  // The control factory. Controls begin hidden; places and `y` are in pixels, an id of 0 in place
+  // of a text's leaves a control empty. A row returns where it stands, its height among it.
+  void AddLabel(int id, int textId, const Rect& place, DWORD style);
+  void AddEdit(int id, const std::wstring& text, const Rect& place, DWORD style = 0);
+  void AddButton(int id, int textId, const Rect& place);
+  void AddCheck(int id, const std::wstring& text, bool wraps, const Rect& place);
+  void AddCombo(int id, bool editable, const Rect& place);
+  HWND AddListView(int id, const Rect& place);
+  RowPlace AddCheckBox(int id, int textId, bool checked, int y);
+  RowPlace AddComboRow(int labelId, int comboId, int textId, const Choices& items, int selection,
+                       int y, bool editable);
+  RowPlace AddPathRow(int labelId, int editId, int clearId, int browseId, int textId,
+                      const std::wstring& path, int y);
+  RowPlace AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path, int y);
+  void AddList(int id, std::span<const int> itemIds, int yOffset);
+
+  void DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const;
+  // Every control of the ids from `firstId` to `lastId` that the page has.
+  void ShowControlRange(HWND window, int firstId, int lastId, int showCommand) const;
+  // Moves the selected row one place; without one, tells the user to select it first.
+  void MoveListItem(HWND window, int listId, bool up);
+  void Enable(std::span<const Enabling> rule) const;
+
+  HWND Control(int id) const { return GetDlgItem(window_, id); }
+  void Place(int id, const Rect& place) const;
+  // What a control holds, by its kind; that of nothing where there is none.
+  ControlState State(int id) const;
+  void SetState(int id, const ControlState& state) const;
+  // A path that is longer than its field is told by its end.
+  void ShowEndOfPath(int id) const;
+  // Replaces the lines of a drop-down list; none is selected.
+  void SetChoices(int id, const Choices& choices) const;
+  void SetTextOfControl(int id, const std::wstring& text) const;
+  // Empty for the id 0.
+  std::wstring Text(int textId) const;
+
+  PageContext& Context() const { return context_; }
+  const ScreenScale& Scale() const { return context_.scale; }
+  HFONT TextFont() const { return font_.Get(); }
+  // The client area, and text measured in the page's font.
+  PageMetrics Metrics(TextMeasure& measure) const;
+  // Of the client area above the row of tabs.
+  int ViewHeight() const;
+
  protected:
   virtual int GetTabCount() const = 0;
   virtual int GetTabTitleId(int index) const = 0;
-  // Builds the controls, none of them visible.
+  // Builds the controls, none of them visible; those behind the first tab can follow in OnPainted.
   virtual void OnCreate(HWND window) = 0;
-  // The page has been painted for the first time; what its first tab does not show can be built
-  // now.
-  virtual void OnShown(HWND window);
+  // The first tab can be seen; the page is not handed to its host yet.
+  virtual void OnPainted(HWND window);
   // Shows or hides the controls of the tab that is selected now.
   virtual void ShowTab(HWND window, int showCommand) = 0;
   // Writes the state of every control that there is into the settings.
@@ -70,48 +108,8 @@ class SettingsPage : public HostedPage, private ControlsOwner {
   bool OnPageKey(int direction) override;
   void OnWheel(int distance) override;
 
-  // The control factory. Controls begin hidden; `y` is in pixels. A row returns where it stands,
-  // its height among it.
-  void AddLabel(int id, int textId, int x, int y, int width, int height, DWORD style);
-  void AddEdit(int id, const std::wstring& text, int x, int y, int width, int height);
-  void AddButton(int id, int textId, int x, int y, int width, int height);
-  RowPlace AddCheckBox(int id, int textId, bool checked, int y);
-  RowPlace AddComboRow(int labelId, int comboId, int textId, std::span<const Choice> items,
-                       int selection, int y, bool editable);
-  RowPlace AddPathRow(int labelId, int editId, int clearId, int browseId, int textId,
-                      const std::wstring& path, int y);
-  RowPlace AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path, int y);
-  void AddList(int id, std::span<const int> itemIds, int yOffset);
-
-  void DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const;
-  // Every control of the ids from `firstId` to `lastId` that the page has.
-  void ShowControlRange(HWND window, int firstId, int lastId, int showCommand) const;
-  // Moves the selected row one place; without one, tells the user to select it first.
-  void MoveListItem(HWND window, int listId, bool up);
-  void Enable(std::span<const Enabling> rule) const;
-
-  HWND Control(int id) const { return GetDlgItem(window_, id); }
-  LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-  std::wstring TextOfControl(int id) const;
-  void SetTextOfControl(int id, const std::wstring& text) const;
-  void SetPathOfControl(int id, const std::wstring& path) const;
-  // A path that is longer than its field is told by its end.
-  void ShowEndOfPath(int id) const;
-  bool IsChecked(int id) const;
-  std::wstring Text(int textId) const;
-  void ShowMessage(int textId, int captionId) const;
-
-  PageContext& Context() const { return context_; }
-  const ScreenScale& Scale() const { return context_.scale; }
-  HFONT TextFont() const { return font_.Get(); }
   HWND Tabs() const { return tabs_; }
   int SelectedTab() const;
-  // The page destroys or deletes these when it goes.
-  void OwnImageList(HIMAGELIST images) { imageList_ = images; }
-  void Own(std::unique_ptr<PageExtra> extra) { extra_ = std::move(extra); }
-  HWND FocusedControl() const { return focused_; }
-  // The client area, and text measured in the page's font.
-  PageMetrics Metrics(TextMeasure& measure) const;
 
  private:
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -127,21 +125,20 @@ class SettingsPage : public HostedPage, private ControlsOwner {
   RECT FocusFrame(HWND control) const;
   HWND MakeControl(const wchar_t* windowClass, DWORD style, int id, const std::wstring& text,
                    const Rect& place);
-  void MakePathControls(const std::wstring& path, std::span<const ControlPlace> places);
-  void MakeButton(int id, int textId, const Rect& place);
+  void AddPathControls(const std::wstring& path, std::span<const ControlPlace> places);
+  LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  std::wstring TextOfControl(int id) const;
 
   HWND window_ = nullptr;
   HWND menuBar_ = nullptr;
-  HIMAGELIST imageList_ = nullptr;  // of a page that shows icons
   std::wstring className_;
   SHACTIVATEINFO activation_{};
   HWND tabs_ = nullptr;
   HINSTANCE instance_ = nullptr;
-  std::unique_ptr<PageExtra> extra_;
 
   PageContext& context_;
   Font font_;
-  PageControls controls_{*this};
+  KeyNavigation navigation_{*this};
   HWND focused_ = nullptr;      // the control that has the focus now
   HWND lastFocused_ = nullptr;  // or had it last
 };

@@ -1,7 +1,6 @@
-#include "pages/page_table.h"
+#include "pages/page_rows.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "platform/text.h"
@@ -39,11 +38,6 @@ int PositionOfName(const Row& row) {
         return !choice.textId && EqualIgnoringCase(choice.text, row.text->Value());
       });
   return found == row.choices.end() ? 0 : static_cast<int>(found - row.choices.begin());
-}
-
-const Choice* Chosen(const Row& row, int selection) {
-  if (selection < 0 || selection >= std::ssize(row.choices)) return nullptr;
-  return &row.choices[static_cast<std::size_t>(selection)];
 }
 
 }  // namespace
@@ -85,16 +79,15 @@ Row Number(int labelId, int listId, int textId, DwordSetting& setting, Choices c
   return row;
 }
 
-Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringSetting& setting) {
-  Row row;
+Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringSetting& setting,
+         Browse browse) {
+  Row row = Text(textId, setting);
   row.kind = RowKind::kPath;
-  row.stored = Stored::kText;
   row.labelId = labelId;
   row.controlId = editId;
   row.clearId = clearId;
   row.browseId = browseId;
-  row.textId = textId;
-  row.text = &setting;
+  row.browse = browse;
   return row;
 }
 
@@ -102,17 +95,26 @@ Row Selector(int labelId, int listId, int textId, Choices choices) {
   return ListRow(labelId, listId, textId, Stored::kNothing, std::move(choices));
 }
 
-Row FilledByPage(int labelId, int listId, int textId, StringSetting& setting) {
-  Row row = ListRow(labelId, listId, textId, Stored::kByPage, {});
+Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting) {
+  Row row = ListRow(labelId, listId, textId, Stored::kByRules, {});
   row.text = &setting;
   return row;
 }
 
-PageTab Tab(int titleId, int firstId, int lastId, std::initializer_list<Row> rows) {
-  PageTab tab{titleId, firstId, lastId, {}};
-  std::copy_if(rows.begin(), rows.end(), std::back_inserter(tab.rows),
-               [](const Row& row) { return row.present; });
-  return tab;
+Row Text(int textId, StringSetting& setting) {
+  Row row;
+  row.kind = RowKind::kText;
+  row.stored = Stored::kText;
+  row.textId = textId;
+  row.text = &setting;
+  return row;
+}
+
+Row Order() {
+  Row row;
+  row.kind = RowKind::kOrder;
+  row.stored = Stored::kByRules;
+  return row;
 }
 
 Choices Numbers(int first, int last, int step) {
@@ -130,7 +132,7 @@ ControlState StateOf(const Row& row) {
       state.checked = row.number->Value() != 0;
       break;
     case Stored::kPosition:
-      if (Chosen(row, row.number->Signed())) state.selection = row.number->Signed();
+      state.selection = row.number->Signed();
       break;
     case Stored::kData:
       state.selection = PositionOfData(row);
@@ -147,8 +149,13 @@ ControlState StateOf(const Row& row) {
     case Stored::kNothing:
       state.selection = 0;
       break;
-    case Stored::kByPage:
+    case Stored::kByRules:
       break;
+  }
+  if (state.selection < 0 || state.selection >= std::ssize(row.choices)) {
+    state.selection = kNoChoice;
+  } else {
+    state.data = row.choices[static_cast<std::size_t>(state.selection)].data;
   }
   return state;
 }
@@ -161,16 +168,12 @@ void Store(const Row& row, const ControlState& state) {
     case Stored::kPosition:
       row.number->Set(static_cast<std::uint32_t>(state.selection));
       break;
-    case Stored::kData: {
-      const Choice* chosen = Chosen(row, state.selection);
-      row.number->Set(chosen ? chosen->data : row.ofNoChoice);
+    case Stored::kData:
+      row.number->Set(state.selection < 0 ? row.ofNoChoice : state.data);
       break;
-    }
-    case Stored::kName: {
-      const Choice* chosen = Chosen(row, state.selection);
-      row.text->Set(chosen && state.selection > 0 ? chosen->text : std::wstring());
+    case Stored::kName:
+      row.text->Set(state.selection > 0 ? state.text : std::wstring());
       break;
-    }
     case Stored::kNumber:
       row.number->Set(
           static_cast<std::uint32_t>(ParseNumber(state.text.substr(0, kNumberCapacity), 0)));
@@ -178,7 +181,7 @@ void Store(const Row& row, const ControlState& state) {
     case Stored::kText:
       row.text->Set(state.text.substr(0, kPathCapacity));
       break;
-    case Stored::kByPage:
+    case Stored::kByRules:
     case Stored::kNothing:
       break;
   }

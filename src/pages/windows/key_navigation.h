@@ -11,22 +11,22 @@ namespace tidewell {
 
 enum class ControlKind : std::uint8_t { kButton, kCheck, kList, kNumber, kEdit, kRows, kTabs };
 
-// What the controls tell their page.
-class ControlsOwner {
+// What the keys tell the page whose controls they walk through.
+class NavigationOwner {
  public:
-  virtual ~ControlsOwner() = default;
-  // Null when the focus has left the page's controls.
+  virtual ~NavigationOwner() = default;
+  // Null when the focus has left the page's navigation.
   virtual void OnFocusMoved(HWND control) = 0;
   // Up (-1) or down (1) by what is in view; true when there is more to see at all.
   virtual bool OnPageKey(int direction) = 0;
   virtual void OnWheel(int distance) = 0;
 };
 
-class PageControls {
+class KeyNavigation {
  public:
-  explicit PageControls(ControlsOwner& owner) : owner_(owner) {}
-  PageControls(const PageControls&) = delete;
-  PageControls& operator=(const PageControls&) = delete;
+  explicit KeyNavigation(NavigationOwner& owner) : owner_(owner) {}
+  KeyNavigation(const KeyNavigation&) = delete;
+  KeyNavigation& operator=(const KeyNavigation&) = delete;
 
   // Takes the control's user data. The order of the calls is the order of the walk.
   void Add(HWND control, ControlKind kind);
@@ -39,7 +39,7 @@ class PageControls {
 
  private:
   struct Entry {
-    PageControls* controls;
+    KeyNavigation* navigation;
     HWND control;  // the list itself, also for the edit inside of it
     ControlKind kind;
     WNDPROC next;
@@ -53,7 +53,7 @@ class PageControls {
   bool Swallows(const Entry& entry, WPARAM character) const;
   void Walk(HWND from, int direction);
 
-  ControlsOwner& owner_;
+  NavigationOwner& owner_;
   std::deque<Entry> entries_;  // their addresses stay
 };
 

@@ -1,4 +1,4 @@
-#include "pages/settings_page.h"
+#include "pages/windows/settings_page.h"
 
 #include <algorithm>
 
@@ -62,9 +62,9 @@ bool SettingsPage::Create(HWND host, const wchar_t* className, const std::wstrin
                   nullptr, instance_, this);
   if (!window_) return false;
   ShowWindow(window_, SW_SHOW);
-  controls_.FocusFirst();  // before the first painting, which shows it
+  navigation_.FocusFirst();  // before the first painting, which shows it
   UpdateWindow(window_);
-  OnShown(window_);
+  OnPainted(window_);
   return true;
 }
 
@@ -94,7 +94,7 @@ LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       return IsWindowEnabled(window_) ? AskToClose() : 0;  // not below a dialog of its own
     case WM_SETFOCUS:
-      controls_.FocusFirst(lastFocused_);
+      navigation_.FocusFirst(lastFocused_);
       return 0;
     case WM_ERASEBKGND:
       OnEraseBackground(window_, reinterpret_cast<HDC>(wParam));
@@ -134,7 +134,7 @@ LRESULT SettingsPage::Build() {
   MakeMenuBar();
   MakeTabRow();
   OnCreate(window_);
-  if (tabs_) controls_.Add(tabs_, ControlKind::kTabs);
+  if (tabs_) navigation_.Add(tabs_, ControlKind::kTabs);
   ShowTab(window_, SW_SHOW);
   return 0;
 }
@@ -148,8 +148,6 @@ LRESULT SettingsPage::TakeDown() {
   OnDestroy(window_);
   if (tabs_) DestroyWindow(std::exchange(tabs_, nullptr));
   if (menuBar_) DestroyWindow(std::exchange(menuBar_, nullptr));
-  if (imageList_) ImageList_Destroy(std::exchange(imageList_, nullptr));
-  extra_.reset();
   return 0;
 }
 
@@ -215,7 +213,7 @@ void SettingsPage::OnFocusMoved(HWND control) {
 
 // The frame lies in the room between a control and its neighbours.
 void SettingsPage::InvalidateFocus(HWND control) const {
-  if (!control || controls_.MarksItself(control)) return;
+  if (!control || navigation_.MarksItself(control)) return;
   const RECT frame = FocusFrame(control);
   InvalidateRect(window_, &frame, TRUE);
 }
@@ -232,7 +230,7 @@ RECT SettingsPage::FocusFrame(HWND control) const {
 void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
   const RECT client = ClientArea(window);
   FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-  if (!focused_ || controls_.MarksItself(focused_)) return;
+  if (!focused_ || navigation_.MarksItself(focused_)) return;
   RECT frame = FocusFrame(focused_);
   const Brush ink(CreateSolidBrush(kFocusInk));
   FillRect(dc, &frame, ink.Get());
@@ -241,7 +239,7 @@ void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
   FillRect(dc, &frame, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
 }
 
-void SettingsPage::OnShown(HWND) {}
+void SettingsPage::OnPainted(HWND) {}
 
 bool SettingsPage::OnPageKey(int) {
   return false;
@@ -283,6 +281,10 @@ LRESULT SettingsPage::OnOther(HWND window, UINT message, WPARAM wParam, LPARAM l
 
 int SettingsPage::SelectedTab() const {
   return std::max(0, static_cast<int>(SendMessageW(tabs_, TCM_GETCURSEL, 0, 0)));
+}
+
+int SettingsPage::ViewHeight() const {
+  return tabs_ ? TabRowPlace().top : static_cast<int>(ClientArea(window_).bottom);
 }
 
 PageMetrics SettingsPage::Metrics(TextMeasure& measure) const {

@@ -1,10 +1,10 @@
-// A settings page as data: tabs, and on each a column of rows. One builder, one shower and one
-// saver walk every table.
+// A row of a settings page as data: what it shows of its setting, and what it stores. One builder
+// and one saver walk every row.
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/libraries.h"
@@ -36,6 +36,15 @@ enum class RowKind : std::uint8_t {
   kList,    // a caption and a drop-down list
   kNumber,  // the same with a number that can be typed too
   kPath,    // a caption, a path that can be read, and two buttons below
+  kText,    // a text that can be typed, with a button that clears it; in an option's editor alone
+  kOrder,   // lines to be put into order; in an option's editor alone
+};
+
+// What a path's second button lets the user choose, under a title that is the same in every
+// language. `pattern` is of files ("*.exe"); null asks for a folder.
+struct Browse {
+  const wchar_t* title = nullptr;
+  const wchar_t* pattern = nullptr;
 };
 
 enum class Stored : std::uint8_t {
@@ -45,7 +54,7 @@ enum class Stored : std::uint8_t {
   kName,      // the chosen line's text; none for the first line
   kNumber,    // the typed text as a number
   kText,
-  kByPage,   // the page fills and stores the row itself
+  kByRules,  // the page's rules fill and store the row
   kNothing,  // the row only steers others
 };
 
@@ -53,8 +62,8 @@ inline constexpr int kNoChoice = -1;
 
 struct Row {
   // Less room below the row than its kind has, at 96 dots per inch.
-  Row Closer(int length) && {
-    closer = length;
+  Row ReducedSpacing(int length) && {
+    reducedSpacing = length;
     return std::move(*this);
   }
   // Left out altogether on a device that does not fulfil a condition.
@@ -75,7 +84,8 @@ struct Row {
   Choices choices;
   int otherwise = kNoChoice;       // the line shown when none has the stored data
   std::uint32_t ofNoChoice = ~0u;  // the data stored when no line is chosen
-  int closer = 0;
+  Browse browse;
+  int reducedSpacing = 0;
   bool present = true;
 };
 
@@ -86,34 +96,40 @@ Row DataList(int labelId, int listId, int textId, DwordSetting& setting, Choices
 // The first line stands for no name; the others are literal.
 Row NameList(int labelId, int listId, int textId, StringSetting& setting, Choices choices);
 Row Number(int labelId, int listId, int textId, DwordSetting& setting, Choices choices);
-Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringSetting& setting);
+Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringSetting& setting,
+         Browse browse);
 // Begins at its first line and is not stored.
 Row Selector(int labelId, int listId, int textId, Choices choices);
-Row FilledByPage(int labelId, int listId, int textId, StringSetting& setting);
-
-struct PageTab {
-  int titleId;
-  int firstId;  // the ids of all its controls, both ends included
-  int lastId;
-  std::vector<Row> rows;  // those that this device has
-};
-PageTab Tab(int titleId, int firstId, int lastId, std::initializer_list<Row> rows);
-
-using PageTable = std::vector<PageTab>;
+Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting);
+// Of an option's editor.
+Row Text(int textId, StringSetting& setting);
+Row Order();
 
 // "80", "100", ... "600" is Numbers(80, 600, 20); each line's data is its number.
 Choices Numbers(int first, int last, int step);
 
 // What a row's control shows, and what is left in it when the page closes.
 struct ControlState {
+  static ControlState OfLine(int line) {
+    ControlState state;
+    state.selection = line;
+    return state;
+  }
+  static ControlState OfText(std::wstring text) {
+    ControlState state;
+    state.text = std::move(text);
+    return state;
+  }
+
   bool checked = false;
   int selection = kNoChoice;
-  std::wstring text;
+  std::uint32_t data = 0;  // of the selected line
+  std::wstring text;       // typed or, of a drop-down list, the selected line's
 
   bool operator==(const ControlState&) const = default;
 };
 
-// A value that no line stands for shows none.
+// A value that no line stands for shows none. The text of a line is the control's to know.
 ControlState StateOf(const Row& row);
 // Sets the row's setting, whether or not it differs.
 void Store(const Row& row, const ControlState& state);

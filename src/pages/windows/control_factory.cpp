@@ -1,10 +1,11 @@
 // The controls of a settings page: how each kind is made, and what is done with them by id.
 #include <array>
 
-#include "pages/page_dialogs.h"
-#include "pages/settings_page.h"
+#include "pages/windows/list_lines.h"
+#include "pages/windows/settings_page.h"
 #include "resources/text/text_ids.h"
 #include "ui/look.h"
+#include "ui/user_dialogs.h"
 
 // Known to a device's list views only.
 #ifndef LVS_EX_NOHSCROLL
@@ -43,6 +44,16 @@ void WriteRow(HWND list, int index, ListRow& row) {
   ListView_SetItem(list, &row.item);
 }
 
+bool IsOfClass(HWND control, const wchar_t* wanted) {
+  wchar_t name[32] = L"";
+  GetClassNameW(control, name, 32);
+  return lstrcmpiW(name, wanted) == 0;
+}
+
+bool IsEditable(HWND combo) {
+  return (GetWindowLongW(combo, GWL_STYLE) & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
+}
+
 }  // namespace
 
 int FontMeasure::Width(const std::wstring& text) {
@@ -70,63 +81,68 @@ HWND SettingsPage::MakeControl(const wchar_t* windowClass, DWORD style, int id,
   return control;
 }
 
+void SettingsPage::AddLabel(int id, int textId, const Rect& place, DWORD style) {
+  MakeControl(WC_STATICW, style, id, Text(textId), place);
+}
+
+void SettingsPage::AddEdit(int id, const std::wstring& text, const Rect& place, DWORD style) {
+  navigation_.Add(MakeControl(WC_EDITW, kEditStyle | style, id, text, place), ControlKind::kEdit);
+}
+
+void SettingsPage::AddButton(int id, int textId, const Rect& place) {
+  navigation_.Add(MakeControl(WC_BUTTONW, BS_PUSHBUTTON, id, Text(textId), place),
+                  ControlKind::kButton);
+}
+
 // The field, the button that clears it and the one that browses.
-void SettingsPage::MakePathControls(const std::wstring& path,
-                                    std::span<const ControlPlace> places) {
-  controls_.Add(MakeControl(WC_EDITW, kEditStyle | ES_READONLY, places[0].id, path, places[0].rect),
-                ControlKind::kEdit);
+void SettingsPage::AddPathControls(const std::wstring& path, std::span<const ControlPlace> places) {
+  AddEdit(places[0].id, path, places[0].rect, ES_READONLY);
   ShowEndOfPath(places[0].id);
-  MakeButton(places[1].id, IDS_CLEAR, places[1].rect);
-  MakeButton(places[2].id, IDS_BROWSE, places[2].rect);
+  AddButton(places[1].id, IDS_CLEAR, places[1].rect);
+  AddButton(places[2].id, IDS_BROWSE, places[2].rect);
 }
 
-void SettingsPage::MakeButton(int id, int textId, const Rect& place) {
-  controls_.Add(MakeControl(WC_BUTTONW, BS_PUSHBUTTON, id, Text(textId), place),
-                ControlKind::kButton);
+void SettingsPage::AddCheck(int id, const std::wstring& text, bool wraps, const Rect& place) {
+  navigation_.Add(
+      MakeControl(WC_BUTTONW, kCheckStyle | (wraps ? BS_MULTILINE : 0), id, text, place),
+      ControlKind::kCheck);
 }
 
-void SettingsPage::AddLabel(int id, int textId, int x, int y, int width, int height, DWORD style) {
-  MakeControl(WC_STATICW, style, id, Text(textId), {x, y, width, height});
+void SettingsPage::AddCombo(int id, bool editable, const Rect& place) {
+  const DWORD style = kComboStyle | (editable ? CBS_DROPDOWN : CBS_DROPDOWNLIST);
+  navigation_.Add(MakeControl(WC_COMBOBOXW, style, id, {}, place),
+                  editable ? ControlKind::kNumber : ControlKind::kList);
 }
 
-void SettingsPage::AddEdit(int id, const std::wstring& text, int x, int y, int width, int height) {
-  controls_.Add(MakeControl(WC_EDITW, kEditStyle, id, text, {x, y, width, height}),
-                ControlKind::kEdit);
-}
-
-void SettingsPage::AddButton(int id, int textId, int x, int y, int width, int height) {
-  MakeButton(id, textId, {x, y, width, height});
+HWND SettingsPage::AddListView(int id, const Rect& place) {
+  const HWND list = MakeControl(WC_LISTVIEWW, kListStyle, id, {}, place);
+  ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_NOHSCROLL);
+  std::wstring title = L"List Column";
+  LVCOLUMNW column{};
+  column.mask = LVCF_TEXT | LVCF_WIDTH;
+  column.pszText = title.data();
+  column.cx = Scale().ScaleX(kListColumnWidth);
+  ListView_InsertColumn(list, 0, &column);
+  navigation_.Add(list, ControlKind::kRows);
+  return list;
 }
 
 RowPlace SettingsPage::AddCheckBox(int id, int textId, bool checked, int y) {
   FontMeasure measure(window_, TextFont());
   RowPlace row = PlaceCheckRow(Metrics(measure), id, Text(textId), y);
-  const HWND box = MakeControl(WC_BUTTONW, kCheckStyle | (row.wraps ? BS_MULTILINE : 0), id,
-                               row.caption, row.controls[0].rect);
-  SendMessageW(box, BM_SETCHECK, checked, 0);
-  controls_.Add(box, ControlKind::kCheck);
+  AddCheck(id, row.caption, row.wraps, row.controls[0].rect);
+  Send(id, BM_SETCHECK, checked);
   return row;
 }
 
-RowPlace SettingsPage::AddComboRow(int labelId, int comboId, int textId,
-                                   std::span<const Choice> items, int selection, int y,
-                                   bool editable) {
+RowPlace SettingsPage::AddComboRow(int labelId, int comboId, int textId, const Choices& items,
+                                   int selection, int y, bool editable) {
   FontMeasure measure(window_, TextFont());
   RowPlace row = PlaceComboRow(Metrics(measure), labelId, comboId, Text(textId), y);
   MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
-  const HWND combo =
-      MakeControl(WC_COMBOBOXW, kComboStyle | (editable ? CBS_DROPDOWN : CBS_DROPDOWNLIST), comboId,
-                  {}, row.controls[1].rect);
-  for (const Choice& item : items) {
-    const std::wstring text = item.TextIn(Context().language);
-    const LRESULT line =
-        SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-    if (item.data) SendMessageW(combo, CB_SETITEMDATA, static_cast<WPARAM>(line), item.data);
-  }
-  if (std::ssize(items) > selection) {
-    SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(selection), 0);
-  }
-  controls_.Add(combo, editable ? ControlKind::kNumber : ControlKind::kList);
+  AddCombo(comboId, editable, row.controls[1].rect);
+  SetChoices(comboId, items);
+  if (std::ssize(items) > selection) Send(comboId, CB_SETCURSEL, static_cast<WPARAM>(selection));
   return row;
 }
 
@@ -136,7 +152,7 @@ RowPlace SettingsPage::AddPathRow(int labelId, int editId, int clearId, int brow
   RowPlace row =
       PlacePathRow(Metrics(measure), labelId, editId, clearId, browseId, Text(textId), y);
   MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
-  MakePathControls(path, std::span(row.controls).subspan(1));
+  AddPathControls(path, std::span(row.controls).subspan(1));
   return row;
 }
 
@@ -144,30 +160,16 @@ RowPlace SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const 
                                    int y) {
   FontMeasure measure(window_, TextFont());
   RowPlace row = PlacePathEdit(Metrics(measure), editId, clearId, browseId, y);
-  MakePathControls(path, row.controls);
+  AddPathControls(path, row.controls);
   return row;
 }
 
 void SettingsPage::AddList(int id, std::span<const int> itemIds, int yOffset) {
   const RECT client = ClientArea(window_);
-  const HWND list = MakeControl(WC_LISTVIEWW, kListStyle, id, {},
-                                PlaceList(Scale(), client.right, client.bottom, yOffset));
-  ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_NOHSCROLL);
-  std::wstring title = L"List Column";
-  LVCOLUMNW column{};
-  column.mask = LVCF_TEXT | LVCF_WIDTH;
-  column.pszText = title.data();
-  column.cx = Scale().ScaleX(kListColumnWidth);
-  ListView_InsertColumn(list, 0, &column);
-  for (std::size_t i = 0; i < itemIds.size(); ++i) {
-    std::wstring text = Text(itemIds[i]);
-    LVITEMW item{};
-    item.mask = LVIF_TEXT;
-    item.iItem = static_cast<int>(i);
-    item.pszText = text.data();
-    ListView_InsertItem(list, &item);
-  }
-  controls_.Add(list, ControlKind::kRows);
+  const HWND list = AddListView(id, PlaceList(Scale(), client.right, client.bottom, yOffset));
+  std::vector<ListLine> lines;
+  for (const int textId : itemIds) lines.push_back({Text(textId)});
+  ShowLines(list, lines);
 }
 
 void SettingsPage::DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const {
@@ -193,7 +195,8 @@ void SettingsPage::MoveListItem(HWND window, int listId, bool up) {
   const HWND list = GetDlgItem(window, listId);
   const int row = ListView_GetNextItem(list, -1, LVNI_SELECTED);
   if (row < 0) {
-    ShowMessage(IDS_SELECT_ENTRY, IDS_SELECT_ENTRY_CAPTION);
+    if (!context_.dialogs) return;
+    context_.dialogs->ShowMessage(Text(IDS_SELECT_ENTRY), Text(IDS_SELECT_ENTRY_CAPTION));
     return;
   }
   const int target = up ? row - 1 : row + 1;
@@ -229,27 +232,56 @@ void SettingsPage::SetTextOfControl(int id, const std::wstring& text) const {
   SetWindowTextW(Control(id), text.c_str());
 }
 
-void SettingsPage::SetPathOfControl(int id, const std::wstring& path) const {
-  SetTextOfControl(id, path);
-  ShowEndOfPath(id);
+ControlState SettingsPage::State(int id) const {
+  ControlState state;
+  if (!Control(id)) return state;
+  state.text = TextOfControl(id);
+  if (IsOfClass(Control(id), WC_BUTTONW)) {
+    state.checked = (Send(id, BM_GETCHECK) & 1) != 0;
+  } else if (IsOfClass(Control(id), WC_COMBOBOXW)) {
+    state.selection = static_cast<int>(Send(id, CB_GETCURSEL));
+    if (state.selection != CB_ERR) {
+      state.data = static_cast<std::uint32_t>(
+          Send(id, CB_GETITEMDATA, static_cast<WPARAM>(state.selection)));
+    }
+  }
+  return state;
+}
+
+void SettingsPage::SetState(int id, const ControlState& state) const {
+  const HWND control = Control(id);
+  if (IsOfClass(control, WC_BUTTONW)) {
+    Send(id, BM_SETCHECK, state.checked);
+  } else if (IsOfClass(control, WC_COMBOBOXW) && !IsEditable(control)) {
+    Send(id, CB_SETCURSEL, static_cast<WPARAM>(state.selection));
+  } else {
+    SetTextOfControl(id, state.text);
+    ShowEndOfPath(id);
+  }
 }
 
 void SettingsPage::ShowEndOfPath(int id) const {
+  if (!(GetWindowLongW(Control(id), GWL_STYLE) & ES_READONLY)) return;
   const int end = GetWindowTextLengthW(Control(id));
   Send(id, EM_SETSEL, static_cast<WPARAM>(end), end);
   Send(id, EM_SCROLLCARET);
 }
 
-bool SettingsPage::IsChecked(int id) const {
-  return (Send(id, BM_GETCHECK) & 1) != 0;
+void SettingsPage::SetChoices(int id, const Choices& choices) const {
+  Send(id, CB_RESETCONTENT);
+  for (const Choice& choice : choices) {
+    const std::wstring text = choice.TextIn(Context().language);
+    const LRESULT line = Send(id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    if (choice.data) Send(id, CB_SETITEMDATA, static_cast<WPARAM>(line), choice.data);
+  }
+}
+
+void SettingsPage::Place(int id, const Rect& place) const {
+  MoveWindow(Control(id), place.left, place.top, place.width, place.height, TRUE);
 }
 
 std::wstring SettingsPage::Text(int textId) const {
-  return TextOf(context_.language, static_cast<std::uint32_t>(textId));
-}
-
-void SettingsPage::ShowMessage(int textId, int captionId) const {
-  if (context_.dialogs) context_.dialogs->ShowMessage(window_, Text(textId), Text(captionId));
+  return textId ? TextOf(context_.language, static_cast<std::uint32_t>(textId)) : std::wstring();
 }
 
 }  // namespace tidewell

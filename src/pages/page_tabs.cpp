@@ -1,0 +1,64 @@
+#include "pages/page_tabs.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+
+namespace tidewell {
+
+namespace {
+
+struct IdCollector {
+  void operator()(const RowColumn& column) {
+    for (const Row& row : column.rows) {
+      ids.insert({row.labelId, row.controlId, row.clearId, row.browseId});
+    }
+  }
+  void operator()(const OptionList& list) {
+    const OptionEditor& e = list.editor;
+    ids.insert({list.listId, e.tipId, e.labelId, e.listId, e.checkId, e.pathId, e.clearPathId,
+                e.browseId, e.textId, e.clearTextId, e.orderId, e.upId, e.downId});
+  }
+  void operator()(const ItemList& list) {
+    ids.insert(list.listId);
+    for (const ItemButton& button : list.buttons) ids.insert(button.id);
+  }
+
+  std::set<int> ids;
+};
+
+struct RowCollector {
+  void operator()(const RowColumn& column) {
+    for (const Row& row : column.rows) rows.push_back(&row);
+  }
+  void operator()(const OptionList& list) {
+    for (const Option& option : list.options) rows.push_back(&option.editor);
+  }
+  void operator()(const ItemList&) {}
+
+  std::vector<const Row*> rows;
+};
+
+}  // namespace
+
+std::vector<int> PageTab::ControlIds() const {
+  IdCollector collector;
+  std::visit(std::ref(collector), body);
+  collector.ids.erase(0);
+  return {collector.ids.begin(), collector.ids.end()};
+}
+
+std::vector<const Row*> PageTab::Rows() const {
+  RowCollector collector;
+  std::visit(std::ref(collector), body);
+  return collector.rows;
+}
+
+PageTab RowTab(int titleId, std::initializer_list<Row> rows) {
+  RowColumn column;
+  std::copy_if(rows.begin(), rows.end(), std::back_inserter(column.rows),
+               [](const Row& row) { return row.present; });
+  return {titleId, std::move(column)};
+}
+
+}  // namespace tidewell

@@ -1,0 +1,84 @@
+// The tabs of a settings page as data. A tab has one body below its title: a column of rows, a list
+// of options with an editor above it, or a list of items.
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <variant>
+#include <vector>
+
+#include "pages/page_layout.h"
+#include "pages/page_rows.h"
+
+namespace tidewell {
+
+struct RowColumn {
+  std::vector<Row> rows;  // those that this device has
+};
+
+// The controls that the options of a page share, one set for all of its option lists. Of these an
+// option shows its tip and those of its row's kind; 0 stands for a control that no option needs.
+struct OptionEditor {
+  int tipId = 0;
+  int labelId = 0;
+  int listId = 0;
+  int checkId = 0;
+  int pathId = 0;
+  int clearPathId = 0;
+  int browseId = 0;
+  int textId = 0;
+  int clearTextId = 0;
+  int orderId = 0;
+  int upId = 0;
+  int downId = 0;
+};
+
+// A line of an option list. While it is selected `editor` is shown above the list, in the editor's
+// controls; when it is no longer, its setting has what they held.
+struct Option {
+  int lineTextId;
+  int tipTextId;  // 0: without a tip
+  Row editor;
+};
+
+struct OptionList {
+  int listId;
+  OptionEditor editor;
+  std::vector<Option> options;
+};
+
+enum class ListLook : std::uint8_t {
+  kPlain,
+  kTicked,  // with a box before each line
+  kIcons,   // with the icon of the folder that each line names
+};
+
+struct ItemButton {
+  int id;
+  int textId;
+  DesignPlace place;
+};
+
+// Items that the page's rules fill in, and buttons that do something to them.
+struct ItemList {
+  int listId;
+  ListLook look;
+  DesignPlace place;
+  std::vector<ItemButton> buttons;
+};
+
+struct PageTab {
+  int titleId;
+  std::variant<RowColumn, OptionList, ItemList> body;
+
+  // Of all its controls, whether this device has them or not. Ascending.
+  std::vector<int> ControlIds() const;
+  // The rows that show a setting of their own, the options' among them.
+  std::vector<const Row*> Rows() const;
+};
+using PageTabs = std::vector<PageTab>;
+
+// A column of those rows that this device has.
+PageTab RowTab(int titleId, std::initializer_list<Row> rows);
+
+}  // namespace tidewell

@@ -1,0 +1,28 @@
+// A list of items that the page's rules fill, with buttons beside or below it. Windows only.
+#pragma once
+
+#include <optional>
+
+#include "pages/windows/tab_body.h"
+#include "ui/file_icons.h"
+
+namespace tidewell {
+
+class ItemListBody final : public TabBody {
+ public:
+  ItemListBody(SettingsPage& page, Raise raise, const ItemList& list);
+
+  void Build() override;
+  void Show(int showCommand) override;
+  void LayOut() override;
+  void Store() override {}
+  bool SetLines(int listId, const std::vector<ListLine>& lines) override;
+
+ private:
+  void FitColumn() const;
+
+  const ItemList& list_;
+  std::optional<FileIcons> icons_;
+};
+
+}  // namespace tidewell

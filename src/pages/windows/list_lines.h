@@ -1,0 +1,18 @@
+// The lines of a list view, all at once. Windows only.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <vector>
+
+#include "pages/page_rules.h"
+
+namespace tidewell {
+
+std::vector<ListLine> LinesOf(HWND list);
+// Replaces all lines; none is selected. `imageOf` tells a line's image in the list's small icons.
+void ShowLines(HWND list, const std::vector<ListLine>& lines,
+               const std::function<int(const ListLine&)>& imageOf = {});
+
+}  // namespace tidewell

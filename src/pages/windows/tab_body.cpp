@@ -1,0 +1,52 @@
+#include "pages/windows/tab_body.h"
+
+#include "pages/windows/item_list_body.h"
+#include "pages/windows/option_list_body.h"
+#include "pages/windows/row_column_body.h"
+#include "ui/user_dialogs.h"
+
+namespace tidewell {
+
+bool TabBody::RunPathCommand(int id, int pathId, int clearId, int browseId,
+                             const Browse& browse) const {
+  if (id == clearId) {
+    page_.SetState(pathId, {});
+  } else if (id == browseId) {
+    UserDialogs* dialogs = page_.Context().dialogs;
+    if (!dialogs) return true;
+    const std::wstring present = page_.State(pathId).text;
+    const auto chosen = browse.pattern ? dialogs->ChooseFile(browse.title, present, browse.pattern)
+                                       : dialogs->ChooseFolder(browse.title, present);
+    if (!chosen) return true;
+    page_.SetState(pathId, ControlState::OfText(*chosen));
+  } else {
+    return false;
+  }
+  Tell(pathId, PageEventKind::kEdited);
+  return true;
+}
+
+namespace {
+
+struct BodyMaker {
+  std::unique_ptr<TabBody> operator()(const RowColumn& column) {
+    return std::make_unique<RowColumnBody>(page, std::move(raise), column);
+  }
+  std::unique_ptr<TabBody> operator()(const OptionList& list) {
+    return std::make_unique<OptionListBody>(page, std::move(raise), list);
+  }
+  std::unique_ptr<TabBody> operator()(const ItemList& list) {
+    return std::make_unique<ItemListBody>(page, std::move(raise), list);
+  }
+
+  SettingsPage& page;
+  TabBody::Raise raise;
+};
+
+}  // namespace
+
+std::unique_ptr<TabBody> MakeBody(const PageTab& tab, SettingsPage& page, TabBody::Raise raise) {
+  return std::visit(BodyMaker{page, std::move(raise)}, tab.body);
+}
+
+}  // namespace tidewell

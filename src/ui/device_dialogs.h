@@ -1,0 +1,27 @@
+// What the program asks the user, as message boxes and dialogs over the whole screen. Windows only.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "ui/full_screen_dialog.h"
+#include "ui/user_dialogs.h"
+
+namespace tidewell {
+
+class DeviceDialogs final : public UserDialogs {
+ public:
+  // `context` tells for each dialog what is beneath it then.
+  explicit DeviceDialogs(std::function<DialogContext()> context) : context_(std::move(context)) {}
+
+  void ShowMessage(const std::wstring& text, const std::wstring& caption) override;
+  std::optional<std::wstring> ChooseFolder(const std::wstring& title,
+                                           const std::wstring& present) override;
+  std::optional<std::wstring> ChooseFile(const std::wstring& title, const std::wstring& present,
+                                         const std::wstring& pattern) override;
+
+ private:
+  std::function<DialogContext()> context_;
+};
+
+}  // namespace tidewell

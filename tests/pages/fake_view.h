@@ -1,0 +1,121 @@
+// A page without a window: shows what its rows say, and is worked as a finger would.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+#include "pages/page_rules.h"
+#include "ui/user_dialogs.h"
+
+namespace tidewell {
+
+class FakeView final : public PageView {
+ public:
+  explicit FakeView(std::unique_ptr<PageRules> rules)
+      : rules_(std::move(rules)), tabs_(rules_->Tabs()) {
+    for (std::size_t tab = 0; tab < tabs_.size(); ++tab) {
+      for (const Row* row : tabs_[tab].Rows()) states_[row->controlId] = StateOf(*row);
+      for (const int id : tabs_[tab].ControlIds()) enabled_[id] = true;
+      rules_->OnBuilt(*this, static_cast<int>(tab));
+    }
+    Ask();
+  }
+
+  void Tap(int id) {
+    states_[id].checked = !states_[id].checked;
+    Tell({id, PageEventKind::kClicked});
+  }
+  // A line of a drop-down list.
+  void Choose(int id, int line) {
+    for (const PageTab& tab : tabs_) {
+      for (const Row* row : tab.Rows()) {
+        if (row->controlId == id && !row->choices.empty()) choices_[id] = row->choices;
+      }
+    }
+    SetState(id, ControlState::OfLine(line));
+    Tell({id, PageEventKind::kChosen});
+    Tell({id, PageEventKind::kChanged});
+  }
+  // The page closes.
+  void Close() {
+    for (const PageTab& tab : tabs_) {
+      for (const Row* row : tab.Rows()) tidewell::Store(*row, states_[row->controlId]);
+    }
+    rules_->Store(*this);
+  }
+  // Those of the ids from `first` to `last` that can be used.
+  std::vector<int> Enabled(int first, int last) const {
+    std::vector<int> ids;
+    for (auto at = enabled_.lower_bound(first); at != enabled_.upper_bound(last); ++at) {
+      if (at->second) ids.push_back(at->first);
+    }
+    return ids;
+  }
+  const Choices& ChoicesOf(int id) { return choices_[id]; }
+
+  ControlState State(int id) const override {
+    const auto found = states_.find(id);
+    return found == states_.end() ? ControlState() : found->second;
+  }
+  void SetState(int id, const ControlState& state) override {
+    states_[id] = state;
+    const auto line = static_cast<std::size_t>(state.selection);
+    if (line < choices_[id].size()) states_[id].data = choices_[id][line].data;
+  }
+  void SetChoices(int id, const Choices& choices) override { choices_[id] = choices; }
+  std::vector<ListLine> Lines(int listId) const override { return lines_.at(listId); }
+  void SetLines(int listId, const std::vector<ListLine>& lines) override { lines_[listId] = lines; }
+  int SelectedLine(int listId) const override { return selected_.at(listId); }
+  void SelectLine(int listId, int line) override { selected_[listId] = line; }
+  void MoveLine(int listId, bool up) override {
+    const int line = selected_[listId];
+    std::swap(lines_[listId].at(static_cast<std::size_t>(line)),
+              lines_[listId].at(static_cast<std::size_t>(up ? line - 1 : line + 1)));
+  }
+  void Repaint() override {}
+
+ private:
+  void Tell(const PageEvent& event) {
+    rules_->OnEvent(*this, event);
+    Ask();
+  }
+  void Ask() {
+    for (const Enabling& each : rules_->Enabled(*this)) {
+      const auto control = enabled_.find(each.id);
+      if (control != enabled_.end()) control->second = each.enabled;
+    }
+  }
+
+  std::unique_ptr<PageRules> rules_;
+  PageTabs tabs_;
+  std::map<int, ControlState> states_;
+  std::map<int, Choices> choices_;
+  std::map<int, std::vector<ListLine>> lines_;
+  std::map<int, int> selected_;
+  std::map<int, bool> enabled_;
+};
+
+// Answers in the user's place and keeps what was shown.
+class FakeDialogs final : public UserDialogs {
+ public:
+  void ShowMessage(const std::wstring& text, const std::wstring& caption) override {
+    shown.push_back(caption + L": " + text);
+  }
+  std::optional<std::wstring> ChooseFolder(const std::wstring& title,
+                                           const std::wstring& present) override {
+    shown.push_back(title + L": " + present);
+    return answer;
+  }
+  std::optional<std::wstring> ChooseFile(const std::wstring& title, const std::wstring& present,
+                                         const std::wstring& pattern) override {
+    shown.push_back(title + L": " + present + L", " + pattern);
+    return answer;
+  }
+
+  std::vector<std::wstring> shown;
+  std::optional<std::wstring> answer;
+};
+
+}  // namespace tidewell

@@ -1,0 +1,94 @@
+// What single pages do beyond their rows.
+#include "pages/page_rules.h"
+
+#include "pages/general_page.h"
+#include "pages/pim_page.h"
+#include "resources/text/text_ids.h"
+#include "tests/pages/fake_view.h"
+#include "tests/pages/page_fixture.h"
+
+namespace tidewell {
+namespace {
+
+using Ids = std::vector<int>;
+
+class GeneralRules : public PageFixture {};
+
+TEST_F(GeneralRules, GreyWhatCannotBeUsed) {
+  using namespace general_ids;
+  FakeView page(MakeGeneralPage(context));
+  EXPECT_EQ(page.Enabled(1206, 1210), Ids{1206});
+  page.Tap(kAutoHeight);
+  EXPECT_EQ(page.Enabled(1206, 1210), (Ids{1206, 1207, 1208, 1209, 1210}));
+  EXPECT_EQ(page.Enabled(1220, 1228), (Ids{1220, 1221, 1222, 1223, 1224, 1227, 1228}));
+  page.Choose(kDPadGroup, 1);
+  EXPECT_EQ(page.Enabled(1220, 1228), (Ids{1220, 1221, 1222, 1225, 1226, 1228}));
+  page.Tap(kDPadEnabled);
+  EXPECT_EQ(page.Enabled(1220, 1228), Ids{1220});
+}
+
+// A library without a name has no line, but a slot: here English has the second one.
+TEST_F(GeneralRules, StoreTheLanguageOfTheChosenSlot) {
+  const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\";
+  const auto visit = [&](std::size_t lines, int selection) {
+    FakeView page(MakeGeneralPage(context));
+    EXPECT_EQ(page.ChoicesOf(general_ids::kLanguage).size(), lines);
+    EXPECT_EQ(page.State(general_ids::kLanguage).selection, selection);
+    page.Close();
+    EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWEngRc.dll");
+  };
+  visit(0, 0);  // the present one stays where there is none to choose
+  const std::pair<const wchar_t*, MemoryLibraries::Texts> packs[] = {
+      {L"AAA.dll", {}},
+      {L"TWEngRc.dll", {{IDS_LANGUAGE_NAME, L"English"}}},
+      {L"TWGerRc.dll", {{IDS_LANGUAGE_NAME, L"Deutsch"}}}};
+  for (const auto& [name, texts] : packs) {
+    machine.files.Put(folder + name, "MZ");
+    machine.libraries.Put(folder + name, texts);
+  }
+  visit(2, 1);
+}
+
+class PimRules : public PageFixture {
+ protected:
+  DwordSetting& program() { return store.customPim.PimSw; }
+};
+
+TEST_F(PimRules, StoreAProgramAtOnceAndGreyWhatItDoesNotHave) {
+  InstallOtherPrograms();
+  FakeView page(MakePimPage(context));
+  struct Case {
+    int line;
+    std::uint32_t stored;
+    Ids enabled;
+  };
+  const Case cases[] = {{2, 1, {1206, 1207, 1209}},
+                        {3, 2, {1206, 1207, 1208, 1209}},
+                        {4, 3, {1206, 1207, 1209}},
+                        {0, 0, {1202, 1203, 1204, 1205}}};
+  for (const Case& c : cases) {
+    page.Choose(pim_ids::kProgram, c.line);
+    EXPECT_EQ(program().Value(), c.stored);
+    EXPECT_EQ(page.Enabled(1202, 1209), c.enabled);
+  }
+}
+
+TEST_F(PimRules, TakeTheCompanionOnlyWhereItIs) {
+  FakeDialogs dialogs;
+  context.dialogs = &dialogs;
+  program().Set(1);  // which is not there any more
+  FakeView page(MakePimPage(context));
+  EXPECT_EQ(page.State(pim_ids::kProgram).selection, 0);
+  page.Choose(pim_ids::kProgram, 1);
+  EXPECT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_EQ(page.State(pim_ids::kProgram).selection, 0);
+  EXPECT_EQ(program().Value(), 0u);
+  InstallCompanion();
+  page.Choose(pim_ids::kProgram, 1);
+  EXPECT_EQ(dialogs.shown.size(), 1u);
+  EXPECT_EQ(program().Value(), 4u);
+  EXPECT_EQ(page.Enabled(1202, 1209), (Ids{1206, 1207, 1209}));
+}
+
+}  // namespace
+}  // namespace tidewell
