@@ -1,0 +1,173 @@
+// Writes docs/pages.md, what the settings pages show: pages_table FILE TEXT_IDS, the latter being
+// the header that has the English texts.
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include "pages/page_list.h"
+#include "platform/memory/memory_machine.h"
+#include "platform/text.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr const wchar_t* kIntroduction =
+    LR"(# The settings pages
+
+*Written by the program `pages_table` from the pages in `src/pages/`; a test fails when this page is
+older than they are. Change a page, then run `cmake --build --preset host --target pages_table &&
+build/host/tools/pages_table docs/pages.md resources/text/text_ids.h`.*
+
+The pages as a VGA device has them that has every other program installed, on 14 March 2008, in
+English. `position` stores the chosen line, counted from 0; `number` and `name` store what is chosen
+or typed. Numbers are those of the controls: the label, the control, its two buttons.
+)";
+
+// "#define IDS_NAME 617  // Text" gives the text to the number.
+MemoryLibraries::Texts ReadTexts(const char* path) {
+  MemoryLibraries::Texts texts;
+  std::ifstream file(path);
+  for (std::string line; std::getline(file, line);) {
+    unsigned id = 0;
+    const auto comment = line.find("// ");
+    if (comment == std::string::npos || std::sscanf(line.c_str(), "#define %*s %u", &id) != 1) {
+      continue;
+    }
+    texts[id] = std::wstring(line.begin() + static_cast<std::ptrdiff_t>(comment) + 3, line.end());
+  }
+  return texts;
+}
+
+std::wstring Code(const std::wstring& text) {
+  return L"`" + text + L"`";
+}
+
+const wchar_t* KindOf(const Row& row) {
+  switch (row.stored) {
+    case Stored::kState:
+      return L"check";
+    case Stored::kPosition:
+      return L"position";
+    case Stored::kData:
+      return L"number of the line";
+    case Stored::kName:
+      return L"name";
+    case Stored::kNumber:
+      return L"number";
+    case Stored::kText:
+      return row.kind == RowKind::kPath ? L"path" : L"text";
+    case Stored::kByRules:
+      return L"filled by the page";
+    case Stored::kNothing:
+      return L"not stored";
+  }
+  return L"";
+}
+
+class PagesWriter {
+ public:
+  explicit PagesWriter(const ResourceLibrary* language) : language_(language) {}
+
+  void Page(const PageEntry& page, const PageTabs& tabs) {
+    text_ += L"\n## " + Text(page.captionId) + L" (" + Code(page.className) + L")\n";
+    for (const PageTab& tab : tabs) Tab(tab);
+  }
+  std::wstring Take() { return std::move(text_); }
+
+ private:
+  std::wstring Text(int id) const { return TextOf(language_, static_cast<std::uint32_t>(id)); }
+
+  void Tab(const PageTab& tab) {
+    text_ += L"\n### " + Text(tab.titleId) +
+             L"\n\n| Text | Controls | Stored | Value | Choices |\n|---|---|---|---|---|\n";
+    for (const Row* row : tab.Rows()) {
+      text_ += L"| " + Text(row->textId) + L" | " + Controls(*row) + L" | " + KindOf(*row) +
+               L" | " + Value(*row) + L" | " + ChoicesOf(*row) + L" |\n";
+    }
+  }
+
+  static std::wstring Controls(const Row& row) {
+    std::wstring ids;
+    for (const int id : {row.labelId, row.controlId, row.clearId, row.browseId}) {
+      if (id) ids += (ids.empty() ? L"" : L", ") + FormatDecimal(id);
+    }
+    return ids;
+  }
+
+  static std::wstring Value(const Row& row) {
+    const Setting* setting = row.number;
+    if (row.text) setting = row.text;
+    if (!setting) return {};
+    const std::wstring key = LocationOf(setting->Key()).path;
+    return Code(key.substr(key.rfind(L'\\') + 1) + L"\\" + setting->Name());
+  }
+
+  std::wstring ChoicesOf(const Row& row) const {
+    std::wstring listed;
+    for (const Choice& choice : row.choices) {
+      const std::wstring number = FormatDecimal(static_cast<std::int32_t>(choice.data));
+      const std::wstring text = choice.TextIn(language_);
+      listed += (listed.empty() ? L"" : L", ") + text;
+      if (row.stored == Stored::kData && text != number) listed += L" = " + number;
+    }
+    if (row.otherwise != kNoChoice) {
+      listed += L"; else line " + FormatDecimal(row.otherwise);
+      if (row.ofNoChoice == 0) listed += L", without one 0";
+    }
+    return listed;
+  }
+
+  const ResourceLibrary* language_;
+  std::wstring text_;
+};
+
+void InstallOtherPrograms(Registry& registry) {
+  const std::tuple<RegistryRoot, const wchar_t*, const wchar_t*> programs[] = {
+      {RegistryRoot::kCurrentUser, L"Software\\WebIS\\PocketInformant", L"version"},
+      {RegistryRoot::kCurrentUser, L"Software\\Developer One\\Agenda One", L"InstallPath"},
+      {RegistryRoot::kLocalMachine, L"Software\\Developer One, Inc.\\Agenda Fusion", L"VerMajor"},
+  };
+  for (const auto& [root, key, value] : programs) {
+    registry.Create(root, key)->Set(value, kTypeString, {});
+  }
+}
+
+// Markdown in plain ASCII, lines ended by a line feed.
+std::string PagesDocument(const char* textIds) {
+  MemoryMachine machine;
+  machine.system.screen = {480, 640, 192, 192};
+  machine.libraries.Put(L"English", ReadTexts(textIds));
+  InstallOtherPrograms(machine.registry);
+  Machine door = machine.Door();
+  SettingsStore store;
+  CategoryCatalog categories(door, store);
+  const auto language = machine.libraries.Load(L"English");
+  PageContext context{door, store, categories, language.get(), ScreenScale(192, 192, false)};
+  PagesWriter writer(language.get());
+  for (const PageEntry& page : kPages) {
+    if (page.make) writer.Page(page, page.make(context)->Tabs());
+  }
+  const std::wstring text = kIntroduction + writer.Take();
+  return {text.begin(), text.end()};
+}
+
+bool WriteFile(const char* path, const std::string& bytes) {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path, "wb"), &std::fclose);
+  return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+}
+
+}  // namespace
+
+}  // namespace tidewell
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fputs("usage: pages_table FILE TEXT_IDS\n", stderr);
+    return 2;
+  }
+  if (tidewell::WriteFile(argv[1], tidewell::PagesDocument(argv[2]))) return 0;
+  std::perror(argv[1]);
+  return 1;
+}
