@@ -1,0 +1,128 @@
+// The bodies of tabs that no page of rows has: a list of options with its editor, a list of items.
+#include <gmock/gmock.h>
+
+#include "pages/windows/rules_page.h"
+#include "resources/text/text_ids.h"
+#include "tests/pages/page_host.h"
+
+namespace tidewell {
+namespace {
+
+enum : int { kOptions = 1300, kItems, kUp, kTip, kLabel, kList, kCheck, kPath, kClear, kBrowse };
+const OptionEditor kEditor{kTip, kLabel, kList, kCheck, kPath, kClear, kBrowse, 0, 0, 0, 0, 0};
+
+class SampleRules final : public PageRules {
+ public:
+  SampleRules(PageContext& context, std::vector<PageEvent>& heard)
+      : context_(context), heard_(heard) {}
+
+  PageTabs Tabs() override {
+    MessagesSettings& s = context_.settings.messages;
+    return {{IDS_PAGE_TAB_GENERAL,
+             OptionList{
+                 kOptions,
+                 kEditor,
+                 {{IDS_GROUP_TASKS, IDS_ON_TAP, Check(0, IDS_TAP_OPENS, s.MsgsOpenOnClick)},
+                  {IDS_GROUP_NOTES, 0,
+                   DataList(0, 0, IDS_DIVIDER, s.MsgsBreakLineStyle, Numbers(1, 3, 1))},
+                  {IDS_GROUP_FONTS, IDS_SKIN_FOLDER,
+                   Path(0, 0, 0, 0, 0, context_.settings.root.SkinPath, {L"Choose", L"*.exe"})}}}},
+            {IDS_PAGE_TAB_DISPLAY, ItemList{kItems,
+                                            ListLook::kTicked,
+                                            {10, 8, -100, 28},
+                                            {{kUp, IDS_MOVE_UP, {-85, 8, 75, 20}}}}}};
+  }
+  void OnBuilt(PageView& view, int tab) override {
+    if (tab == 1) view.SetLines(kItems, {{L"One", 1}, {L"Two", 2, true}});
+  }
+  void OnEvent(PageView& view, const PageEvent& event) override {
+    heard_.push_back(event);
+    if (event.id == kUp) view.MoveLine(kItems, true);
+  }
+  std::vector<Enabling> Enabled(const PageView& view) const override {
+    return {{kUp, view.SelectedLine(kItems) > 0}};
+  }
+  void Store(const PageView& view) override { lines = view.Lines(kItems); }
+
+  static inline std::vector<ListLine> lines;
+
+ private:
+  PageContext& context_;
+  std::vector<PageEvent>& heard_;
+};
+
+class TabBodies : public PageHost {
+ protected:
+  void SetUp() override {
+    auto page =
+        std::make_unique<RulesPage>(context, std::make_unique<SampleRules>(context, heard_));
+    ASSERT_TRUE(page->Create(host_.Get(), L"SampleWin", L"Sample"));
+    page_ = std::move(page);
+  }
+  void Select(int list, int line) const {
+    ListView_SetItemState(Control(list), line, LVIS_SELECTED, LVIS_SELECTED);
+  }
+  std::vector<int> ShownParts() const {
+    std::vector<int> ids;
+    for (int id = kTip; id <= kBrowse; ++id) {
+      if (IsShown(id)) ids.push_back(id);
+    }
+    return ids;
+  }
+
+  std::vector<PageEvent> heard_;
+};
+
+using Ids = std::vector<int>;
+
+TEST_F(TabBodies, AnOptionIsEditedWhileItIsSelectedAndStoredWhenItIsNoLonger) {
+  MessagesSettings& s = store.messages;
+  s.MsgsBreakLineStyle.Set(2);
+  EXPECT_EQ(ShownParts(), Ids());
+  Select(kOptions, 0);
+  EXPECT_EQ(ShownParts(), (Ids{kTip, kCheck}));
+  EXPECT_EQ(TextOfControl(kTip), L"On a tap");
+  TapControl(kCheck);
+  EXPECT_EQ(s.MsgsOpenOnClick.Value(), 0u);
+  Select(kOptions, 1);
+  EXPECT_EQ(s.MsgsOpenOnClick.Value(), 1u);
+  EXPECT_EQ(ShownParts(), (Ids{kLabel, kList}));
+  EXPECT_EQ(Selection(kList), 1);
+  Choose(kList, 2);
+  Select(kOptions, 2);
+  EXPECT_EQ(s.MsgsBreakLineStyle.Value(), 3u);
+  dialogs_.answer = L"\\mail.exe";
+  TapControl(kBrowse);
+  EXPECT_THAT(dialogs_.shown, testing::ElementsAre(L"Choose: , *.exe"));
+  Turn(1);
+  EXPECT_EQ(store.root.SkinPath.Value(), L"\\mail.exe");
+  EXPECT_EQ(ShownParts(), Ids());
+  Turn(0);
+  Select(kOptions, 0);
+  TapControl(kCheck);
+  Close();
+  EXPECT_EQ(s.MsgsOpenOnClick.Value(), 0u) << "the page closes while it is selected";
+}
+
+TEST_F(TabBodies, ItemsAreTickedMovedAndToldOfAndAMissingControlStoresNothing) {
+  Turn(1);
+  EXPECT_FALSE(IsWindowEnabled(Control(kUp)));
+  Select(kItems, 1);
+  heard_.clear();
+  TapControl(kUp);
+  const std::vector<PageEvent> expected{{kUp, PageEventKind::kClicked}};
+  EXPECT_EQ(heard_, expected) << "not what the rules did themselves";
+  ListView_SetCheckState(Control(kItems), 1, TRUE);
+  EXPECT_EQ(heard_.back(), (PageEvent{kItems, PageEventKind::kTicked, 1}));
+  store.messages.MsgsBreakLineStyle.Set(2);
+  Turn(0);
+  Select(kOptions, 1);
+  DestroyWindow(Control(kList));
+  Close();
+  EXPECT_EQ(store.messages.MsgsBreakLineStyle.Value(), 2u);
+  const std::vector<ListLine> lines{{L"Two", 2, true}, {L"One", 1, true}};
+  EXPECT_EQ(SampleRules::lines, lines);
+}
+
+}  // namespace
+}  // namespace tidewell
