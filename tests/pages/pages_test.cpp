@@ -121,7 +121,7 @@ TEST_P(EachPage, LeavesSettingsAloneWhoseControlsWereNotMade) {
     if (row->number) row->number->Set(7);
     if (row->text) row->text->Set(L"kept");
   }
-  for (const int first : {table_[0].firstId, table_[1].firstId + 1}) {
+  for (const int first : {tabs_[0].ControlIds()[0], tabs_[1].ControlIds()[0] + 1}) {
     const WithoutControls refused(first);
     Open(GetParam());
     Turn(1);
