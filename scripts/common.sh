@@ -33,12 +33,12 @@ program_packages=(
   g++-mingw-w64-x86-64-posix        # the compiler for Windows, with real threads
   librsvg2-bin imagemagick          # the artwork, and pictures of the screen
   wine64 fonts-wine                 # the stand-in for a device
+  fonts-dejavu-extra                # its letters at 96 dots per inch
   xvfb                              # a screen where there is none
 )
 test_packages=(
   g++ googletest                    # the core, native
   clang libclang-rt-14-dev          # the fuzz targets
-  clang-format clang-tidy           # the lint
   clang-format clang-tidy           # the lint
 )
 

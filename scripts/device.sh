@@ -42,6 +42,7 @@ use_device() {
   [[ -d $prefix ]] || copy_template
   at_exit stop_device
   start_server
+  tell_device
 }
 
 # The server that stays, and Wine's services, started with no stream of ours: they would keep a
@@ -49,6 +50,15 @@ use_device() {
 start_server() {
   env "${wine_environment[@]}" "$wineserver64" -p </dev/null >/dev/null 2>&1 {device_lock}>&-
   in_wine wineboot </dev/null >/dev/null 2>&1 || fail "Wine does not start in build/wine."
+}
+
+# Gives the prefix what scripts/device.reg says, unless it has been told already.
+tell_device() {
+  cmp -s "$root/scripts/device.reg" "$prefix/device.reg" && return
+  # In the place of the file, which the prefix may share with the template.
+  cp --remove-destination "$root/scripts/device.reg" "$prefix/"
+  in_wine reg import "Z:$prefix/device.reg" </dev/null >/dev/null 2>&1 ||
+    fail "Wine's registry does not take scripts/device.reg."
 }
 
 stop_device() {
@@ -87,11 +97,9 @@ make_template() {
   (cd "$prefix" && env -u DISPLAY "${wine_environment[@]}" "$wine64" wineboot -i) \
     </dev/null >"$logs/wineboot.log" 2>&1 {device_lock}>&- ||
     fail "Wine could not make a prefix; build/logs/wineboot.log tells why."
-  # Wine does not look into Debian's package of its own fonts; without them Tahoma is another face.
+  # Wine does not look into Debian's package of its own fonts.
   ln -sf /usr/share/wine/fonts/*.ttf "$prefix/drive_c/windows/Fonts/"
-  cp "$root/scripts/device.reg" "$prefix/"
-  in_wine reg import "Z:$prefix/device.reg" </dev/null >/dev/null 2>&1 ||
-    fail "Wine's registry does not take scripts/device.reg."
+  tell_device
   stop_device
   rm -rf "$build/wine/template"
   mv "$prefix" "$build/wine/template"
@@ -120,20 +128,20 @@ use_screen() {
   esac
   in_wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$screen_dpi" /f \
     </dev/null >/dev/null 2>&1
-  use_bold_face
+  use_letters
 }
 
-# Wine's own bold Tahoma is bold in its bitmaps for small sizes alone; in large sizes it is as thin
-# as the regular face. Without it Wine thickens the regular face itself, which suits a VGA screen.
-use_bold_face() {
-  local face=$prefix/drive_c/windows/Fonts/tahomabd.ttf
-  if ((screen_dpi > 96)); then
-    [[ -L $face ]] || return 0
-    rm "$face"
-  else
-    [[ ! -L $face ]] || return 0
-    ln -s /usr/share/wine/fonts/tahomabd.ttf "$face"
-  fi
+# Whose letters the device's face, Tahoma, has. At 96 dots per inch Wine's own Tahoma is drawn from
+# bitmaps of other widths than those that it is measured with; where it is absent, the face that
+# scripts/device.reg names takes its place. On a VGA screen its outlines are drawn as they measure,
+# but its bold face is as thin as the regular one, which Wine thickens itself without it.
+use_letters() {
+  local fonts=$prefix/drive_c/windows/Fonts wanted=no there=no
+  ((screen_dpi <= 96)) || wanted=yes
+  [[ ! -L $fonts/tahoma.ttf ]] || there=yes
+  [[ $wanted != "$there" || -L $fonts/tahomabd.ttf ]] || return 0
+  rm -f "$fonts/tahoma.ttf" "$fonts/tahomabd.ttf"
+  [[ $wanted == no ]] || ln -s /usr/share/wine/fonts/tahoma.ttf "$fonts/"
   in_wine reg delete 'HKCU\Software\Wine\Fonts\Cache' /f </dev/null >/dev/null 2>&1 || true
 }
 
