@@ -9,6 +9,7 @@
 #include "app/resource.h"
 #include "app/settings_changed.h"
 #include "app/single_instance.h"
+#include "platform/desktop/device_shell.h"
 #include "platform/text.h"
 #include "platform/window_owner.h"
 #include "resources/art/bitmap_ids.h"
@@ -111,6 +112,7 @@ LRESULT MainWindow::OnCreate() {
   activation_.cbSize = sizeof activation_;
   FixScale();
   settings_.Load(machine_, scale_, language_);
+  NameMessageBoxKeys();
   LoadPictures();
   // The preview's icons belong here: after the pictures, before the fonts.
   CreateFonts();
@@ -147,6 +149,13 @@ void MainWindow::FixScale() {
 void MainWindow::LoadPictures() {
   const wchar_t* file = scale_.ScaleX(1) < 2 ? L"\\LowDpiRes.dll" : L"\\HighDpiRes.dll";
   pictures_ = machine_.libraries.Load(settings_.installFolder + file);
+}
+
+// A device's message boxes have words of their own.
+void MainWindow::NameMessageBoxKeys() {
+  const ResourceLibrary* texts = language_.get();
+  SetMessageBoxWords({TextOf(texts, IDS_OK), TextOf(texts, IDS_CANCEL), TextOf(texts, IDS_YES),
+                      TextOf(texts, IDS_NO)});
 }
 
 void MainWindow::CreateFonts() {

@@ -73,6 +73,7 @@ class MainWindow {
   LRESULT OnCommand(int id);
 
   void FixScale();
+  void NameMessageBoxKeys();
   void LoadPictures();
   void CreateFonts();
   void LoadCategories();

@@ -50,7 +50,7 @@ TEST(GermanLibrary, LeavesNothingUntranslated) {
   EXPECT_THAT(same, testing::UnorderedElementsAre(
                         IDS_GROUP_PIM, IDS_GROUP_TABS, IDS_COLOR_AUTOMATIC, IDS_PIM_COMPANION,
                         IDS_PIM_POCKET_INFORMANT, IDS_PIM_AGENDA_FUSION, IDS_PIM_AGENDA_ONE,
-                        IDS_TABS_POSITION, IDS_TABS_STYLE_TEXT, IDS_PLUGIN_LABEL));
+                        IDS_TABS_POSITION, IDS_TABS_STYLE_TEXT, IDS_PLUGIN_LABEL, IDS_OK));
 }
 
 }  // namespace

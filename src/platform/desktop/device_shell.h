@@ -7,10 +7,23 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace tidewell {
 
 // Call once, before the thread's first window.
 void InstallDeviceShell();
+
+// What stands on the keys of message boxes.
+struct MessageBoxWords {
+  std::wstring ok;
+  std::wstring cancel;
+  std::wstring yes;
+  std::wstring no;
+};
+
+// For every message box from now on; English until it is called, and where a word is empty.
+void SetMessageBoxWords(const MessageBoxWords& words);
 
 // Turns the screen between portrait and landscape; every window hears what a device tells it. On a
 // desktop that is larger than a device's screen only the program's own room turns.

@@ -12,7 +12,6 @@ constexpr COLORREF kStripTop = RGB(62, 82, 108);
 constexpr COLORREF kStripBottom = RGB(36, 50, 70);
 constexpr COLORREF kPressedTop = RGB(86, 114, 150);
 constexpr COLORREF kPressedBottom = RGB(62, 86, 118);
-constexpr COLORREF kStripEdge = RGB(24, 34, 50);
 
 // One pixel of a 32-bit picture whose channels are already multiplied with their coverage.
 DWORD PremultipliedPixel(COLORREF colour, double coverage) {

@@ -8,7 +8,6 @@
 #include "platform/desktop/device_room.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/desktop/drop_list.h"
-#include "platform/desktop/message_box.h"
 #include "platform/desktop/shell_look.h"
 
 namespace tidewell {
@@ -98,9 +97,9 @@ void ShellWindows::InstallHooks() {
 LRESULT CALLBACK ShellWindows::CreationHook(int code, WPARAM wParam, LPARAM lParam) {
   if (code == HCBT_CREATEWND) {
     const CREATESTRUCTW& created = *reinterpret_cast<CBT_CREATEWNDW*>(lParam)->lpcs;
-    if (HasShellCaption(created)) Instance().Adopt(reinterpret_cast<HWND>(wParam));
-    WatchForMessageBox(reinterpret_cast<HWND>(wParam), created);
-    WatchForDropList(reinterpret_cast<HWND>(wParam), created);
+    const auto window = reinterpret_cast<HWND>(wParam);
+    if (HasShellCaption(created)) Instance().Adopt(window);
+    WatchForDropList(window, created);
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
