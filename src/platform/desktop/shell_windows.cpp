@@ -9,6 +9,7 @@
 #include "platform/desktop/device_shell.h"
 #include "platform/desktop/drop_list.h"
 #include "platform/desktop/shell_look.h"
+#include "platform/desktop/tab_row.h"
 
 namespace tidewell {
 
@@ -100,6 +101,7 @@ LRESULT CALLBACK ShellWindows::CreationHook(int code, WPARAM wParam, LPARAM lPar
     const auto window = reinterpret_cast<HWND>(wParam);
     if (HasShellCaption(created)) Instance().Adopt(window);
     WatchForDropList(window, created);
+    if (!TabRow::Attend(window, created)) return 1;  // which prevents it
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
