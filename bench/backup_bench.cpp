@@ -46,7 +46,7 @@ std::wstring TextOfTree(const std::wstring& root, int keys) {
 bool Import(Registry& registry, CategoryCatalog& catalog, std::span<const std::byte> bytes) {
   BytesSource source(bytes);
   TextReader reader(source);
-  return ImportRegistryText(registry, catalog, reader);
+  return ImportRegistryText(registry, catalog, reader) == TextImport::kWhole;
 }
 
 bool Export(Registry& registry, const std::wstring& path) {

@@ -28,7 +28,7 @@
 #define IDS_TAB_SPECIAL_EVENTS 1420  // Special events
 
 // Export and import; the path follows the first text, in quotes.
-#define IDS_EXPORT_DONE 607            // The settings were exported to
+#define IDS_EXPORT_DONE 607            // Backup of the settings:
 #define IDS_EXPORT_DONE_CAPTION 608    // Export finished
 #define IDS_IMPORT_FAILED 609          // This file cannot be read as a settings backup.
 #define IDS_IMPORT_FAILED_CAPTION 610  // Import failed
@@ -205,3 +205,14 @@
 #define IDS_OK 2060                 // OK
 #define IDS_YES 2061                // Yes
 #define IDS_NO 2062                 // No
+
+// Export and import: what follows the texts above, and the questions before an import. A path, a
+// name or a key follows the texts that end without a full stop, in quotes.
+#define IDS_EXPORT_NOT_WRITTEN 2030      // It could not be written. An earlier file is unchanged.
+#define IDS_IMPORT_NOTHING_CHANGED 2031  // Nothing was changed.
+#define IDS_IMPORT_IN_PART 2032          // The settings were replaced in part.
+#define IDS_IMPORT_GO_BACK 2033          // To go back, import
+#define IDS_IMPORT_OUTSIDE 2034          // This file also changes settings of other programs,...
+#define IDS_IMPORT_OUTSIDE_QUESTION 2035  // There is no copy of these. Import all the same?
+#define IDS_IMPORT_NO_COPY_QUESTION 2036  // The present settings could not be copied...
+#define IDS_IMPORT_QUESTION_CAPTION 2037  // Import Settings

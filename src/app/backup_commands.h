@@ -44,7 +44,11 @@ struct BackupCommands {
 
  private:
   bool Choose(HWND owner, FileNameRequest& request);
-  void Say(HWND owner, std::wstring text, unsigned captionId);
+  std::wstring Text(unsigned id) const;
+  void Say(HWND owner, const std::wstring& text, unsigned captionId);
+  bool Confirm(HWND owner, const std::wstring& question);
+  ImportQuestions Questions(HWND owner);
+  void SayReplacedInPart(HWND owner, const std::wstring& copy);
 };
 
 }  // namespace tidewell

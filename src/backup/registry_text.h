@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,36 +15,46 @@ namespace tidewell {
 
 inline constexpr std::wstring_view kProductKey = L"Software\\Velmont\\Tidewell";
 
-// What the writer takes along. A string that does not fit the data capacity ends the list of its
-// key's values; a value, a record or a key with its subkeys whose line does not fit is left out.
-struct TextLimits {
-  std::uint32_t dataCapacity;  // bytes of a value's data, a string's terminating zero included
-  std::size_t lineCapacity;    // units of a line, its line end included
-};
-inline constexpr TextLimits kBackupLimits{256, 800};
-// For copies that must hold what a backup leaves out: strings of up to 900 units, as far as the
-// reader takes a line in one piece.
-inline constexpr TextLimits kCopyLimits{2 * (900 + 1), TextReader::kLineCapacity};
+// A backup takes along what its format has room for: names of up to 255 units, data of up to
+// kBackupDataCapacity bytes (the first value of a key that has more ends the list), lines of up to
+// kBackupLineCapacity units. A copy takes along everything, whatever its type and its size; a
+// second line of its own tells its reader so.
+enum class TextKind : std::uint8_t { kBackup, kCopy };
+inline constexpr std::uint32_t kBackupDataCapacity = 256;  // a string's terminating zero included
+inline constexpr std::size_t kBackupLineCapacity = 800;    // the line end included
+// The line that makes a text a copy, right behind the empty one.
+inline constexpr std::wstring_view kCopyMark = L"Tidewell settings, everything, 1\n";
 
-// The tree of `keyPath` (below the current user), then the categories, then the filters. Whether
-// everything was written the stream tells.
-void ExportRegistryText(Registry& registry, const CategoryCatalog& catalog,
+// The tree of `keyPath` (below the current user), then the categories, then the filters. False when
+// something was not to be read that belongs there: for a backup the key itself, for a copy
+// anything. Whether everything was written the stream tells.
+bool ExportRegistryText(Registry& registry, const CategoryCatalog& catalog,
                         const std::wstring& keyPath, TextWriter& stream,
-                        TextLimits limits = kBackupLimits);
+                        TextKind kind = TextKind::kBackup);
 // Creates the key when it is missing.
-void WriteKeyTree(Registry& registry, const std::wstring& keyPath, TextWriter& stream,
-                  TextLimits limits = kBackupLimits);
+bool WriteKeyTree(Registry& registry, const std::wstring& keyPath, TextWriter& stream,
+                  TextKind kind = TextKind::kBackup);
 void WriteCategoriesSection(const CategoryCatalog& catalog, TextWriter& stream,
-                            TextLimits limits = kBackupLimits);
+                            TextKind kind = TextKind::kBackup);
 void WriteFiltersSection(const CategoryCatalog& catalog, TextWriter& stream,
-                         TextLimits limits = kBackupLimits);
+                         TextKind kind = TextKind::kBackup);
 
-// False, and nothing changed, unless the text can be read from its start and begins with an empty
-// line.
-bool IsRegistryText(TextReader& stream);
+struct TextSurvey {
+  // It can be read from its start and begins with an empty line.
+  bool isRegistryText = false;
+  // The first key that an import would write to outside the product's own.
+  std::optional<std::wstring> outsideKey;
+};
+// What an import of the text would do, found without changing anything.
+TextSurvey SurveyRegistryText(TextReader& stream);
 
-// Reads the whole text into the registry and the catalogue's records, in memory only for those.
-// False when it is no registry text, or when a key cannot be created: what was read before stays.
-bool ImportRegistryText(Registry& registry, CategoryCatalog& catalog, TextReader& stream);
+// How far an import came.
+enum class TextImport : std::uint8_t {
+  kRefused,  // no registry text, or a key that cannot be created before anything was changed
+  kInPart,   // a key that cannot be created; what was read before it stays
+  kWhole,
+};
+// Reads the text into the registry and the catalogue's records, in memory only for those.
+TextImport ImportRegistryText(Registry& registry, CategoryCatalog& catalog, TextReader& stream);
 
 }  // namespace tidewell

@@ -1,15 +1,40 @@
 #include "backup/settings_backup.h"
 
+#include <optional>
+
+#include "backup/copy_names.h"
 #include "backup/text_stream.h"
 #include "platform/replacement_file.h"
+#include "platform/text.h"
 
 namespace tidewell {
 
 namespace {
 
-// With the final backslash, empty for a bare name.
-std::wstring FolderOf(const std::wstring& path) {
-  return path.substr(0, path.rfind(L'\\') + 1);
+// More than any registry holds, and still small enough to be read.
+constexpr std::uint64_t kLargestCopy = 16 * kLargestBackup;
+
+bool BeginsAsCopy(Files& files, const std::wstring& path) {
+  const std::vector<std::byte> wanted = BytesOf(L'\n' + std::wstring(kCopyMark));
+  std::vector<std::byte> start(wanted.size());
+  const std::unique_ptr<InputStream> input = files.OpenForReading(path);
+  return input && input->Read(start) == wanted.size() && start == wanted;
+}
+
+bool IsTooLarge(Files& files, const std::wstring& path) {
+  const std::optional<FileEntry> entry = files.Find(path);
+  if (!entry || entry->size <= kLargestBackup) return false;
+  return entry->size > kLargestCopy || !BeginsAsCopy(files, path);
+}
+
+// What is named like a copy, and a little more.
+std::vector<std::wstring> CopiesIn(Files& files, const std::wstring& folder) {
+  std::vector<std::wstring> names;
+  files.List(folder + std::wstring(kCopyPattern), [&](const FileEntry& entry) {
+    names.push_back(entry.name);
+    return true;
+  });
+  return names;
 }
 
 }  // namespace
@@ -19,33 +44,79 @@ std::wstring SettingsBackup::DefaultExportName() const {
 }
 
 bool SettingsBackup::ExportTo(const std::wstring& path) const {
-  return Write(path, kBackupLimits);
-}
-
-bool SettingsBackup::Write(const std::wstring& path, TextLimits limits) const {
   ReplacementFile file(machine_.files, path);
   if (!file.Stream()) return false;
   TextWriter text(*file.Stream());
-  ExportRegistryText(machine_.registry, catalog_, std::wstring(kProductKey), text, limits);
-  return text.Flush() && file.Commit();
+  return ExportRegistryText(machine_.registry, catalog_, std::wstring(kProductKey), text) &&
+         text.Flush() && file.Commit();
 }
 
-ImportResult SettingsBackup::ImportFrom(const std::wstring& path, const ScreenScale& scale,
-                                        std::unique_ptr<ResourceLibrary>& language) {
-  // Read whole before the copy is written: the copy itself may be the file to import.
+SettingsBackup::Copy SettingsBackup::WriteCopy(const std::wstring& folder) const {
+  const std::wstring name = NextCopyName(machine_.locale.Now(), CopiesIn(machine_.files, folder));
+  ReplacementFile file(machine_.files, folder + name);
+  if (!file.Stream()) return {};
+  TextWriter text(*file.Stream());
+  const bool isWhole = ExportRegistryText(machine_.registry, catalog_, std::wstring(kProductKey),
+                                          text, TextKind::kCopy);
+  if (!text.Flush() || !file.CommitAsNew()) return {};
+  return {name, isWhole};
+}
+
+ImportOutcome SettingsBackup::ImportFrom(const std::wstring& path, const ImportQuestions& questions,
+                                         const ScreenScale& scale,
+                                         std::unique_ptr<ResourceLibrary>& language) {
+  if (IsTooLarge(machine_.files, path)) return {};
+  // Read whole before anything is changed: the card that holds it may be drawn out.
   const auto bytes = ReadWholeFile(machine_.files, path);
-  if (!bytes) return ImportResult::kUnreadable;
+  if (!bytes) return {};
   BytesSource source(*bytes);
   TextReader text(source);
-  // What is no backup changes nothing, so it must not cost the copy of an import before.
-  if (!IsRegistryText(text)) return ImportResult::kRejected;
-  Write(FolderOf(path) + kBeforeImportName, kCopyLimits);
+  const std::wstring folder = FolderOf(path);
+  const ImportOutcome outcome = ImportFrom(text, folder, questions);
+  if (outcome.result != ImportResult::kDone) return outcome;
 
-  if (!ImportRegistryText(machine_.registry, catalog_, text)) return ImportResult::kRejected;
   store_.Load(machine_, scale, language);
   catalog_.SaveCategoryValues();
   catalog_.SaveFiltersFile();
-  return ImportResult::kDone;
+  RemoveOldCopies(folder, outcome.copy);
+  return outcome;
+}
+
+ImportOutcome SettingsBackup::ImportFrom(TextReader& text, const std::wstring& folder,
+                                         const ImportQuestions& questions) const {
+  const TextSurvey survey = SurveyRegistryText(text);
+  if (!survey.isRegistryText) return {};
+  if (survey.outsideKey && !questions.writesOutside(*survey.outsideKey)) {
+    return {ImportResult::kDeclined, {}};
+  }
+
+  const Copy copy = WriteCopy(folder);
+  const auto leaveAll = [&](ImportResult result) {
+    if (!copy.name.empty()) machine_.files.Remove(folder + copy.name);
+    return ImportOutcome{result, {}};
+  };
+  if (!copy.isWhole && !questions.lacksCopy()) return leaveAll(ImportResult::kDeclined);
+
+  switch (ImportRegistryText(machine_.registry, catalog_, text)) {
+    case TextImport::kRefused:
+      return leaveAll(ImportResult::kRefused);
+    case TextImport::kInPart:
+      return {ImportResult::kReplacedInPart, copy.name};
+    case TextImport::kWhole:
+      break;
+  }
+  return {ImportResult::kDone, copy.name};
+}
+
+// The one of this import counts as the newest, whatever the clock says: a battery that ran empty
+// sets it back by years.
+void SettingsBackup::RemoveOldCopies(const std::wstring& folder, const std::wstring& newest) const {
+  std::vector<std::wstring> others = CopiesIn(machine_.files, folder);
+  std::erase_if(others,
+                [&](const std::wstring& name) { return !IsCopyName(name) || name == newest; });
+  SortNewestFirst(others);
+  const std::size_t kept = newest.empty() ? kCopiesKept : kCopiesKept - 1;
+  for (std::size_t i = kept; i < others.size(); ++i) machine_.files.Remove(folder + others[i]);
 }
 
 }  // namespace tidewell

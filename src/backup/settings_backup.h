@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "backup/registry_text.h"
 #include "categories/category_catalog.h"
@@ -16,12 +18,28 @@ inline constexpr const wchar_t* kBackupExtension = L"twsb";
 inline constexpr const wchar_t* kBackupTypeLabel = L"TW Settings Backup (twsb)";
 inline constexpr const wchar_t* kExportTitle = L"Export TW Settings";
 inline constexpr const wchar_t* kImportTitle = L"Import TW Settings";
-inline constexpr const wchar_t* kBeforeImportName = L"TW_BeforeImport.twsb";
+// Larger backups are refused. A copy may be as large as a registry can make it.
+inline constexpr std::uint64_t kLargestBackup = 16 * 1024 * 1024;
+inline constexpr std::size_t kCopiesKept = 5;
+
+// Asked before anything is changed; true goes on.
+struct ImportQuestions {
+  // The backup writes to this key, which is not the product's.
+  std::function<bool(const std::wstring& key)> writesOutside;
+  // The present settings could not be copied, or not all of them.
+  std::function<bool()> lacksCopy;
+};
 
 enum class ImportResult : std::uint8_t {
-  kUnreadable,  // nothing was changed
-  kRejected,    // no backup, or a key that cannot be created; what was read before that stays
+  kRefused,         // the file is no backup; nothing was changed
+  kDeclined,        // a question was answered with no; nothing was changed
+  kReplacedInPart,  // a key could not be created; what was read before that stays
   kDone,
+};
+
+struct ImportOutcome {
+  ImportResult result = ImportResult::kRefused;
+  std::wstring copy;  // the name of the copy beside the backup; empty when there is none
 };
 
 class SettingsBackup {
@@ -35,14 +53,21 @@ class SettingsBackup {
   // Leaves the whole new backup, or what was there and false.
   bool ExportTo(const std::wstring& path) const;
 
-  // Replaces the settings by those of a backup; before the first change the present ones go to
-  // TW_BeforeImport.twsb beside it, as far as that can be written. Then the store is loaded anew,
-  // with its language library, and categories and filters are saved.
-  ImportResult ImportFrom(const std::wstring& path, const ScreenScale& scale,
-                          std::unique_ptr<ResourceLibrary>& language);
+  // Replaces the settings by those of a backup; before the first change the present ones go to a
+  // copy beside it. Then the store is loaded anew, with its language library, categories and
+  // filters are saved, and of the copies in the folder the newest kCopiesKept stay.
+  ImportOutcome ImportFrom(const std::wstring& path, const ImportQuestions& questions,
+                           const ScreenScale& scale, std::unique_ptr<ResourceLibrary>& language);
 
  private:
-  bool Write(const std::wstring& path, TextLimits limits) const;
+  struct Copy {
+    std::wstring name;  // empty when it could not be written
+    bool isWhole = false;
+  };
+  Copy WriteCopy(const std::wstring& folder) const;
+  ImportOutcome ImportFrom(TextReader& text, const std::wstring& folder,
+                           const ImportQuestions& questions) const;
+  void RemoveOldCopies(const std::wstring& folder, const std::wstring& newest) const;
 
   Machine machine_;
   SettingsStore& store_;

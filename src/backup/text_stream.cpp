@@ -34,6 +34,8 @@ std::optional<std::vector<std::byte>> ReadWholeFile(Files& files, const std::wst
 
 bool TextReader::Rewind() {
   at_ = end_ = 0;
+  line_.resize(kLineCapacity);
+  takesLongLines_ = false;
   return source_.Rewind();
 }
 
@@ -50,9 +52,14 @@ bool TextReader::Fill() {
   return true;
 }
 
+bool TextReader::MakeRoom() {
+  if (takesLongLines_) line_.resize(2 * line_.size());
+  return takesLongLines_;
+}
+
 bool TextReader::ReadLine(std::wstring_view& line) {
   std::size_t length = 0;
-  while (length < kLineCapacity && (end_ - at_ >= 2 || Fill())) {
+  while ((length < line_.size() || MakeRoom()) && (end_ - at_ >= 2 || Fill())) {
     const auto low = std::to_integer<unsigned>(buffer_[at_]);
     const auto high = std::to_integer<unsigned>(buffer_[at_ + 1]);
     at_ += 2;

@@ -39,8 +39,11 @@ class TextReader {
  public:
   static constexpr std::size_t kLineCapacity = 1023;
 
-  explicit TextReader(TextSource& source) : source_(source) {}
+  explicit TextReader(TextSource& source) : source_(source), line_(kLineCapacity) {}
+  // Back to the start, and to lines of at most kLineCapacity.
   bool Rewind();
+  // From here on lines come in one piece, however long they are.
+  void TakeLongLines() { takesLongLines_ = true; }
   // The next line with its "\n", valid until the next call; a line longer than kLineCapacity comes
   // in pieces. As for any text of the system, a line ends for its reader at its first zero unit.
   // False at the end of the text, an odd last byte and a read error included.
@@ -48,12 +51,14 @@ class TextReader {
 
  private:
   bool Fill();
+  bool MakeRoom();
 
   TextSource& source_;
   std::array<std::byte, 16 * 1024> buffer_;
   std::size_t at_ = 0;
   std::size_t end_ = 0;
-  std::array<wchar_t, kLineCapacity> line_;
+  std::vector<wchar_t> line_;
+  bool takesLongLines_ = false;
 };
 
 class TextWriter {

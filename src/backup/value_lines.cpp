@@ -40,6 +40,20 @@ void AppendDwordLine(std::wstring& text, std::wstring_view name, std::uint32_t n
   text += FormatDecimal(static_cast<std::int32_t>(number));
 }
 
+bool ParseValueLine(std::wstring_view line, ParsedValue& value) {
+  value.name.clear();
+  if (line.find(kStringMarker) != std::wstring_view::npos) {
+    value.isNumber = false;
+    value.text.clear();
+    ParseStringValueLine(line, value.name, value.text);
+    return true;
+  }
+  value.isNumber = line.find(kDwordMarker) != std::wstring_view::npos;
+  value.number = 0;
+  if (value.isNumber) ParseDwordValueLine(line, value.name, value.number, 10);
+  return value.isNumber;
+}
+
 bool ParseSectionHeader(std::wstring_view line, std::wstring& name) {
   if (line.size() < 3 || line.front() != L'[' || line[line.size() - 2] != L']') return false;
   name = line.substr(1, line.size() - 3);

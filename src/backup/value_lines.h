@@ -19,6 +19,18 @@ void AppendDwordLine(std::wstring& text, std::wstring_view name, std::uint32_t n
 // Every parser takes a line with exactly one final unit ("\n" here, "\r" in the filters file) and
 // tells whether the line has its form. On false the results may hold what was found so far.
 
+// What a section of values takes from a line.
+struct ParsedValue {
+  bool isNumber = false;
+  std::wstring name;
+  std::wstring text;
+  std::int32_t number = 0;
+};
+
+// A line with "=" between quotes is a string, malformed an empty one without a name; any other
+// with "=dword: behind its name is a number. False for every other line.
+bool ParseValueLine(std::wstring_view line, ParsedValue& value);
+
 // "[name]" and the final unit; the name may be empty.
 bool ParseSectionHeader(std::wstring_view line, std::wstring& name);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -30,6 +31,7 @@ class OutputStream {
 struct FileEntry {
   std::wstring name;
   bool isFolder = false;
+  std::uint64_t size = 0;  // bytes; of no meaning for a folder
 };
 
 class Files {
@@ -39,9 +41,14 @@ class Files {
   virtual std::unique_ptr<InputStream> OpenForReading(const std::wstring& path) = 0;
   // Creates the file, or empties it when it exists. Null when that is refused.
   virtual std::unique_ptr<OutputStream> OpenForWriting(const std::wstring& path) = 0;
+  // Creates the file. Null also when its name is taken.
+  virtual std::unique_ptr<OutputStream> CreateNew(const std::wstring& path) = 0;
   virtual bool Remove(const std::wstring& path) = 0;
   // Puts `from` in the place of `to` in one step; on failure both are as they were.
   virtual bool Replace(const std::wstring& from, const std::wstring& to) = 0;
+  // Gives `from` the name `to` in one step; on failure, also when that name is taken, it keeps its
+  // own.
+  virtual bool Move(const std::wstring& from, const std::wstring& to) = 0;
   // True also when the folder is there already.
   virtual bool MakeFolder(const std::wstring& path) = 0;
   virtual std::optional<FileEntry> Find(const std::wstring& path) = 0;

@@ -12,6 +12,7 @@ struct LocalTime {
   std::uint16_t day = 1;
   std::uint16_t hour = 0;
   std::uint16_t minute = 0;
+  std::uint16_t second = 0;
 };
 
 class Locale {

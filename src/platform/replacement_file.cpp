@@ -1,14 +1,51 @@
 #include "platform/replacement_file.h"
 
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tidewell {
 
+namespace {
+
+// A digit stands between the two. No user gives such a name; where one is taken all the same, the
+// next digit is tried.
+constexpr std::wstring_view kUnfinished = L"~TidewellSettings";
+constexpr std::wstring_view kUnfinishedEnd = L".tmp";
+
+std::wstring UnfinishedName(wchar_t digit) {
+  std::wstring name(kUnfinished);
+  name += digit;
+  name += kUnfinishedEnd;
+  return name;
+}
+
+bool IsUnfinished(const FileEntry& entry) {
+  if (entry.isFolder || entry.name.size() <= kUnfinished.size()) return false;
+  const wchar_t digit = entry.name[kUnfinished.size()];
+  return digit >= L'1' && digit <= L'9' && entry.name == UnfinishedName(digit);
+}
+
+void RemoveUnfinished(Files& files, const std::wstring& folder) {
+  std::vector<std::wstring> names;
+  files.List(folder + UnfinishedName(L'?'), [&](const FileEntry& entry) {
+    if (IsUnfinished(entry)) names.push_back(entry.name);
+    return true;
+  });
+  for (const std::wstring& name : names) files.Remove(folder + name);
+}
+
+}  // namespace
+
+std::wstring FolderOf(const std::wstring& path) {
+  return path.substr(0, path.rfind(L'\\') + 1);
+}
+
 ReplacementFile::ReplacementFile(Files& files, std::wstring path)
-    : files_(files),
-      path_(std::move(path)),
-      beside_(path_ + L".new"),
-      stream_(files.OpenForWriting(beside_)) {}
+    : files_(files), path_(std::move(path)) {
+  RemoveUnfinished(files_, FolderOf(path_));
+  CreateBeside();
+}
 
 ReplacementFile::~ReplacementFile() {
   if (!stream_) return;
@@ -16,9 +53,24 @@ ReplacementFile::~ReplacementFile() {
   files_.Remove(beside_);
 }
 
+void ReplacementFile::CreateBeside() {
+  for (wchar_t digit = L'1'; digit <= L'9' && !stream_; ++digit) {
+    beside_ = FolderOf(path_) + UnfinishedName(digit);
+    stream_ = files_.CreateNew(beside_);
+  }
+}
+
 bool ReplacementFile::Commit() {
+  return CommitBy(&Files::Replace);
+}
+
+bool ReplacementFile::CommitAsNew() {
+  return CommitBy(&Files::Move);
+}
+
+bool ReplacementFile::CommitBy(PutInPlace putInPlace) {
   if (!stream_ || !stream_->Close()) return false;
-  if (!files_.Replace(beside_, path_)) return false;
+  if (!(files_.*putInPlace)(beside_, path_)) return false;
   stream_.reset();
   return true;
 }

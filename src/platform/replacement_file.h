@@ -9,8 +9,13 @@
 
 namespace tidewell {
 
+// The folder of a path with its final backslash, empty for a bare name.
+std::wstring FolderOf(const std::wstring& path);
+
 class ReplacementFile {
  public:
+  // Writes to a file of our own in the same folder, under a name that is free; what an end without
+  // warning left there under such a name goes.
   ReplacementFile(Files& files, std::wstring path);
   // Without a commit nothing stays behind.
   ~ReplacementFile();
@@ -21,8 +26,15 @@ class ReplacementFile {
   OutputStream* Stream() { return stream_.get(); }
   // False when the file did not reach its place; what was there is as it was.
   bool Commit();
+  // The same for a place that is free; one that is taken is left alone.
+  bool CommitAsNew();
 
  private:
+  using PutInPlace = bool (Files::*)(const std::wstring& from, const std::wstring& to);
+
+  void CreateBeside();
+  bool CommitBy(PutInPlace putInPlace);
+
   Files& files_;
   std::wstring path_;
   std::wstring beside_;

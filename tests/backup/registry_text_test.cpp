@@ -21,10 +21,10 @@ const std::wstring kRoot(kProductKey);
 
 class RegistryText : public testing::Test {
  protected:
-  static std::string WriteTree(Registry& from, TextLimits limits = kBackupLimits) {
+  static std::string WriteTree(Registry& from) {
     ByteSink sink;
     TextWriter writer(sink);
-    WriteKeyTree(from, L"K", writer, limits);
+    WriteKeyTree(from, L"K", writer);
     EXPECT_TRUE(writer.Flush());
     return Utf8(TextOfBytes(sink.bytes));
   }
@@ -79,26 +79,22 @@ TEST_F(RegistryText, AValueThatDoesNotFitEndsTheListOfItsKeyAlone) {
     std::size_t nameUnits;
     std::uint32_t type;
     std::size_t bytes;
-    bool fitsBackup, fitsCopy;
+    bool fits;
   };
-  for (const Case& c : {Case{1, kTypeString, 256, true, true},  // 127 units and a zero
-                        {1, kTypeString, 257, false, true},
-                        {1, kTypeBinary, 257, false, true},
-                        {1, kTypeString, 1802, false, true},  // 900 units and a zero
-                        {1, kTypeString, 1803, false, false},
-                        {255, kTypeDword, 4, true, true},
-                        {256, kTypeDword, 4, false, false}}) {
+  for (const Case& c : {Case{1, kTypeString, 256, true},  // 127 units and a zero
+                        {1, kTypeString, 257, false},
+                        {1, kTypeBinary, 257, false},
+                        {255, kTypeDword, 4, true},
+                        {256, kTypeDword, 4, false}}) {
     registry.DeleteTree(kUser, L"K");
     SetDword(registry, kUser, L"K", L"before", 1);
     Put(std::wstring(c.nameUnits, L'n').c_str(), c.type, std::vector<std::byte>(c.bytes));
     SetDword(registry, kUser, L"K", L"after", 2);
     SetDword(registry, kUser, L"K\\Sub", L"in", 3);
-    for (const bool isCopy : {false, true}) {
-      const std::string text = WriteTree(registry, isCopy ? kCopyLimits : kBackupLimits);
-      EXPECT_TRUE(text.starts_with("\n[K]\n\"before\"=dword:1\n")) << c.bytes;
-      EXPECT_EQ(text.find("\"after\"") != std::string::npos, isCopy ? c.fitsCopy : c.fitsBackup);
-      EXPECT_TRUE(text.ends_with("\n[K\\Sub]\n\"in\"=dword:3\n")) << c.bytes;
-    }
+    const std::string text = WriteTree(registry);
+    EXPECT_TRUE(text.starts_with("\n[K]\n\"before\"=dword:1\n")) << c.bytes;
+    EXPECT_EQ(text.find("\"after\"") != std::string::npos, c.fits);
+    EXPECT_TRUE(text.ends_with("\n[K\\Sub]\n\"in\"=dword:3\n")) << c.bytes;
   }
 }
 
@@ -136,7 +132,98 @@ TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
   EXPECT_EQ(std::ranges::count(WriteTree(registry), '['), 4) << "769 units fit, 1025 do not";
 }
 
+// ---- Copies
+
+TEST_F(RegistryText, ACopyBringsBackWhatNoBackupCanCarry) {
+  machine.Start({L"Work\nand rest"});
+  catalog.Categories()[0]->color = 5;
+  catalog.Filters()[2].title = std::wstring(2000, L't');
+  const std::wstring deep = kRoot + L'\\' + std::wstring(255, L'k') + L"\\line\nbreak";
+  const auto put = [&](const std::wstring& name, std::uint32_t type, std::wstring_view text) {
+    ASSERT_TRUE(SetRaw(registry, kUser, deep, name, type, BytesOf(text)));
+  };
+  put(L"long", kTypeString, std::wstring(70'000, L'l') + L'\0');
+  put(std::wstring(16'383, L'n'), kTypeDword, L"\x1234\x5678");
+  put(L"n", kTypeString, L"\0"s);
+  put(L"unended", kTypeString, L"ab");
+  put(L"zeros", kTypeString, L"a\0b\0"s);
+  put(L"lines", kTypeString, L"a\n[K]\n\0"s);
+  put(L"a\"=\"b", kTypeString, L"c\0"s);
+  put(L"a=b %% c", kTypeDword, L"\x0001\x8000");
+  put(L"sentinel", kTypeString, L"not_the_same\0"s);
+  put(L"short", kTypeDword, L"\x0001");
+  put(L"empty", kTypeBinary, L"");
+  put(L"other", 0xFFFFFFF0, L"\x0001\x0002");
+  SetBinary(registry, kUser, deep, L"odd", {1, 2, 3});
+  const std::string tree = Dump(kRoot);
+
+  ByteSink sink;
+  TextWriter writer(sink);
+  EXPECT_TRUE(ExportRegistryText(registry, catalog, kRoot, writer, TextKind::kCopy));
+  EXPECT_TRUE(writer.Flush());
+  registry.DeleteTree(kUser, kRoot);
+  machine.Start({L"Work\nand rest"});
+  ASSERT_TRUE(ImportBytes(registry, catalog, sink.bytes));
+  EXPECT_EQ(Dump(kRoot), tree);
+  EXPECT_EQ(catalog.Categories()[0]->color, 5u);
+  EXPECT_EQ(catalog.Filters()[2].title, std::wstring(2000, L't'));
+}
+
+TEST_F(RegistryText, WhatOneCallRefusesIsAllThatACopyLacks) {
+  for (const wchar_t* key : {L"K", L"K\\A", L"K\\B"}) {
+    SetDword(registry, kUser, key, L"x", 1);
+    SetDword(registry, kUser, key, L"y", 2);
+  }
+  MeteredRegistry metered(registry);
+  // A key that is refused takes its values along; the end of a list has none.
+  constexpr int kLost[] = {6, 1, 1, 0, 2, 2, 1, 1, 0, 0, 2, 2, 1, 1, 0, 0, 0};
+  for (std::size_t call = 0; call <= std::size(kLost); ++call) {
+    metered.Meter().Reset();
+    metered.Meter().FailNth(static_cast<int>(call) + 1);
+    ByteSink sink;
+    TextWriter writer(sink);
+    const bool isWhole = WriteKeyTree(metered, L"K", writer, TextKind::kCopy);
+    EXPECT_TRUE(writer.Flush());
+    EXPECT_EQ(isWhole, call == std::size(kLost)) << call;
+    const int lost = isWhole ? 0 : kLost[call];
+    EXPECT_EQ(std::ranges::count(TextOfBytes(sink.bytes), L':'), 6 - lost) << call;
+  }
+}
+
+TEST_F(RegistryText, OnlyTheMarkOnTheSecondLineMakesACopy) {
+  const std::wstring section =
+      L"\n[K]\nhex:4:6100:07000000\n\"long\"=\"" + std::wstring(2000, L'x') + L"\"\n";
+  EXPECT_TRUE(ImportText(registry, catalog, L"\n\n" + std::wstring(kCopyMark) + section));
+  EXPECT_EQ(Dump(L"K").find("a = 7"), std::string::npos);
+  EXPECT_EQ(Dump(L"K").find("long"), std::string::npos);
+  EXPECT_TRUE(ImportText(registry, catalog, L"\n" + std::wstring(kCopyMark) + section));
+  EXPECT_EQ(FindDword(registry, kUser, L"K", L"a"), 7u);
+  EXPECT_NE(Dump(L"K").find("long"), std::string::npos);
+}
+
 // ---- Reading
+
+TEST_F(RegistryText, ASurveyFindsTheFirstKeyOutsideTheProducts) {
+  const auto outside = [](const std::wstring& text) {
+    const std::vector<std::byte> bytes = BytesOf(text);
+    BytesSource source(bytes);
+    TextReader reader(source);
+    const TextSurvey survey = SurveyRegistryText(reader);
+    EXPECT_TRUE(survey.isRegistryText);
+    return survey.outsideKey;
+  };
+  for (const wchar_t* inside :
+       {L"Software\\Velmont\\Tidewell", L"SOFTWARE\\velmont\\tideWELL\\Deep\\er",
+        L"Software\\\\Velmont\\Tidewell\\", L"::Categories::", L"::Filters::"}) {
+    EXPECT_EQ(outside(L"\n[" + std::wstring(inside) + L"]\n\n"), std::nullopt) << Utf8(inside);
+  }
+  for (const wchar_t* key :
+       {L"", L"Software\\Velmont\\TidewellX", L"Software\\Velmont", L"Software\\Velmont\\",
+        L"\\Software\\Velmont\\Tidewell", L"Control Panel", L"::categories::"}) {
+    EXPECT_EQ(outside(L"\n[" + kRoot + L"]\n\n[" + key + L"]\n\n[Later]\n"), key) << Utf8(key);
+  }
+  EXPECT_EQ(outside(L"\n[" + kRoot + L"]\n[In the section]\n"), std::nullopt);
+}
 
 TEST_F(RegistryText, ATextThatDoesNotBeginWithAnEmptyLineIsRejected) {
   const std::wstring section = L"[K]\n\"a\"=dword:1\n";

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/utf8.h"
@@ -13,7 +15,9 @@ constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kRoot(kProductKey);
 const std::wstring kFiltersFile = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
 const std::wstring kBackup = L"\\My Documents\\a.twsb";
-const std::wstring kCopy = L"\\My Documents\\TW_BeforeImport.twsb";
+const std::wstring kCopy = L"\\My Documents\\TW_BeforeImport_2026_11_15_235907.twsb";
+const std::wstring kSecondCopy = L"\\My Documents\\TW_BeforeImport_2026_11_15_235907_2.twsb";
+const std::wstring kUnfinished = L"\\My Documents\\~TidewellSettings1.tmp";
 
 class SettingsBackupTest : public testing::Test {
  protected:
@@ -21,11 +25,33 @@ class SettingsBackupTest : public testing::Test {
     files.Put(L"\\My Documents\\");
     files.Put(L"\\Program Files\\Velmont\\Tidewell\\");
     SetDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays", 14);
+    machine.memory.locale.now = {2026, 11, 15, 23, 59, 7};
     machine.Start({L"Home", L"Work"});
   }
 
   ImportResult Import(const std::wstring& path = kBackup) {
-    return backup.ImportFrom(path, ScreenScale(), machine.language);
+    const ImportQuestions questions{[this](const std::wstring& key) {
+                                      asked += Utf8(key) + '?';
+                                      return answer;
+                                    },
+                                    [this] {
+                                      asked += "no copy?";
+                                      return answer;
+                                    }};
+    const ImportOutcome outcome =
+        backup.ImportFrom(path, questions, ScreenScale(), machine.language);
+    copy = outcome.copy;
+    return outcome.result;
+  }
+  // The files of a folder, those of other names left out.
+  std::vector<std::wstring> Copies() {
+    std::vector<std::wstring> names;
+    files.List(L"\\My Documents\\TW_Before*", [&](const FileEntry& entry) {
+      names.push_back(entry.name);
+      return true;
+    });
+    std::sort(names.begin(), names.end());
+    return names;
   }
   void PutText(const std::wstring& path, std::wstring_view text) { files.Put(path, BytesOf(text)); }
   std::string TextOf(const std::wstring& path) {
@@ -37,10 +63,12 @@ class SettingsBackupTest : public testing::Test {
   MemoryRegistry& registry = machine.memory.registry;
   MemoryFiles& files = machine.memory.files;
   SettingsBackup backup{machine.MeteredDoor(), machine.store, machine.catalog};
+  std::string asked;
+  bool answer = false;
+  std::wstring copy;
 };
 
 TEST_F(SettingsBackupTest, TheDefaultNameBearsTheDate) {
-  machine.memory.locale.now = {2026, 11, 15, 23, 59};
   EXPECT_EQ(backup.DefaultExportName(), L"TW_Backup_2026_11_15");
 }
 
@@ -66,27 +94,110 @@ TEST_F(SettingsBackupTest, AnExportedAndImportedDeviceIsTheSameAndItsStoresAreSa
   EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 14u);
 }
 
-TEST_F(SettingsBackupTest, AFileThatIsNoBackupChangesNothingAndCostsNoCopy) {
-  PutText(kCopy, L"kept");
+TEST_F(SettingsBackupTest, AFileThatIsNoBackupChangesNothing) {
   PutText(kBackup, L"[Software\\Velmont\\Tidewell]\n");
   const std::string tree = Tree();
-  EXPECT_EQ(Import(L"\\My Documents\\gone.twsb"), ImportResult::kUnreadable);
-  EXPECT_EQ(Import(), ImportResult::kRejected);
+  EXPECT_EQ(Import(L"\\My Documents\\gone.twsb"), ImportResult::kRefused);
+  EXPECT_EQ(Import(), ImportResult::kRefused);
+  PutText(kBackup, L"\n[\\no key]\n");
+  answer = true;
+  EXPECT_EQ(Import(), ImportResult::kRefused);
+  PutText(kBackup, L"\n" + std::wstring(kLargestBackup / 2, L'x'));
+  machine.files.Meter().Reset();
+  EXPECT_EQ(Import(), ImportResult::kRefused);
+  EXPECT_LE(machine.files.Count(FileCall::kRead), 1) << "only whether it is a copy";
+  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n");
   machine.files.Meter().FailEvery(FileCall::kRead);
-  EXPECT_EQ(Import(), ImportResult::kUnreadable);
+  EXPECT_EQ(Import(), ImportResult::kRefused);
   EXPECT_EQ(Tree(), tree);
-  EXPECT_EQ(TextOf(kCopy), "kept");
+  EXPECT_TRUE(Copies().empty());
+}
+
+TEST_F(SettingsBackupTest, ACopyMayBeLargerThanABackup) {
+  SetBinary(registry, kUser, kRoot, L"Huge", std::vector<unsigned char>(5'000'000));
+  const std::string tree = Tree();
+  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n");
+  ASSERT_EQ(Import(), ImportResult::kDone);
+  ASSERT_GT(files.Contents(kCopy)->size(), kLargestBackup);
+  ASSERT_EQ(Import(kCopy), ImportResult::kDone);
+  EXPECT_EQ(Tree(), tree);
 }
 
 TEST_F(SettingsBackupTest, ThePresentSettingsAreCopiedBeforeTheImportAndComeBackFromTheCopy) {
-  SetString(registry, kUser, kRoot, L"SkinPath", std::wstring(900, L's'));
+  SetString(registry, kUser, kRoot, L"SkinPath", std::wstring(9000, L's'));
+  SetBinary(registry, kUser, kRoot + L"\\Other", L"FoldStates", {1, 0, 255});
   const std::string tree = Tree();
   PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n\"OnClick\"=dword:1\n");
   ASSERT_EQ(Import(), ImportResult::kDone);
   EXPECT_EQ(FindDword(registry, kUser, kRoot, L"OnClick"), 1u);
   EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays"), std::nullopt);
+  const std::string original = TextOf(kCopy);
+  ASSERT_EQ(Import(), ImportResult::kDone) << "in the same second";
+  EXPECT_EQ(L"\\My Documents\\" + copy, kSecondCopy);
   ASSERT_EQ(Import(kCopy), ImportResult::kDone);
   EXPECT_EQ(Tree(), tree);
+  EXPECT_EQ(TextOf(kCopy), original);
+}
+
+TEST_F(SettingsBackupTest, OfTheCopiesTheFiveNewestStay) {
+  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell\\Tasks]\n");
+  const std::wstring others[] = {L"TW_BeforeImport.twsb",
+                                 L"TW_BeforeImport_2026_11_15_235907 (2).twsb",
+                                 L"TW_BeforeImport_2026_11_15_23590.twsb",
+                                 L"TW_BeforeImport_2026_11_15_235907_1.twsb",
+                                 L"TW_BeforeImport_2026_11_15_235907_2.twsb.txt",
+                                 L"TW_BeforeImport_mine.twsb"};
+  for (const std::wstring& name : others) PutText(L"\\My Documents\\" + name, L"a user's");
+  for (int i = 0; i < 12; ++i) ASSERT_EQ(Import(), ImportResult::kDone);
+  machine.memory.locale.now = {2003, 1, 1, 0, 0, 0};
+  ASSERT_EQ(Import(), ImportResult::kDone);
+  std::vector<std::wstring> expected(std::begin(others), std::end(others));
+  expected.push_back(L"TW_BeforeImport_2003_01_01_000000.twsb");
+  for (const wchar_t* number : {L"9", L"10", L"11", L"12"}) {
+    expected.push_back(L"TW_BeforeImport_2026_11_15_235907_" + std::wstring(number) + L".twsb");
+  }
+  std::sort(expected.begin(), expected.end());
+  EXPECT_EQ(Copies(), expected);
+}
+
+TEST_F(SettingsBackupTest, WithoutACopyTheUserDecides) {
+  PutText(kBackup,
+          L"\n[Software\\Velmont\\Tidewell]\n\n[Software\\Velmont\\Tidewell\\Tasks]\n"
+          L"\"x\"=dword:1\n");
+  const std::string tree = Tree();
+  const std::pair<const char*, std::function<void()>> cases[] = {
+      {"full", [&] { files.SetFreeBytes(100); }},
+      {"locked", [&] { files.SetWriteProtected(true); }},
+      {"refused value", [&] { machine.registry.Meter().FailNth(2); }}};
+  for (const auto& [name, prepare] : cases) {
+    asked.clear();
+    machine.registry.Meter().Reset();
+    prepare();
+    EXPECT_EQ(Import(), ImportResult::kDeclined) << name;
+    EXPECT_EQ(asked, "no copy?") << name;
+    files.SetFreeBytes({});
+    files.SetWriteProtected(false);
+    EXPECT_EQ(Tree(), tree) << name;
+    EXPECT_TRUE(Copies().empty()) << name;
+    EXPECT_FALSE(files.Find(kUnfinished)) << name;
+  }
+  files.SetFreeBytes(100);
+  answer = true;
+  EXPECT_EQ(Import(), ImportResult::kDone);
+  EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Tasks", L"x"), 1u);
+  EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays"), std::nullopt);
+}
+
+TEST_F(SettingsBackupTest, WhatWritesOutsideTheProductIsImportedOnlyWhenTheUserWants) {
+  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n\n[Control Panel]\n\"x\"=dword:1\n");
+  const std::string tree = Tree();
+  EXPECT_EQ(Import(), ImportResult::kDeclined);
+  EXPECT_EQ(asked, "Control Panel?");
+  EXPECT_EQ(Tree(), tree);
+  EXPECT_TRUE(Copies().empty());
+  answer = true;
+  EXPECT_EQ(Import(), ImportResult::kDone);
+  EXPECT_EQ(FindDword(registry, kUser, L"Control Panel", L"x"), 1u);
 }
 
 TEST_F(SettingsBackupTest, TheCategoriesOfTheRecordsWinOverTheirImportedValues) {
@@ -99,24 +210,34 @@ TEST_F(SettingsBackupTest, TheCategoriesOfTheRecordsWinOverTheirImportedValues) 
             "[Software\\Velmont\\Tidewell\\Categories]\nCatColor.Gone = 3\nCatColor.Work = 255\n");
 }
 
-TEST_F(SettingsBackupTest, AKeyThatCannotBeCreatedRejectsTheRestWithoutAReload) {
-  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell\\Calendar]\n\"dNumOfDays\"=dword:3\n");
-  machine.registry.Meter().FailEvery(RegistryCall::kCreate);
-  EXPECT_EQ(Import(), ImportResult::kRejected);
+TEST_F(SettingsBackupTest, AKeyThatCannotBeCreatedLeavesAPartWithoutAReloadAndTheCopy) {
+  const std::string tree = Tree();
+  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n\n[\\no key]\n");
+  answer = true;
+  EXPECT_EQ(Import(), ImportResult::kReplacedInPart);
+  EXPECT_EQ(L"\\My Documents\\" + copy, kCopy);
   EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 14u);
+  EXPECT_NE(Tree(), tree);
+  EXPECT_EQ(Import(kCopy), ImportResult::kDone);
+  EXPECT_EQ(Tree(), tree);
 }
 
 TEST_F(SettingsBackupTest, WhateverFailsABackupIsTheOldOrTheNewOneWhole) {
   ASSERT_TRUE(backup.ExportTo(kBackup));
   const std::string whole = TextOf(kBackup);
   PutText(kBackup, L"old backup");
-  for (int call = 1; call <= 4; ++call) {  // create, write, close, replace
+  for (int call = 3; call <= 5; ++call) {  // after list and create: write, close, replace
     machine.files.Meter().Reset();
     machine.files.Meter().FailNth(call);
     EXPECT_FALSE(backup.ExportTo(kBackup)) << call;
     EXPECT_EQ(TextOf(kBackup), "old backup") << call;
-    EXPECT_FALSE(files.Find(kBackup + L".new").has_value()) << call;
+    EXPECT_FALSE(files.Find(kUnfinished)) << call;
   }
+  machine.files.Meter().Reset();
+  machine.registry.Meter().Reset();
+  machine.registry.Meter().FailNth(1);
+  EXPECT_FALSE(backup.ExportTo(kBackup)) << "the product's key";
+  EXPECT_EQ(TextOf(kBackup), "old backup");
   machine.files.Meter().Reset();
   files.SetFreeBytes(whole.size());  // two bytes a unit are twice that
   EXPECT_FALSE(backup.ExportTo(kBackup));
@@ -126,13 +247,25 @@ TEST_F(SettingsBackupTest, WhateverFailsABackupIsTheOldOrTheNewOneWhole) {
   EXPECT_EQ(TextOf(kBackup), whole);
 }
 
-TEST_F(SettingsBackupTest, AnImportGoesOnWithoutItsCopyAndMergesWhatIsNoWholeTree) {
-  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell\\Tasks]\n\"x\"=dword:1\n");
-  files.SetFreeBytes(0);
-  EXPECT_EQ(Import(), ImportResult::kDone);
-  EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Tasks", L"x"), 1u);
-  EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays"), 14u);
-  EXPECT_FALSE(files.Contents(kCopy).has_value());
+TEST_F(SettingsBackupTest, AnUnfinishedFileOfOursGoesAndNoOtherDoes) {
+  const std::wstring others[] = {kBackup + L".new", L"\\My Documents\\~TidewellSettings.tmp",
+                                 L"\\My Documents\\~TidewellSettingsX.tmp"};
+  for (const std::wstring& other : others) PutText(other, L"a user's");
+  PutText(kUnfinished, L"cut off");
+  PutText(L"\\My Documents\\~TidewellSettings7.tmp", L"cut off");
+  files.SetReadOnly(L"\\My Documents\\~TidewellSettings7.tmp", true);
+  files.SetLocked(kUnfinished, true);
+  EXPECT_TRUE(backup.ExportTo(kBackup));
+  files.SetLocked(kUnfinished, false);
+  files.SetReadOnly(L"\\My Documents\\~TidewellSettings7.tmp", false);
+  EXPECT_TRUE(backup.ExportTo(kBackup));
+  std::vector<std::wstring> left;
+  files.List(L"\\My Documents\\*", [&](const FileEntry& entry) {
+    left.push_back(L"\\My Documents\\" + entry.name);
+    return true;
+  });
+  EXPECT_EQ(left.size(), 4u);
+  for (const std::wstring& other : others) EXPECT_EQ(TextOf(other), "a user's");
 }
 
 }  // namespace

@@ -111,7 +111,7 @@ TEST_F(Catalog, TheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
   ASSERT_EQ(old, BytesOf(FormatFilters(DefaultFilters())));
   machine.files.Meter().Reset();
   EXPECT_TRUE(catalog.SaveFiltersFile());
-  EXPECT_EQ(machine.files.Count(FileCall::kOpenForWriting), 0);
+  EXPECT_EQ(machine.files.Count(FileCall::kCreateNew), 0);
 
   FilterSet filters = DefaultFilters();
   filters[4].title = catalog.Filters()[4].title = L"Fifth";

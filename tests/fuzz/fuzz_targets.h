@@ -10,6 +10,7 @@ namespace tidewell::fuzz {
 using Bytes = std::span<const std::byte>;
 
 void registry_text(Bytes bytes);
+void import_flow(Bytes bytes);
 void filters_file(Bytes bytes);
 void pim_volume(Bytes bytes);
 void settings_load(Bytes bytes);

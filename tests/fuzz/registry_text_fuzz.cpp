@@ -18,7 +18,7 @@ void registry_text(Bytes bytes) {
   Require(backup.find(L"\n[::Categories::]\n\"Category\"=\"Home\"\n") != std::wstring::npos);
   for (std::size_t start = 0; start < backup.size();) {
     const std::size_t end = std::min(backup.find(L'\n', start), backup.size());
-    Require(end - start < kBackupLimits.lineCapacity);
+    Require(end - start < kBackupLineCapacity);
     start = end + 1;
   }
   Require(ImportText(registry, catalog, backup));

@@ -23,6 +23,7 @@ void FeedSeeds(const std::string& folder, void (*target)(Bytes)) {
 
 TEST(FuzzSeeds, EveryTargetTakesItsOwn) {
   FeedSeeds("/registry_text", registry_text);
+  FeedSeeds("/import_flow", import_flow);
   FeedSeeds("/filters_file", filters_file);
   FeedSeeds("/pim_volume", pim_volume);
   FeedSeeds("/settings_load", settings_load);

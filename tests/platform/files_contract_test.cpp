@@ -91,6 +91,21 @@ TEST_P(FilesContract, AFolderIsMadeOnceAndIsNoFile) {
   EXPECT_FALSE(files_.MakeFolder(In(L"\u00C4pfel\\file")));
 }
 
+TEST_P(FilesContract, ANameThatIsTakenIsNeitherCreatedNorMovedTo) {
+  ASSERT_TRUE(Write(L"file", "fresh"));
+  ASSERT_TRUE(Write(L"Old", "stale"));
+  ASSERT_TRUE(files_.MakeFolder(In(L"folder")));
+  for (const wchar_t* taken : {L"old", L"folder"}) {
+    EXPECT_EQ(files_.CreateNew(In(taken)), nullptr);
+    EXPECT_FALSE(files_.Move(In(L"file"), In(taken)));
+  }
+  EXPECT_FALSE(files_.Move(In(L"absent"), In(L"new")));
+  EXPECT_TRUE(files_.Move(In(L"file"), In(L"new")));
+  EXPECT_EQ(Read(L"new") + Read(L"old"), "freshstale");
+  EXPECT_TRUE(files_.CreateNew(In(L"file")));
+  EXPECT_EQ(files_.Find(In(L"file"))->size + files_.Find(In(L"new"))->size, 5u);
+}
+
 TEST_P(FilesContract, AReplacementIsWholeOrLeavesBothAsTheyWere) {
   ASSERT_TRUE(Write(L"new", "fresh"));
   ASSERT_TRUE(Write(L"Old", "stale"));

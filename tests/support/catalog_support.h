@@ -75,7 +75,7 @@ inline bool ImportBytes(Registry& registry, CategoryCatalog& catalog,
                         std::span<const std::byte> bytes) {
   BytesSource source(bytes);
   TextReader reader(source);
-  return ImportRegistryText(registry, catalog, reader);
+  return ImportRegistryText(registry, catalog, reader) == TextImport::kWhole;
 }
 inline bool ImportText(Registry& registry, CategoryCatalog& catalog, std::wstring_view text) {
   return ImportBytes(registry, catalog, BytesOf(text));

@@ -26,6 +26,7 @@ bool IsFileName(std::wstring_view name) {
 
 struct MemoryFiles::Disk {
   std::optional<std::size_t> freeBytes;
+  bool isWriteProtected = false;
 
   std::size_t Take(std::size_t bytes) {
     const std::size_t taken = std::min(bytes, freeBytes.value_or(bytes));
@@ -150,7 +151,7 @@ std::unique_ptr<InputStream> MemoryFiles::OpenForReading(const std::wstring& pat
 
 std::unique_ptr<OutputStream> MemoryFiles::OpenForWriting(const std::wstring& path) {
   const auto folder = FolderOf(path);
-  if (!folder || !IsFileName(LastName(path))) return nullptr;
+  if (disk_->isWriteProtected || !folder || !IsFileName(LastName(path))) return nullptr;
   auto file = folder->Find(LastName(path));
   if (!file) file = folder->Add(LastName(path), false);
   if (file->isFolder || file->isLocked || file->isReadOnly) return nullptr;
@@ -159,9 +160,14 @@ std::unique_ptr<OutputStream> MemoryFiles::OpenForWriting(const std::wstring& pa
   return std::make_unique<Writer>(file, disk_);
 }
 
+std::unique_ptr<OutputStream> MemoryFiles::CreateNew(const std::wstring& path) {
+  return Walk(path) ? nullptr : OpenForWriting(path);
+}
+
 bool MemoryFiles::Remove(const std::wstring& path) {
   const auto file = Walk(path);
-  if (!file || file->isFolder || file->isReadOnly || file->IsInUse()) return false;
+  if (disk_->isWriteProtected || !file || file->isFolder || file->isReadOnly || file->IsInUse())
+    return false;
   disk_->Return(file->bytes.size());
   FolderOf(path)->Drop(file);
   return true;
@@ -170,7 +176,8 @@ bool MemoryFiles::Remove(const std::wstring& path) {
 bool MemoryFiles::Replace(const std::wstring& from, const std::wstring& to) {
   const auto file = Walk(from);
   const auto folder = FolderOf(to);
-  if (!file || file->isFolder || file->IsInUse() || !folder || !IsFileName(LastName(to))) {
+  if (disk_->isWriteProtected || !file || file->isFolder || file->IsInUse() || !folder ||
+      !IsFileName(LastName(to))) {
     return false;
   }
   const auto old = folder->Find(LastName(to));
@@ -185,10 +192,15 @@ bool MemoryFiles::Replace(const std::wstring& from, const std::wstring& to) {
   return true;
 }
 
+bool MemoryFiles::Move(const std::wstring& from, const std::wstring& to) {
+  return !Walk(to) && Replace(from, to);
+}
+
 bool MemoryFiles::MakeFolder(const std::wstring& path) {
   const auto parent = FolderOf(path);
   if (!parent || !IsFileName(LastName(path))) return false;
   auto folder = parent->Find(LastName(path));
+  if (!folder && disk_->isWriteProtected) return false;
   if (!folder) folder = parent->Add(LastName(path), true);
   return folder->isFolder;
 }
@@ -196,7 +208,7 @@ bool MemoryFiles::MakeFolder(const std::wstring& path) {
 std::optional<FileEntry> MemoryFiles::Find(const std::wstring& path) {
   const auto node = Walk(path);
   if (!node || node == root_ || path.ends_with(L'\\')) return std::nullopt;
-  return FileEntry{node->name, node->isFolder};
+  return FileEntry{node->name, node->isFolder, node->bytes.size()};
 }
 
 bool MemoryFiles::List(const std::wstring& pattern,
@@ -206,7 +218,7 @@ bool MemoryFiles::List(const std::wstring& pattern,
   const auto entries = folder->entries;  // a visitor may remove what it is shown
   for (const auto& entry : entries) {
     if (!FitsPattern(entry->name, LastName(pattern))) continue;
-    if (!visit({entry->name, entry->isFolder})) break;
+    if (!visit({entry->name, entry->isFolder, entry->bytes.size()})) break;
   }
   return true;
 }
@@ -235,6 +247,10 @@ void MemoryFiles::SetLocked(const std::wstring& path, bool isLocked) {
 
 void MemoryFiles::SetReadOnly(const std::wstring& path, bool isReadOnly) {
   if (const auto file = Walk(path)) file->isReadOnly = isReadOnly;
+}
+
+void MemoryFiles::SetWriteProtected(bool isWriteProtected) {
+  disk_->isWriteProtected = isWriteProtected;
 }
 
 void MemoryFiles::SetFreeBytes(std::optional<std::size_t> bytes) {

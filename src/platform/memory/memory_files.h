@@ -18,8 +18,10 @@ class MemoryFiles final : public Files {
 
   std::unique_ptr<InputStream> OpenForReading(const std::wstring& path) override;
   std::unique_ptr<OutputStream> OpenForWriting(const std::wstring& path) override;
+  std::unique_ptr<OutputStream> CreateNew(const std::wstring& path) override;
   bool Remove(const std::wstring& path) override;
   bool Replace(const std::wstring& from, const std::wstring& to) override;
+  bool Move(const std::wstring& from, const std::wstring& to) override;
   bool MakeFolder(const std::wstring& path) override;
   std::optional<FileEntry> Find(const std::wstring& path) override;
   // In the order in which the entries were made.
@@ -37,6 +39,8 @@ class MemoryFiles final : public Files {
   void SetReadOnly(const std::wstring& path, bool isReadOnly);
   // The disk takes this many more bytes, counted from now; without a figure it is endless.
   void SetFreeBytes(std::optional<std::size_t> bytes);
+  // As a card whose lock is on: nothing is created, changed or removed.
+  void SetWriteProtected(bool isWriteProtected);
 
  private:
   struct Node;

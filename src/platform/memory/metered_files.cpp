@@ -59,6 +59,13 @@ std::unique_ptr<OutputStream> MeteredFiles::OpenForWriting(const std::wstring& p
   return std::make_unique<Writer>(std::move(stream), meter_);
 }
 
+std::unique_ptr<OutputStream> MeteredFiles::CreateNew(const std::wstring& path) {
+  const bool fails = meter_->Note(FileCall::kCreateNew);
+  auto stream = fails ? nullptr : inner_.CreateNew(path);
+  if (!Logged(FileCall::kCreateNew, path, stream != nullptr)) return nullptr;
+  return std::make_unique<Writer>(std::move(stream), meter_);
+}
+
 bool MeteredFiles::Remove(const std::wstring& path) {
   const bool fails = meter_->Note(FileCall::kRemove);
   return Logged(FileCall::kRemove, path, !fails && inner_.Remove(path));
@@ -67,6 +74,11 @@ bool MeteredFiles::Remove(const std::wstring& path) {
 bool MeteredFiles::Replace(const std::wstring& from, const std::wstring& to) {
   const bool fails = meter_->Note(FileCall::kReplace);
   return Logged(FileCall::kReplace, to, !fails && inner_.Replace(from, to));
+}
+
+bool MeteredFiles::Move(const std::wstring& from, const std::wstring& to) {
+  const bool fails = meter_->Note(FileCall::kMove);
+  return Logged(FileCall::kMove, to, !fails && inner_.Move(from, to));
 }
 
 bool MeteredFiles::MakeFolder(const std::wstring& path) {

@@ -12,8 +12,10 @@ namespace tidewell {
 enum class FileCall : std::uint8_t {
   kOpenForReading,
   kOpenForWriting,
+  kCreateNew,
   kRemove,
   kReplace,
+  kMove,
   kMakeFolder,
   kFind,
   kList,
@@ -23,14 +25,17 @@ enum class FileCall : std::uint8_t {
   kCount
 };
 
-// The log has every call with a path; a replacement stands there with the path it replaces.
+// The log has every call with a path; a replacement or a move stands there with the path that it
+// leads to.
 class MeteredFiles final : public Files {
  public:
   explicit MeteredFiles(Files& inner);
   std::unique_ptr<InputStream> OpenForReading(const std::wstring& path) override;
   std::unique_ptr<OutputStream> OpenForWriting(const std::wstring& path) override;
+  std::unique_ptr<OutputStream> CreateNew(const std::wstring& path) override;
   bool Remove(const std::wstring& path) override;
   bool Replace(const std::wstring& from, const std::wstring& to) override;
+  bool Move(const std::wstring& from, const std::wstring& to) override;
   bool MakeFolder(const std::wstring& path) override;
   std::optional<FileEntry> Find(const std::wstring& path) override;
   bool List(const std::wstring& pattern,

@@ -82,7 +82,8 @@ class FileWriter final : public OutputStream {
 };
 
 FileEntry EntryOf(const WIN32_FIND_DATAW& found) {
-  return {found.cFileName, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0};
+  return {found.cFileName, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+          std::uint64_t{found.nFileSizeHigh} << 32 | found.nFileSizeLow};
 }
 
 bool IsDots(const wchar_t* name) {
@@ -101,6 +102,11 @@ std::unique_ptr<OutputStream> WindowsFiles::OpenForWriting(const std::wstring& p
   return file ? std::make_unique<FileWriter>(std::move(file)) : nullptr;
 }
 
+std::unique_ptr<OutputStream> WindowsFiles::CreateNew(const std::wstring& path) {
+  OwnedHandle file = OpenFile(path, GENERIC_WRITE, CREATE_NEW);
+  return file ? std::make_unique<FileWriter>(std::move(file)) : nullptr;
+}
+
 bool WindowsFiles::Remove(const std::wstring& path) {
   return DeleteFileW(path.c_str()) != FALSE;
 }
@@ -108,6 +114,10 @@ bool WindowsFiles::Remove(const std::wstring& path) {
 bool WindowsFiles::Replace(const std::wstring& from, const std::wstring& to) {
   return MoveFileExW(from.c_str(), to.c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+}
+
+bool WindowsFiles::Move(const std::wstring& from, const std::wstring& to) {
+  return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != FALSE;
 }
 
 bool WindowsFiles::MakeFolder(const std::wstring& path) {

@@ -24,6 +24,7 @@ SYSTEMTIME SystemTimeOf(const LocalTime& time) {
   system.wDay = time.day;
   system.wHour = time.hour;
   system.wMinute = time.minute;
+  system.wSecond = time.second;
   return system;
 }
 
@@ -49,7 +50,7 @@ int WindowsLocale::CompareIgnoringCase(const std::wstring& left, const std::wstr
 LocalTime WindowsLocale::Now() {
   SYSTEMTIME now;
   GetLocalTime(&now);
-  return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute};
+  return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
 }
 
 std::wstring WindowsLocale::FormatDate(const LocalTime& date, const std::wstring& picture) {

@@ -1,0 +1,84 @@
+#include <algorithm>
+
+#include "backup/settings_backup.h"
+#include "tests/fuzz/fuzz_targets.h"
+#include "tests/support/catalog_support.h"
+#include "tests/support/registry_support.h"
+
+namespace tidewell::fuzz {
+
+namespace {
+
+constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
+const std::wstring kFile = L"\\My Documents\\a.twsb";
+
+std::size_t TakeNumber(Bytes& input) {
+  if (input.empty()) return 0;
+  const auto number = std::to_integer<std::size_t>(input[0]);
+  input = input.subspan(1);
+  return number;
+}
+
+Bytes TakeBytes(Bytes& input, std::size_t size) {
+  const Bytes taken = input.first(std::min(size, input.size()));
+  input = input.subspan(taken.size());
+  return taken;
+}
+
+// A name as the registry takes it: no zero ends it early, no backslash splits it.
+std::wstring TakeName(Bytes& input) {
+  std::wstring name = TextOfBytes(TakeBytes(input, 2 * (TakeNumber(input) % 130)));
+  std::erase_if(name, [](wchar_t unit) { return unit == L'\0' || unit == L'\\'; });
+  return name;
+}
+
+// Each record is a key, a name, a type, a size times a factor, and data that is repeated.
+void Fill(Registry& registry, Bytes& input) {
+  for (std::size_t records = TakeNumber(input) % 16; records > 0; --records) {
+    std::wstring path(kProductKey);
+    if (const std::wstring key = TakeName(input); !key.empty()) path += L'\\' + key;
+    const std::wstring name = TakeName(input);
+    const auto type = static_cast<std::uint32_t>(TakeNumber(input) % 8);
+    const std::size_t times = 1 + TakeNumber(input) % 40;
+    const Bytes piece = TakeBytes(input, TakeNumber(input));
+    std::vector<std::byte> data;
+    for (std::size_t i = 0; i < times; ++i) data.insert(data.end(), piece.begin(), piece.end());
+    SetRaw(registry, kUser, path, name, type, data);
+  }
+}
+
+}  // namespace
+
+// Whatever the registry holds and whatever file is imported: a file that is refused has changed
+// nothing, the settings that an import brought can be saved and loaded, and the copy brings back
+// all that was there.
+void import_flow(Bytes bytes) {
+  CatalogMachine machine;
+  MemoryRegistry& registry = machine.memory.registry;
+  const std::wstring root(kProductKey);
+  machine.memory.files.Put(L"\\My Documents\\");
+  Fill(registry, bytes);
+  machine.memory.files.Put(kFile, bytes);
+  machine.Start();
+  // The store repairs what it loads, now as after going back.
+  machine.store.Save(registry, ScreenScale());
+  const std::string before = DumpTree(registry, kUser, root);
+
+  SettingsBackup backup(machine.memory.Door(), machine.store, machine.catalog);
+  const ImportQuestions questions{[](const std::wstring&) { return true; }, [] { return false; }};
+  const auto import = [&](const std::wstring& path) {
+    return backup.ImportFrom(path, questions, ScreenScale(), machine.language);
+  };
+  const ImportOutcome outcome = import(kFile);
+  Require(outcome.result != ImportResult::kDeclined);
+  if (outcome.result == ImportResult::kRefused) {
+    Require(DumpTree(registry, kUser, root) == before);
+    return;
+  }
+  machine.store.Save(registry, ScreenScale());
+  machine.Start();
+  Require(import(L"\\My Documents\\" + outcome.copy).result == ImportResult::kDone);
+  Require(DumpTree(registry, kUser, root) == before);
+}
+
+}  // namespace tidewell::fuzz
