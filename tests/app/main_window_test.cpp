@@ -142,15 +142,41 @@ TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
   PumpMessages();
   EXPECT_EQ(CountBroadcasts(), 1);
   EXPECT_FALSE(HasValue(L"IndentItems")) << "edits of before are not saved over the import";
-  EXPECT_TRUE(device.files.Find(L"\\My Documents\\TW_BeforeImport.twsb"));
+  EXPECT_TRUE(device.files.Find(L"\\My Documents\\TW_BeforeImport_2000_01_01_000000.twsb"));
 }
 
-TEST_F(DoneTest, AFileThatIsNoBackupIsRefusedAndTheProgramGoesOn) {
-  backup = L"\\absent.twsb";
+TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
+  const std::wstring outside = L"text 2034 \"HKEY_CURRENT_USER\\\\A\"\n\ntext 2035|text 2037|260";
+  backup = L"\\My Documents\\a.twsb";
   Start();
   TapBar(true);
   RunRow(1);
-  EXPECT_EQ(asked, std::vector<std::wstring>{L"text 609|text 610|0"});
+  EXPECT_EQ(asked, std::vector<std::wstring>{L"text 609\n\ntext 2031|text 610|0"}) << "no file";
+  asked.clear();
+  device.files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n\n[\\A]\n"));
+  RunRow(1);
+  EXPECT_EQ(asked, std::vector{outside});
+  asked.clear();
+  answer = IDYES;
+  RunRow(1);
+  EXPECT_EQ(asked,
+            (std::vector<std::wstring>{outside,
+                                       L"text 609\n\ntext 2032 text 2033 "
+                                       L"\"TW_BeforeImport_2000_01_01_000000.twsb\"|text 610|0"}));
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(DoneTest, ACardThatCannotBeWrittenIsSpokenOf) {
+  backup = L"\\My Documents\\a.twsb";
+  device.files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n"));
+  device.files.SetWriteProtected(true);
+  Start();
+  TapBar(true);
+  RunRow(0);
+  RunRow(1);
+  EXPECT_EQ(asked,
+            (std::vector<std::wstring>{L"text 607 \"" + backup + L"\"\n\ntext 2030|text 608|0",
+                                       L"text 2036|text 2037|260"}));
   EXPECT_TRUE(IsOpen());
 }
 

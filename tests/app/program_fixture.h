@@ -26,8 +26,9 @@ class ProgramTest : public testing::Test {
  protected:
   ProgramTest() {
     MemoryLibraries::Texts texts;
-    for (const std::uint32_t id : {607, 608, 609, 610, 611, 612, 613, 614,  617,  618,
-                                   619, 620, 621, 622, 624, 625, 626, 1259, 1260, 1432}) {
+    for (const std::uint32_t id :
+         {2030, 2031, 2032, 2033, 2034, 2035, 2036, 2037, 607, 608, 609, 610,  611,  612,
+          613,  614,  617,  618,  619,  620,  621,  622,  624, 625, 626, 1259, 1260, 1432}) {
       texts[id] = L"text " + std::to_wstring(id);
     }
     device.libraries.Put(kEnglishLibrary, std::move(texts));
@@ -52,7 +53,7 @@ class ProgramTest : public testing::Test {
             [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
             [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
               asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
-              return IDNO;
+              return answer;
             },
             [this](const DialogContext&, FileNameRequest& request) {
               backupAsked = request.title + L"|" + request.folder + L"|" + request.initialName +
@@ -118,8 +119,9 @@ class ProgramTest : public testing::Test {
   MeteredFiles files{device.files};
   std::unique_ptr<MainWindow> program;
   std::vector<PimCategory> categories;
-  std::vector<std::wstring> asked;  // each question, answered with no
-  std::wstring backup;              // chosen in the file name dialog; empty cancels it
+  std::vector<std::wstring> asked;  // each question
+  int answer = IDNO;
+  std::wstring backup;  // chosen in the file name dialog; empty cancels it
   std::wstring backupAsked;
   bool hasPages = false;
   int pageAsked = -1;
