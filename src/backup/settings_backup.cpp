@@ -72,7 +72,7 @@ ImportOutcome SettingsBackup::ImportFrom(const std::wstring& path, const ImportQ
   BytesSource source(*bytes);
   TextReader text(source);
   const std::wstring folder = FolderOf(path);
-  const ImportOutcome outcome = ImportFrom(text, folder, questions);
+  ImportOutcome outcome = ImportFrom(text, folder, questions);
   if (outcome.result != ImportResult::kDone) return outcome;
 
   store_.Load(machine_, scale, language);
