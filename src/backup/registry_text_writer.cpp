@@ -225,7 +225,7 @@ bool ExportRegistryText(Registry& registry, const CategoryCatalog& catalog,
   const bool wasRead = WriteKeyTree(registry, keyPath, stream, kind);
   WriteCategoriesSection(catalog, stream, kind);
   WriteFiltersSection(catalog, stream, kind);
-  return wasRead;
+  return wasRead && (kind == TextKind::kBackup || catalog.WasReadWhole());
 }
 
 bool WriteKeyTree(Registry& registry, const std::wstring& keyPath, TextWriter& stream,

@@ -126,6 +126,12 @@ bool CategoryCatalog::SaveFiltersFile() const {
   return file.Stream() && file.Stream()->Write(bytes) && file.Commit();
 }
 
+bool CategoryCatalog::WasReadWhole() const {
+  return !filtersRefused_ && std::none_of(categories_.begin(), categories_.end(), [](auto& record) {
+    return record->colorRefused || record->filterFlagsRefused;
+  });
+}
+
 void CategoryCatalog::ResetFilters() {
   filters_ = DefaultFilters();
 }

@@ -74,6 +74,8 @@ class CategoryCatalog {
   std::span<FilterRecord> Filters() { return filters_; }
   std::span<const FilterRecord> Filters() const { return filters_; }
   const AllRecord& All() const { return all_; }
+  // False when a call that was refused left a record at its default.
+  bool WasReadWhole() const;
 
  private:
   std::wstring FiltersPath() const;

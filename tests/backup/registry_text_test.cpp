@@ -134,41 +134,6 @@ TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
 
 // ---- Copies
 
-TEST_F(RegistryText, ACopyBringsBackWhatNoBackupCanCarry) {
-  machine.Start({L"Work\nand rest"});
-  catalog.Categories()[0]->color = 5;
-  catalog.Filters()[2].title = std::wstring(2000, L't');
-  const std::wstring deep = kRoot + L'\\' + std::wstring(255, L'k') + L"\\line\nbreak";
-  const auto put = [&](const std::wstring& name, std::uint32_t type, std::wstring_view text) {
-    ASSERT_TRUE(SetRaw(registry, kUser, deep, name, type, BytesOf(text)));
-  };
-  put(L"long", kTypeString, std::wstring(70'000, L'l') + L'\0');
-  put(std::wstring(16'383, L'n'), kTypeDword, L"\x1234\x5678");
-  put(L"n", kTypeString, L"\0"s);
-  put(L"unended", kTypeString, L"ab");
-  put(L"zeros", kTypeString, L"a\0b\0"s);
-  put(L"lines", kTypeString, L"a\n[K]\n\0"s);
-  put(L"a\"=\"b", kTypeString, L"c\0"s);
-  put(L"a=b %% c", kTypeDword, L"\x0001\x8000");
-  put(L"sentinel", kTypeString, L"not_the_same\0"s);
-  put(L"short", kTypeDword, L"\x0001");
-  put(L"empty", kTypeBinary, L"");
-  put(L"other", 0xFFFFFFF0, L"\x0001\x0002");
-  SetBinary(registry, kUser, deep, L"odd", {1, 2, 3});
-  const std::string tree = Dump(kRoot);
-
-  ByteSink sink;
-  TextWriter writer(sink);
-  EXPECT_TRUE(ExportRegistryText(registry, catalog, kRoot, writer, TextKind::kCopy));
-  EXPECT_TRUE(writer.Flush());
-  registry.DeleteTree(kUser, kRoot);
-  machine.Start({L"Work\nand rest"});
-  ASSERT_TRUE(ImportBytes(registry, catalog, sink.bytes));
-  EXPECT_EQ(Dump(kRoot), tree);
-  EXPECT_EQ(catalog.Categories()[0]->color, 5u);
-  EXPECT_EQ(catalog.Filters()[2].title, std::wstring(2000, L't'));
-}
-
 TEST_F(RegistryText, WhatOneCallRefusesIsAllThatACopyLacks) {
   for (const wchar_t* key : {L"K", L"K\\A", L"K\\B"}) {
     SetDword(registry, kUser, key, L"x", 1);
