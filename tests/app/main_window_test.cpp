@@ -142,7 +142,7 @@ TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
   PumpMessages();
   EXPECT_EQ(CountBroadcasts(), 1);
   EXPECT_FALSE(HasValue(L"IndentItems")) << "edits of before are not saved over the import";
-  EXPECT_TRUE(device.files.Find(L"\\My Documents\\TW_BeforeImport_2000_01_01_000000.twsb"));
+  EXPECT_TRUE(device.files.Find(L"\\My Documents\\TW_BeforeImport_2008_03_14_090500.twsb"));
 }
 
 TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
@@ -170,7 +170,7 @@ TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
   EXPECT_EQ(asked,
             (std::vector<std::wstring>{outside,
                                        L"text 609\n\ntext 2032 text 2033 "
-                                       L"\"TW_BeforeImport_2000_01_01_000000.twsb\"|text 610|0"}));
+                                       L"\"TW_BeforeImport_2008_03_14_090500.twsb\"|text 610|0"}));
   EXPECT_TRUE(IsOpen());
 }
 
