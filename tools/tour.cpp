@@ -37,11 +37,16 @@ void Popup(DrivenProgram& program) {
   program.WaitForPopup();
 }
 
-// Confirms such a name in the file name dialog.
-void ConfirmIllegalName(DrivenProgram& program) {
-  const HWND field = FindWindowExW(program.WaitForPopup(), nullptr, L"Edit", nullptr);
-  SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"May/June"));
-  program.TapOk();
+// Confirms that name in the file name dialog, and waits for the message that follows.
+Step Confirm(const wchar_t* name) {
+  return [=](DrivenProgram& program) {
+    const HWND dialog = program.WaitForPopup();
+    const HWND field = FindWindowExW(dialog, nullptr, L"Edit", nullptr);
+    SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name));
+    program.TapOk();
+    WaitUntil([&] { return GetLastActivePopup(program.Main()) != dialog; });
+    program.WaitForPopup();
+  };
 }
 
 struct View {
@@ -53,6 +58,8 @@ struct View {
 constexpr int kAboutRow = 12;
 constexpr int kImportRow = 1;
 constexpr int kExitRow = 2;
+constexpr wchar_t kEmptyBackup[] = L"before the update";
+constexpr wchar_t kOtherKeys[] = L"from a friend";
 
 const View kViews[] = {
     {"main", {}},
@@ -62,11 +69,15 @@ const View kViews[] = {
     {"tools", {TapRightButton}},
     {"exit-question", {TapRightButton, Press(VK_DOWN, kExitRow), Press(VK_RETURN), Popup}},
     {"export", {TapRightButton, Press(VK_RETURN), Popup}},
-    {"export-illegal-name", {TapRightButton, Press(VK_RETURN), Popup, ConfirmIllegalName, Popup}},
+    {"export-illegal-name", {TapRightButton, Press(VK_RETURN), Popup, Confirm(L"May/June")}},
     {"import", {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup}},
     {"import-no-name",
      {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Press(VK_UP),
       Press(VK_RETURN), Popup}},
+    {"import-refused",
+     {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Confirm(kEmptyBackup)}},
+    {"import-question",
+     {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Confirm(kOtherKeys)}},
     {"about", {Press(VK_DOWN, kAboutRow), Press(VK_RETURN), Popup}},
 };
 
@@ -115,13 +126,21 @@ bool Show(const View& view) {
   return std::fgets(answer, sizeof answer, stdin) != nullptr;
 }
 
-// For the file name dialog, which lists them.
+void MakeBackup(const std::wstring& name, const std::wstring& text) {
+  const std::wstring path = L"C:\\My Documents\\" + name + L".twsb";
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+  DWORD count = 0;
+  WriteFile(file, text.data(), static_cast<DWORD>(text.size() * sizeof(wchar_t)), &count, nullptr);
+  CloseHandle(file);
+}
+
+// For the file name dialog, which lists them, and for the messages of an import.
 void MakeBackups() {
   CreateDirectoryW(L"C:\\My Documents", nullptr);
-  for (const wchar_t* path : {L"C:\\My Documents\\TW_Backup_2026_10_31.twsb",
-                              L"C:\\My Documents\\before the update.twsb"}) {
-    CloseHandle(CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-  }
+  MakeBackup(L"TW_Backup_2026_10_31", L"");
+  MakeBackup(kEmptyBackup, L"");
+  MakeBackup(kOtherKeys, L"\n[Software\\Microsoft\\Today\\Items]\n\"x\"=dword:1\n");
 }
 
 int TakeTour() {
