@@ -56,36 +56,35 @@ void KeyNavigation::Add(HWND control, ControlKind kind) {
 
 void KeyNavigation::Hook(HWND window, HWND control, ControlKind kind) {
   if (!window) return;
-  Entry& entry = entries_.emplace_back(Entry{this, control, kind, nullptr});
-  SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&entry));
-  entry.next = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WindowProc)));
+  Entry& entry = entries_.emplace_back();
+  entry.control = control;
+  entry.kind = kind;
+  entry.hook.Attach(window, [this, &entry](UINT message, WPARAM wParam, LPARAM) {
+    return OnMessage(entry, message, wParam);
+  });
 }
 
-LRESULT CALLBACK KeyNavigation::WindowProc(HWND window, UINT message, WPARAM wParam,
-                                           LPARAM lParam) {
-  const Entry& entry = *reinterpret_cast<Entry*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  KeyNavigation& navigation = *entry.navigation;
+std::optional<LRESULT> KeyNavigation::OnMessage(const Entry& entry, UINT message, WPARAM wParam) {
   switch (message) {
     case WM_KEYDOWN:
-      if (navigation.OnKey(entry, wParam)) return 0;
+      if (OnKey(entry, wParam)) return 0;
       break;
     case WM_CHAR:
-      if (navigation.Swallows(entry, wParam)) return 0;
+      if (Swallows(entry, wParam)) return 0;
       break;
     case WM_MOUSEWHEEL:
       if (entry.kind == ControlKind::kRows || IsDropped(entry.control)) break;
-      navigation.owner_.OnWheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      owner_.OnWheel(GET_WHEEL_DELTA_WPARAM(wParam));
       return 0;
     case WM_SETFOCUS:
       if (entry.kind == ControlKind::kRows) FocusARow(entry.control);
-      navigation.owner_.OnFocusMoved(entry.control);
+      owner_.OnFocusMoved(entry.control);
       break;
     case WM_KILLFOCUS:
-      navigation.owner_.OnFocusMoved(nullptr);
+      owner_.OnFocusMoved(nullptr);
       break;
   }
-  return CallWindowProcW(entry.next, window, message, wParam, lParam);
+  return std::nullopt;
 }
 
 bool KeyNavigation::OnKey(const Entry& entry, WPARAM key) {

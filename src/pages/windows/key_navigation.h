@@ -6,6 +6,9 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
+
+#include "ui/control_hook.h"
 
 namespace tidewell {
 
@@ -39,14 +42,14 @@ class KeyNavigation {
 
  private:
   struct Entry {
-    KeyNavigation* navigation;
     HWND control;  // the list itself, also for the edit inside of it
     ControlKind kind;
-    WNDPROC next;
+    ControlHook hook;
   };
 
-  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void Hook(HWND window, HWND control, ControlKind kind);
+  // The answer to a message that the control is not to have.
+  std::optional<LRESULT> OnMessage(const Entry& entry, UINT message, WPARAM wParam);
   bool OnKey(const Entry& entry, WPARAM key);
   bool OnArrow(const Entry& entry, int direction, bool vertical);
   bool OnAction(const Entry& entry, bool isSpace);
