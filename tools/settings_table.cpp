@@ -34,15 +34,17 @@ included.
 
 | When | Value | Rule |
 |---|---|---|
-| load | `dNumOfDays` | outside 1 to 120 it becomes 7 |
-| load | `TimelinesLength` | becomes 18 - `TimelinesStart` when both and 6 exceed 24 |
+)";
+
+constexpr const wchar_t* kOtherRepairs =
+    LR"(| load | `TimelinesLength` | becomes 18 - `TimelinesStart` when both and 6 exceed 24 |
 | load | `CalTitlesOrder0` to `5` | become 0 to 5 unless they are a permutation of those |
 | load | `ActiveTab` | becomes 1 unless it is the order of an enabled built-in tab; becomes the order of the `DfltTab` tab when `DfltTabOnStartup` is 1 and `DfltTab` is below 6 |
 | load | tab orders | become 1, 2, 3 ... in the order of the list |
-| save | `dHeightLimitLandscape` | outside 60 to 500 it becomes 0 |
 | save | `PinnedMonthlyClr` | becomes 0 when it is 1 and `dHeightLimit` is below ScaleX(200) |
 
-A repaired value counts as changed and reaches the registry at the next save.
+A repaired value counts as changed and reaches the registry at the next save, but for `ActiveTab`,
+which is never saved, and for a repair that only follows from a value that could not be read.
 
 ## Read beside the settings
 
@@ -193,15 +195,38 @@ class TableWriter final : public SettingVisitor {
   Columns columns_ = Columns::kNone;
 };
 
+// The repairs that stand in the settings' own lines.
+class RangeWriter final : public SettingVisitor {
+ public:
+  void Visit(DwordSetting& setting) override {
+    const ValueRange& range = setting.Range();
+    if (range.checked == ValueRange::Checked::kNever) return;
+    text_ += std::wstring(range.checked == ValueRange::Checked::kAtLoad ? L"| load" : L"| save") +
+             L" | " + Code(setting.Name()) + L" | outside " + FormatDecimal(range.first) + L" to " +
+             FormatDecimal(range.last) + L" it becomes " + DescribeDefault(setting.DefaultRule()) +
+             L" |\n";
+  }
+  void Visit(StringSetting&) override {}
+  void Visit(FlagArraySetting&) override {}
+  void Visit(FontSetting&) override {}
+
+  std::wstring Take() { return std::move(text_); }
+
+ private:
+  std::wstring text_;
+};
+
 // Markdown in plain ASCII, lines ended by a line feed.
 std::string SettingsTable() {
   SettingsStore store;
+  RangeWriter ranges;
   TableWriter writer;
   for (SettingGroup* group : store.Groups()) {
+    group->Accept(ranges);
     writer.Start(group->Key());
     group->Accept(writer);
   }
-  const std::wstring text = kIntroduction + writer.Take();
+  const std::wstring text = kIntroduction + ranges.Take() + kOtherRepairs + writer.Take();
   return {text.begin(), text.end()};
 }
 

@@ -60,6 +60,7 @@ void Setting::Load(RegistryKey* key, const LoadContext& context) {
 }
 
 void Setting::Save(RegistryKey* key) {
+  PrepareSave();
   if (key && !IsReadOnly() && IsChanged()) Write(*key);
 }
 
@@ -81,6 +82,15 @@ std::uint32_t DwordSetting::Set(std::uint32_t value) {
 void DwordSetting::Read(RegistryKey* key, const LoadContext& context, bool& refused) {
   default_ = rule_.Resolve(context);
   value_ = ReadDword(key, Name(), default_, &refused);
+  if (range_.checked == ValueRange::Checked::kAtLoad) KeepInRange();
+}
+
+void DwordSetting::PrepareSave() {
+  if (range_.checked == ValueRange::Checked::kAtSave) KeepInRange();
+}
+
+void DwordSetting::KeepInRange() {
+  if (value_ != default_ && !range_.Has(value_)) Set(default_);
 }
 
 void DwordSetting::Write(RegistryKey& key) {

@@ -70,6 +70,7 @@ class Setting {
   // A null key is a refusal.
   virtual void Read(RegistryKey* key, const LoadContext& context, bool& refused) = 0;
   virtual void Write(RegistryKey& key) = 0;
+  virtual void PrepareSave() {}
 
   SettingKey key_;
   std::wstring name_;
@@ -82,6 +83,8 @@ class DwordSetting final : public Setting {
  public:
   DwordSetting(SettingGroup& group, const wchar_t* name, DwordDefault rule, Access access = kSaved)
       : Setting(group, name, access), rule_(rule) {}
+  DwordSetting(SettingGroup& group, const wchar_t* name, DwordDefault rule, ValueRange range)
+      : Setting(group, name, kSaved), rule_(rule), range_(range) {}
   DwordSetting(SettingKey key, std::wstring name, DwordDefault rule, Access access = kSaved)
       : Setting(key, std::move(name), access), rule_(rule) {}
 
@@ -89,6 +92,7 @@ class DwordSetting final : public Setting {
   std::int32_t Signed() const { return static_cast<std::int32_t>(value_); }
   std::uint32_t Default() const { return default_; }
   const DwordDefault& DefaultRule() const { return rule_; }
+  const ValueRange& Range() const { return range_; }
   // Marks the setting changed, also when the value is the same. Returns the previous value.
   std::uint32_t Set(std::uint32_t value);
   // Puts right what stands there without a change: it is never saved.
@@ -98,8 +102,11 @@ class DwordSetting final : public Setting {
  private:
   void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey& key) override;
+  void PrepareSave() override;
+  void KeepInRange();
 
   DwordDefault rule_;
+  ValueRange range_;
   std::uint32_t value_ = 0;
   std::uint32_t default_ = 0;
 };

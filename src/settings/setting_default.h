@@ -37,6 +37,27 @@ constexpr DwordDefault ScaledY(std::uint32_t length) {
 }
 inline constexpr DwordDefault kFirstDayOfWeek{DwordDefault::Rule::kFirstDayOfWeek, 0};
 
+// The signed numbers that a setting may have beside its default, both ends included; any other is
+// replaced by the default, as a change that the next save writes.
+struct ValueRange {
+  enum class Checked : std::uint8_t { kNever, kAtLoad, kAtSave };
+
+  bool Has(std::uint32_t value) const {
+    const auto number = static_cast<std::int32_t>(value);
+    return first <= number && number <= last;
+  }
+
+  Checked checked = Checked::kNever;
+  std::int32_t first = 0;
+  std::int32_t last = 0;
+};
+constexpr ValueRange WithinAtLoad(std::int32_t first, std::int32_t last) {
+  return {ValueRange::Checked::kAtLoad, first, last};
+}
+constexpr ValueRange WithinAtSave(std::int32_t first, std::int32_t last) {
+  return {ValueRange::Checked::kAtSave, first, last};
+}
+
 struct StringDefault {
   enum class Rule : std::uint8_t { kLiteral, kInstallFolder, kOtherSetting };
 

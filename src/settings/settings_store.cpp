@@ -112,9 +112,6 @@ void SettingsStore::LoadInstallPaths(Registry& registry, LoadContext& context) {
 }
 
 void SettingsStore::RepairCalendar() {
-  const std::int32_t days = calendar.dNumOfDays.Signed();
-  if (days < 1 || days > 120) calendar.dNumOfDays.Set(7);
-
   const std::int64_t start = calendar.TimelinesStart.Signed();
   if (start + calendar.TimelinesLength.Signed() + 6 > 24) {
     const std::array<const DwordSetting*, 2> parts = {&calendar.TimelinesStart,
@@ -164,8 +161,6 @@ void SettingsStore::ChooseActiveTab() {
 }
 
 void SettingsStore::Save(Registry& registry, const ScreenScale& scale) {
-  const std::int32_t landscape = root.dHeightLimitLandscape.Signed();
-  if (landscape < 60 || landscape > 500) SetIfDifferent(root.dHeightLimitLandscape, 0);
   SaveGroup(registry, root);
 
   // A pinned month needs the room.

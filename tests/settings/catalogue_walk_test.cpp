@@ -9,7 +9,10 @@ template <typename Act>
 void WithOwnValues(SettingGroup& group, Act act) {
   const SettingLines lines(group);
   std::uint32_t next = 5000;
-  for (DwordSetting* setting : lines.dwords) act(*setting, ++next);
+  for (DwordSetting* setting : lines.dwords) {
+    const bool isFree = setting->Range().checked == ValueRange::Checked::kNever;
+    act(*setting, isFree ? ++next : static_cast<std::uint32_t>(setting->Range().last));
+  }
   for (StringSetting* setting : lines.strings) act(*setting, L"text " + std::to_wstring(++next));
 }
 
@@ -61,7 +64,8 @@ TEST_F(CatalogueWalkTest, EveryValueIsReadWholeOrNotAtAll) {
         for (Setting* setting : lines.all) key.Get()->Set(setting->Name(), type, data);
         group->Load(key.Get(), {});
         for (DwordSetting* setting : lines.dwords) {
-          EXPECT_EQ(setting->Value(), size == 4 ? 0x41414141u : setting->Default());
+          const bool fits = size == 4 && setting->Range().checked != ValueRange::Checked::kAtLoad;
+          EXPECT_EQ(setting->Value(), fits ? 0x41414141u : setting->Default());
         }
         for (StringSetting* setting : lines.strings) {
           EXPECT_EQ(setting->Value(), TextOfBytes(data));

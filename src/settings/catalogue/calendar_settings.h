@@ -8,7 +8,7 @@ namespace tidewell {
 struct CalendarSettings : SettingGroup {
   CalendarSettings() : SettingGroup(SettingKey::kCalendar) {}
 
-  DwordSetting dNumOfDays{*this, L"dNumOfDays", 7};  // 1 to 120
+  DwordSetting dNumOfDays{*this, L"dNumOfDays", 7, WithinAtLoad(1, 120)};
   DwordSetting HideEmptyGroups{*this, L"HideEmptyGroups", 1};
   DwordSetting HideEmptyGroupsItem{*this, L"HideEmptyGroupsItem", 0};
   DwordSetting SEventsOnClr{*this, L"SEventsOnClr", 0};

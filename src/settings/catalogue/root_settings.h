@@ -19,8 +19,8 @@ struct RootSettings : SettingGroup {
   DwordSetting IndentItems{*this, L"IndentItems", 0};
   DwordSetting AutoHeight{*this, L"AutoHeight", 1};
   DwordSetting dHeightLimit{*this, L"dHeightLimit", ScaledY(160)};
-  // 60 to 500, or 0: no limit of its own in landscape.
-  DwordSetting dHeightLimitLandscape{*this, L"dHeightLimitLandscape", 0};
+  // 0: no limit of its own in landscape.
+  DwordSetting dHeightLimitLandscape{*this, L"dHeightLimitLandscape", 0, WithinAtSave(60, 500)};
   DwordSetting DPadEnabled{*this, L"DPadEnabled", 1};
   DwordSetting DPadCompleteAction{*this, L"DPadCompleteAction", 2};
   DwordSetting DPadDoubleClickTabSwitching{*this, L"DPadDoubleClickTabSwitching", 0};
