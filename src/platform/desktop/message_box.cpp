@@ -244,8 +244,9 @@ void Box::MakeText(int width, bool scrolls) {
   textControl_ =
       MakePart(L"Edit", text_, ES_MULTILINE | ES_READONLY | (scrolls ? WS_VSCROLL | WS_TABSTOP : 0),
                kTextId);
-  SendMessageW(textControl_, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   MoveWindow(textControl_, 0, 0, width, Scaled(kIconSize), FALSE);
+  // Once it has a width: breaking a long text for none takes a second.
+  SendMessageW(textControl_, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
 }
 
 bool Box::HasKey(int command) const {

@@ -89,6 +89,9 @@ TEST(MessageBoxTest, ATextOfAnyLengthKeepsToTheScreenAndCanBeReadWhole) {
   for (const std::wstring& each : {text.substr(0, 21), text.substr(0, 420), text, path}) {
     SCOPED_TRACE(each.size());
     const InModalLoop act([&] {
+      TurnScreen();
+      ExpectPartsApart(Box());
+      TurnScreen();
       ExpectPartsApart(Box());
       const HWND shown = FindWindowExW(Box(), nullptr, L"Edit", nullptr);
       const LRESULT lines = SendMessageW(shown, EM_GETLINECOUNT, 0, 0);
