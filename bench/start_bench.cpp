@@ -1,5 +1,6 @@
 // Start and memory of the installed program beside a program that only shows an empty window.
-// Both count as started once their window is visible, answers, and has nothing left to paint.
+// Both count as started once their window is visible, answers, and has nothing left to paint. Then
+// what the program's start is made of.
 #include <windows.h>
 
 #include <psapi.h>
@@ -8,6 +9,7 @@
 #include <string>
 
 #include "bench/figures.h"
+#include "bench/start_parts.h"
 #include "bench/stopwatch.h"
 #include "tests/device/driven_program.h"
 
@@ -46,16 +48,57 @@ Started Start(const std::wstring& path, const wchar_t* windowClass) {
   return {milliseconds, PeakMebibytes(process.Handle())};
 }
 
-std::wstring EmptyProgram() {
+// A program that lies beside this one.
+std::wstring Beside(const wchar_t* name) {
   wchar_t path[MAX_PATH];
   GetModuleFileNameW(nullptr, path, MAX_PATH);
   const std::wstring whole = path;
-  return whole.substr(0, whole.rfind(L'\\') + 1) + L"empty_window.exe";
+  return whole.substr(0, whole.rfind(L'\\') + 1) + name;
+}
+
+// What one start is made of, in milliseconds; false when it did not say.
+bool TakeParts(double (&parts)[kStartPartCount]) {
+  SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+  HANDLE reading = nullptr;
+  HANDLE writing = nullptr;
+  if (!CreatePipe(&reading, &writing, &inherited, 0)) return false;
+  DWORD count = 0;
+  {
+    const device::Process process(Beside(L"start_parts.exe"), L"", writing);
+    CloseHandle(writing);
+    ReadFile(reading, parts, sizeof parts, &count, nullptr);
+    process.WaitForExit();
+  }
+  CloseHandle(reading);
+  return count == sizeof parts;
+}
+
+std::string FormatMilliseconds(double milliseconds) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.3g ms", milliseconds);
+  return text;
+}
+
+void PrintParts() {
+  Samples samples[kStartPartCount];
+  for (int round = -kWarmUps; round < kRounds; ++round) {
+    double parts[kStartPartCount];
+    if (!TakeParts(parts)) {
+      std::printf("start: a start did not say what it is made of\n");
+      return;
+    }
+    for (std::size_t i = 0; round >= 0 && i < kStartPartCount; ++i) samples[i].Add(parts[i]);
+  }
+  for (std::size_t i = 0; i < kStartPartCount; ++i) {
+    PrintFigure(kStartParts[i], samples[i].Median(),
+                Spread(samples[i].Quantile(0.25), samples[i].Quantile(0.75)), kNoAim, " ms",
+                "at least " + FormatMilliseconds(samples[i].Quantile(0)));
+  }
 }
 
 int Run() {
   const std::wstring program = std::wstring(device::kInstallFolder) + L"\\TidewellSettings.exe";
-  const std::wstring empty = EmptyProgram();
+  const std::wstring empty = Beside(L"empty_window.exe");
   Comparison start;
   Samples memory;
   for (int round = -kWarmUps; round < kRounds; ++round) {
@@ -72,6 +115,7 @@ int Run() {
   PrintRatio("start to the painted list / empty window", start, 1.5, "ms");
   PrintFigure("peak memory above the empty window", memory.Median(),
               Spread(memory.Quantile(0.25), memory.Quantile(0.75)), 4, " MiB", "");
+  PrintParts();
   return 0;
 }
 
