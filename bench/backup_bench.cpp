@@ -205,7 +205,7 @@ bool CompareRebuild() {
   Comparison comparison;
   for (int round = 0; round < kRounds; ++round) {
     const Stopwatch watch;
-    PimCategorySource source(BelowTemp(L"no icons"), volume);
+    PimCategorySource source(machine.files, BelowTemp(L"no icons"), volume);
     catalog.Rebuild(source, L"All");
     const double ours = watch.Milliseconds();
     const Stopwatch bare;

@@ -26,8 +26,10 @@ int AskInMessageBox(HWND owner, const std::wstring& text, const std::wstring& ca
   return MessageBoxW(owner, text.c_str(), caption.c_str(), buttons);
 }
 
-std::unique_ptr<CategorySource> OpenPimCategories(const std::wstring& iconsFolder) {
-  return std::make_unique<PimCategorySource>(iconsFolder);
+CategorySourceFactory OpenPimCategories(Files& files) {
+  return [&files](const std::wstring& iconsFolder) {
+    return std::make_unique<PimCategorySource>(files, iconsFolder);
+  };
 }
 
 // True when the program has a window now and goes on.
@@ -57,7 +59,8 @@ int Run(HINSTANCE instance, std::wstring_view commandLine, int showCommand) {
   InstallDeviceShell();
   WindowsMachine machine;
   MainWindow window(instance, machine.Door(),
-                    {CreatePage, OpenPimCategories, AskInMessageBox, ChooseBackupInDialog});
+                    {CreatePage, OpenPimCategories(machine.files), AskInMessageBox,
+                     ChooseBackupInDialog});
   if (!StartInstance(window, StartModeOf(commandLine), showCommand)) return 0;
   return RunMessageLoop(instance);
 }

@@ -1,9 +1,9 @@
 #include "categories/pim_categories.h"
 
-#include <aygshell.h>
-
 #include <array>
+#include <utility>
 
+#include "platform/bitmaps.h"
 #include "platform/pim_properties.h"
 
 namespace tidewell {
@@ -36,16 +36,15 @@ bool Has(const CEPROPVAL& value, CEPROPID id) {
   return value.propid == id && (value.wFlags & CEDB_PROPNOTFOUND) == 0;
 }
 
-std::unique_ptr<CategoryIcon> LoadIconOf(const std::wstring& category,
+std::unique_ptr<CategoryIcon> LoadIconOf(const std::wstring& category, Files& files,
                                          const std::wstring& iconsFolder) {
-  const std::wstring path = iconsFolder + L"\\" + category + L".bmp";
-  const HBITMAP bitmap = SHLoadDIBitmap(path.c_str());
-  return bitmap ? std::make_unique<BitmapIcon>(bitmap) : nullptr;
+  Bitmap bitmap = LoadBitmapFile(files, iconsFolder + L"\\" + category + L".bmp");
+  return bitmap ? std::make_unique<BitmapIcon>(std::move(bitmap)) : nullptr;
 }
 
 }  // namespace
 
-void ReadPimCategories(PimDatabase& database, const std::wstring& volumePath,
+void ReadPimCategories(PimDatabase& database, const std::wstring& volumePath, Files& files,
                        const std::wstring& iconsFolder, CategoryCatalog& catalog) {
   if (!database.Open(kCategoryDatabase, true, nullptr, nullptr, volumePath)) return;
   if (database.Seek(CEDB_SEEK_BEGINNING, 0) == 0) return;
@@ -66,7 +65,7 @@ void ReadPimCategories(PimDatabase& database, const std::wstring& volumePath,
       category.flag = Has(values[2], ids[2]) && values[2].val.lVal == 1;
     }
     if (CategoryRecord* record = catalog.Add(category)) {
-      record->bitmap = LoadIconOf(record->name, iconsFolder);
+      record->bitmap = LoadIconOf(record->name, files, iconsFolder);
     }
     buffer.Release();
   }

@@ -20,7 +20,7 @@ class ResourceLibrary {
 class ResourceLibraries {
  public:
   virtual ~ResourceLibraries() = default;
-  // Null when the file is absent or no library.
+  // Null when the file is absent, damaged or no library.
   virtual std::unique_ptr<ResourceLibrary> Load(const std::wstring& path) = 0;
 };
 

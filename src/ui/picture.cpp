@@ -1,11 +1,12 @@
 #include "ui/picture.h"
 
+#include "platform/bitmaps.h"
+
 namespace tidewell {
 
 Picture::Picture(HMODULE module, WORD id) {
   if (!module) return;
-  bitmap_ = Bitmap(static_cast<HBITMAP>(
-      LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  bitmap_ = LoadBitmapResource(module, id);
   BITMAP facts{};
   if (!bitmap_ || !GetObjectW(bitmap_.Get(), sizeof facts, &facts)) return;
   width_ = facts.bmWidth;

@@ -11,7 +11,7 @@ class Picture {
  public:
   // No picture: draws nothing, has no size.
   Picture() = default;
-  // No picture either when `module` is null or holds no such bitmap.
+  // No picture either when `module` is null or holds no such bitmap, or a damaged one.
   Picture(HMODULE module, WORD id);
 
   explicit operator bool() const { return static_cast<bool>(bitmap_); }

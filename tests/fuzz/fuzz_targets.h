@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <span>
 
@@ -14,9 +15,23 @@ void import_flow(Bytes bytes);
 void filters_file(Bytes bytes);
 void pim_volume(Bytes bytes);
 void settings_load(Bytes bytes);
+// Both tell whether the file is whole.
+bool bitmap_check(Bytes bytes);
+bool library_check(Bytes bytes);
 
 inline void Require(bool promise) {
   if (!promise) std::abort();
+}
+
+// That a place is within the bytes, and the little-endian number there.
+inline void RequireIn(Bytes bytes, std::uint64_t at, std::uint64_t size) {
+  Require(at <= bytes.size() && size <= bytes.size() - at);
+}
+inline std::uint64_t NumberIn(Bytes bytes, std::uint64_t at, std::size_t size) {
+  RequireIn(bytes, at, size);
+  std::uint64_t number = 0;
+  while (size-- > 0) number = number << 8 | std::to_integer<std::uint64_t>(bytes[at + size]);
+  return number;
 }
 
 }  // namespace tidewell::fuzz

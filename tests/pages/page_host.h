@@ -9,6 +9,7 @@
 #include "pages/page_list.h"
 #include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
+#include "platform/windows/windows_files.h"
 #include "platform/windows/windows_libraries.h"
 #include "tests/pages/fake_view.h"
 #include "tests/pages/page_fixture.h"
@@ -34,7 +35,8 @@ class PageHost : public PageFixture {
     MoveWindow(host_.Get(), 0, strip, width, height - strip, FALSE);
   }
   void UseLanguage(const std::wstring& library) {
-    language_ = WindowsLibraries().Load(LANGUAGE_FOLDER + library);
+    WindowsFiles files;
+    language_ = WindowsLibraries(files).Load(LANGUAGE_FOLDER + library);
     ASSERT_TRUE(language_) << "not built";
     context.language = language_.get();
   }

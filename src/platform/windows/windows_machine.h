@@ -14,7 +14,7 @@ struct WindowsMachine {
   WindowsRegistry registry;
   WindowsFiles files;
   WindowsLocale locale;
-  WindowsLibraries libraries;
+  WindowsLibraries libraries{files};
   WindowsSystem system;
 
   Machine Door() { return {registry, files, locale, libraries, system}; }

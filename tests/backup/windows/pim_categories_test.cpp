@@ -46,7 +46,7 @@ class PimCategories : public testing::Test {
   void Put(std::string_view text) { PutFile(L"pim.vol", std::as_bytes(std::span(text))); }
   // Reads the volume anew: names, ids, flags and icons, a category a line.
   std::string Shown() {
-    PimCategorySource source(folder, Volume());
+    PimCategorySource source(files, folder, Volume());
     machine.catalog.Rebuild(source, L"All");
     std::string text;
     for (const auto& category : machine.catalog.Categories()) {
@@ -103,7 +103,7 @@ TEST_F(PimCategories, AClosedDatabaseAnswersNothingAndLeavesNoHandle) {
 }
 
 TEST_F(PimCategories, TheSampleDeviceHasElevenCategories) {
-  PimCategorySource source(folder, L"" SAMPLE_VOLUME);
+  PimCategorySource source(files, folder, L"" SAMPLE_VOLUME);
   machine.catalog.Rebuild(source, L"All");
   EXPECT_EQ(machine.catalog.Categories().size(), 11u);
   EXPECT_TRUE(machine.catalog.FindCategory(L"Ideas")->pimFlag);

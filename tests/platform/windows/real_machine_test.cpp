@@ -3,6 +3,7 @@
 
 #include <shellapi.h>
 
+#include "backup/text_stream.h"
 #include "platform/text.h"
 #include "platform/windows/windows_machine.h"
 #include "tests/platform/contracts.h"
@@ -78,8 +79,8 @@ TEST(WindowsLocale, TellsTheFactsOfTheLocaleItWasGivenAndNoneOfAnUnknownOne) {
 }
 
 TEST(WindowsLibraries, GiveTextsByIdAndNothingForOthers) {
-  WindowsLibraries libraries;
-  const auto library = libraries.Load(L"sample_library.dll");
+  WindowsMachine machine;
+  const auto library = machine.libraries.Load(L"" SAMPLE_LIBRARY);
   ASSERT_TRUE(library);
   EXPECT_EQ(library->FindText(101), L"Gr\u00F6\u00DFe, \u03A9, \u0416");
   EXPECT_EQ(library->FindText(60000), L"Last");
@@ -91,11 +92,15 @@ TEST(WindowsLibraries, GiveTextsByIdAndNothingForOthers) {
 
 TEST(WindowsLibraries, AFileThatIsNoLibraryIsNone) {
   WindowsFilesUnderTest underTest;
-  WindowsLibraries libraries;
+  WindowsLibraries libraries(underTest.Door());
   const std::wstring path = underTest.Folder() + L"\\broken.dll";
   EXPECT_EQ(libraries.Load(path), nullptr);
-  EXPECT_TRUE(underTest.Door().OpenForWriting(path)->Close());
-  EXPECT_EQ(libraries.Load(path), nullptr);
+  const std::vector<std::byte> whole = *ReadWholeFile(underTest.Door(), L"" SAMPLE_LIBRARY);
+  for (const std::size_t size : {whole.size(), whole.size() / 2, std::size_t{0}}) {
+    const auto file = underTest.Door().OpenForWriting(path);
+    ASSERT_TRUE(file->Write(std::span(whole).first(size)) && file->Close());
+    EXPECT_EQ(libraries.Load(path) != nullptr, size == whole.size()) << size;
+  }
 }
 
 }  // namespace
