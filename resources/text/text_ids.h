@@ -202,6 +202,7 @@
 #define IDS_FOLDER_EMPTY 2011       // No entries
 #define IDS_FOLDER_UNREADABLE 2012  // This folder cannot be read.
 #define IDS_FOLDER_ROOT 2013        // My Device
+#define IDS_START_FAILED 2020       // The start failed and nothing was changed: restart the device.
 #define IDS_OK 2060                 // OK
 #define IDS_YES 2061                // Yes
 #define IDS_NO 2062                 // No

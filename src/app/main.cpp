@@ -1,6 +1,7 @@
 // The program's entry: the command line, one instance, the message loop.
 #include <windows.h>
 
+#include <optional>
 #include <string_view>
 
 #include "app/main_window.h"
@@ -14,6 +15,8 @@
 namespace tidewell {
 
 namespace {
+
+constexpr int kStartNotCompleted = 2;  // the exit code; docs/design.md
 
 enum class StartMode { kNormal, kAbout };
 
@@ -32,16 +35,20 @@ CategorySourceFactory OpenPimCategories(Files& files) {
   };
 }
 
-// True when the program has a window now and goes on.
-bool StartInstance(MainWindow& window, StartMode mode, int showCommand) {
+// Nothing when the program has a window now and goes on, else its exit code.
+std::optional<int> StartInstance(MainWindow& window, StartMode mode, int showCommand) {
   StartTurn turn;
-  if (!turn.IsOurs() || BringRunningInstanceForward()) return false;
-  if (!window.Create()) return false;
+  if (!turn.IsOurs() || BringRunningInstanceForward()) return 0;
+  if (!window.Create()) return 0;
   turn.End();
+  if (!window.IsComplete()) {
+    window.GiveUp();
+    return kStartNotCompleted;
+  }
   if (mode == StartMode::kAbout) window.ShowAbout();
   ShowWindow(window.Window(), showCommand);
   UpdateWindow(window.Window());
-  return true;
+  return std::nullopt;
 }
 
 int RunMessageLoop(HINSTANCE instance) {
@@ -58,11 +65,11 @@ int RunMessageLoop(HINSTANCE instance) {
 int Run(HINSTANCE instance, std::wstring_view commandLine, int showCommand) {
   InstallDeviceShell();
   WindowsMachine machine;
-  MainWindow window(instance, machine.Door(),
-                    {CreatePage, OpenPimCategories(machine.files), AskInMessageBox,
-                     ChooseBackupInDialog});
-  if (!StartInstance(window, StartModeOf(commandLine), showCommand)) return 0;
-  return RunMessageLoop(instance);
+  MainWindow window(
+      instance, machine.Door(),
+      {CreatePage, OpenPimCategories(machine.files), AskInMessageBox, ChooseBackupInDialog});
+  const auto exitCode = StartInstance(window, StartModeOf(commandLine), showCommand);
+  return exitCode ? *exitCode : RunMessageLoop(instance);
 }
 
 }  // namespace

@@ -20,8 +20,17 @@ namespace tidewell {
 
 namespace {
 
+// Where the language library itself may be what broke the start.
+constexpr const wchar_t* kStartFailedText =
+    L"The start failed and nothing was changed: restart the device.";
+
 POINT PointOf(LPARAM lParam) {
   return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+// What a window is told that was never completed.
+bool BelongsToItsLife(UINT message) {
+  return message == WM_CREATE || message == WM_DESTROY || message == WM_NCDESTROY;
 }
 
 HMODULE ModuleOf(const ResourceLibrary* library) {
@@ -53,6 +62,14 @@ bool MainWindow::Create() {
                          this) != nullptr;
 }
 
+void MainWindow::GiveUp() {
+  // A library that the settings were loaded with has given texts already.
+  const ResourceLibrary* language = settings_.IsLoaded() ? language_.get() : nullptr;
+  const std::wstring text = TextOf(language, IDS_START_FAILED, kStartFailedText);
+  DestroyWindow(window_);
+  parts_.ask(nullptr, text, kMainWindowCaption, MB_OK);
+}
+
 LRESULT CALLBACK MainWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   MainWindow* mainWindow = OwnerOf(&MainWindow::window_, window, message, lParam);
   return mainWindow ? mainWindow->Handle(message, wParam, lParam)
@@ -60,6 +77,9 @@ LRESULT CALLBACK MainWindow::WindowProc(HWND window, UINT message, WPARAM wParam
 }
 
 LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (!isComplete_ && !BelongsToItsLife(message)) {
+    return DefWindowProcW(window_, message, wParam, lParam);
+  }
   switch (message) {
     case WM_CREATE:
       return OnCreate();
@@ -118,6 +138,7 @@ LRESULT MainWindow::OnCreate() {
   CreateFonts();
   LoadCategories();
   ShowMainEntries();
+  isComplete_ = true;
   return 0;
 }
 
@@ -136,7 +157,8 @@ LRESULT MainWindow::OnDestroy() {
   language_.reset();
   pictures_.reset();
   imaging_.reset();
-  PostQuitMessage(0);
+  // Before the message loop nothing is there to be ended but a message to the user.
+  if (isComplete_) PostQuitMessage(0);
   return 0;
 }
 

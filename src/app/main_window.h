@@ -49,6 +49,11 @@ class MainWindow {
 
   // Loads everything and shows the main entries. False when the window could not be made.
   bool Create();
+  // False when the window was made but its loading broke off: the system swallows an access
+  // violation there and hands out the window all the same. It answers nothing and saves nothing.
+  bool IsComplete() const { return isComplete_; }
+  // Lets go of a window that is not complete, and tells the user what to do.
+  void GiveUp();
   void ShowAbout();
 
   HWND Window() const { return window_; }
@@ -97,6 +102,7 @@ class MainWindow {
   Machine machine_;
   MainWindowParts parts_;
   HWND window_ = nullptr;
+  bool isComplete_ = false;
   SHACTIVATEINFO activation_{};
   ScreenScale scale_;
   SettingsStore settings_;

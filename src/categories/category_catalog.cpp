@@ -46,6 +46,7 @@ CategoryCatalog::CategoryCatalog(const Machine& machine, const SettingsStore& st
 }
 
 void CategoryCatalog::Rebuild(CategorySource& source, std::wstring allName) {
+  isLoaded_ = false;
   selections_.fill(&all_);
   categories_.clear();
   all_.name = std::move(allName);
@@ -53,6 +54,7 @@ void CategoryCatalog::Rebuild(CategorySource& source, std::wstring allName) {
   LoadCategoryValues();
   LoadFiltersFile();
   ResolveSelections();
+  isLoaded_ = true;
 }
 
 CategoryRecord* CategoryCatalog::Add(const PimCategory& category) {
@@ -88,6 +90,7 @@ void CategoryCatalog::LoadCategoryValues() {
 }
 
 void CategoryCatalog::SaveCategoryValues() const {
+  if (!isLoaded_) return;
   const FlushedKey key = CreateSettingKey(machine_.registry, SettingKey::kCategories);
   if (!key.Get()) return;
   for (const auto& category : categories_) {
@@ -119,7 +122,7 @@ bool CategoryCatalog::LoadFiltersFile() {
 }
 
 bool CategoryCatalog::SaveFiltersFile() const {
-  if (filtersRefused_ && filters_ == DefaultFilters()) return false;
+  if (!isLoaded_ || (filtersRefused_ && filters_ == DefaultFilters())) return false;
   const std::vector<std::byte> bytes = BytesOf(FormatFilters(filters_));
   if (ReadWholeFile(machine_.files, FiltersPath()) == bytes) return true;
   ReplacementFile file(machine_.files, FiltersPath());

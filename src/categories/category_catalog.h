@@ -48,13 +48,14 @@ class CategoryCatalog {
 
   void LoadCategoryValues();
   // Writes what the registry does not hold already; a value of no meaning is deleted, unless it
-  // only stands for one that was refused.
+  // only stands for one that was refused. Nothing before a rebuild has come to its end.
   void SaveCategoryValues() const;
 
   // False when there is no file with exactly 32 filters; the filters are the defaults then.
   bool LoadFiltersFile();
-  // Leaves the old file or the whole new one. False when it could not be written, and when the
-  // filters are but the defaults in place of a file that is there and could not be read.
+  // Leaves the old file or the whole new one. False when it could not be written, before a rebuild
+  // has come to its end, and when the filters are but the defaults in place of a file that is there
+  // and could not be read.
   bool SaveFiltersFile() const;
   void ResetFilters();
 
@@ -85,6 +86,7 @@ class CategoryCatalog {
   std::vector<std::unique_ptr<CategoryRecord>> categories_;
   FilterSet filters_ = DefaultFilters();
   bool filtersRefused_ = false;
+  bool isLoaded_ = false;
   AllRecord all_;
   std::array<Selection, kRestrictedViewCount> selections_;
 };

@@ -70,6 +70,7 @@ std::array<SettingGroup*, 15> SettingsStore::Groups() {
 
 void SettingsStore::Load(Machine& machine, const ScreenScale& scale,
                          std::unique_ptr<ResourceLibrary>& language) {
+  isLoaded_ = false;
   Registry& registry = machine.registry;
   LoadContext context;
   context.scale = scale;
@@ -100,6 +101,7 @@ void SettingsStore::Load(Machine& machine, const ScreenScale& scale,
   LoadTabs(registry, context, language.get());
   ChooseActiveTab();
   LoadGroup(registry, categories, context);
+  isLoaded_ = true;
 }
 
 void SettingsStore::LoadInstallPaths(Registry& registry, LoadContext& context) {
@@ -161,6 +163,7 @@ void SettingsStore::ChooseActiveTab() {
 }
 
 void SettingsStore::Save(Registry& registry, const ScreenScale& scale) {
+  if (!isLoaded_) return;
   SaveGroup(registry, root);
 
   // A pinned month needs the room.

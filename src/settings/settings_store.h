@@ -41,8 +41,10 @@ class SettingsStore {
   // one, else by the English one; null when neither loads. What cannot be read is its default.
   void Load(Machine& machine, const ScreenScale& scale, std::unique_ptr<ResourceLibrary>& language);
   // Writes what was changed, and what the registry does not hold of the hosted tabs. What the load
-  // was refused is left as it is unless it was set since. Failures are silent.
+  // was refused is left as it is unless it was set since. Nothing before a load has come to its
+  // end. Failures are silent.
   void Save(Registry& registry, const ScreenScale& scale);
+  bool IsLoaded() const { return isLoaded_; }
 
   // In load order.
   std::array<SettingGroup*, 15> Groups();
@@ -79,6 +81,7 @@ class SettingsStore {
   HostedPlugins hostedPlugins_;
   // The list as loaded, when not every tab could be read.
   std::optional<TabList> partOfTheTabs_;
+  bool isLoaded_ = false;
 };
 
 }  // namespace tidewell

@@ -50,8 +50,9 @@ class DoneTest : public ProgramTest {
   TestWindow listener{WS_POPUP, 0};
 };
 
+constexpr wchar_t kFiltersFile[] = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
+
 TEST_F(DoneTest, SavesTheSettingsTheCategoriesAndTheFiltersFile) {
-  constexpr wchar_t kFiltersFile[] = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
   categories = {{L"Work", 1, false}, {L"Home", 2, false}};
   device.files.Put(kFiltersFile, "an older one");
   Start();
@@ -71,6 +72,42 @@ TEST_F(DoneTest, SavesTheSettingsTheCategoriesAndTheFiltersFile) {
   EXPECT_TRUE(HasValue(L"CatColor.Work", L"\\Categories"));
   EXPECT_FALSE(HasValue(L"CatColor.Home", L"\\Categories"));
   EXPECT_GT(device.files.Contents(kFiltersFile)->size(), 1000u);
+}
+
+// The system swallows what goes wrong while it has a window made.
+struct BreakingLibraries final : ResourceLibraries {
+  std::unique_ptr<ResourceLibrary> Load(const std::wstring&) override {
+    RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr);
+    return nullptr;
+  }
+};
+
+TEST_F(DoneTest, AStartThatBrokeOffSaysSoAndSavesAndTellsNothing) {
+  BreakingLibraries breaking;
+  SetDword(L"dHeightLimitLandscape", 1);
+  device.files.Put(kFiltersFile, "an older one");
+  for (ResourceLibraries* libraries : {static_cast<ResourceLibraries*>(&breaking),
+                                       static_cast<ResourceLibraries*>(&device.libraries)}) {
+    asked.clear();
+    MainWindowParts parts = Parts();
+    parts.openCategories = [&](const std::wstring& path) {
+      breaking.Load(path);
+      return nullptr;
+    };
+    StartOn({registry, device.files, device.locale, *libraries, device.system}, std::move(parts));
+    EXPECT_FALSE(program->IsComplete());
+    Done();
+    EXPECT_TRUE(IsOpen());
+    program->GiveUp();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(asked, std::vector<std::wstring>{libraries == &breaking
+                                                   ? L"The start failed and nothing was changed: "
+                                                     L"restart the device.|TW Options|0"
+                                                   : L"text 2020|TW Options|0"});
+    EXPECT_EQ(registry.CountWrites(), 0);
+    EXPECT_EQ(device.files.Contents(kFiltersFile)->size(), 12u);
+    EXPECT_EQ(CountBroadcasts(), 0);
+  }
 }
 
 TEST_F(DoneTest, ADragThatEndsOverTheBarIsNoTapOnIt) {

@@ -27,8 +27,8 @@ class ProgramTest : public testing::Test {
   ProgramTest() {
     MemoryLibraries::Texts texts;
     for (const std::uint32_t id :
-         {2030, 2031, 2032, 2033, 2034, 2035, 2036, 2037, 607, 608, 609, 610,  611,  612,
-          613,  614,  617,  618,  619,  620,  621,  622,  624, 625, 626, 1259, 1260, 1432}) {
+         {2020, 2030, 2031, 2032, 2033, 2034, 2035, 2036, 2037, 607, 608, 609,  610,  611, 612,
+          613,  614,  617,  618,  619,  620,  621,  622,  624,  625, 626, 1259, 1260, 1432}) {
       texts[id] = L"text " + std::to_wstring(id);
     }
     device.libraries.Put(kEnglishLibrary, std::move(texts));

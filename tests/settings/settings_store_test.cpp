@@ -25,6 +25,8 @@ TEST_F(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIs
   registry.Create(kMachine, kToday);
   registry.Create(kMachine, L"SOFTWARE\\Microsoft\\Color");
   store.root.OnClick.Set(5);
+  Save();
+  EXPECT_TRUE(metered.Meter().Paths(RegistryCall::kCreate).empty()) << "nothing was loaded yet";
   Load();
   EXPECT_EQ(metered.Meter().Paths(RegistryCall::kOpen),
             (Texts{L"HKLM\\" + std::wstring(kToday), L"HKLM\\SOFTWARE\\Microsoft\\Color"}));
