@@ -72,7 +72,8 @@ struct MarkingMachine final : ResourceLibraries, System {
 
 class MarkingCategories final : public CategorySource {
  public:
-  MarkingCategories(std::wstring icons, Marks& marks) : source_(std::move(icons)), marks_(marks) {
+  MarkingCategories(Files& files, std::wstring icons, Marks& marks)
+      : source_(files, std::move(icons)), marks_(marks) {
     marks_.End(3);
   }
   ~MarkingCategories() override { marks_.End(4); }
@@ -94,9 +95,11 @@ int Run(HINSTANCE instance, int showCommand) {
   MainWindow window(
       instance, {real.registry, real.files, real.locale, machine, machine},
       {CreatePage,
-       [&](const std::wstring& icons) { return std::make_unique<MarkingCategories>(icons, marks); },
+       [&](const std::wstring& icons) {
+         return std::make_unique<MarkingCategories>(real.files, icons, marks);
+       },
        nullptr, nullptr});
-  if (!window.Create()) return 1;
+  if (!window.Create() || !window.IsComplete()) return 1;
   marks.End(5);
   ShowWindow(window.Window(), showCommand);
   UpdateWindow(window.Window());
