@@ -213,7 +213,7 @@
 #define IDS_IMPORT_NOTHING_CHANGED 2031  // Nothing was changed.
 #define IDS_IMPORT_IN_PART 2032          // The settings were replaced in part.
 #define IDS_IMPORT_GO_BACK 2033          // To go back, import
-#define IDS_IMPORT_OUTSIDE 2034          // This file also changes settings of other programs,...
+#define IDS_IMPORT_OUTSIDE 2034          // This file also changes settings of other programs, first
 #define IDS_IMPORT_OUTSIDE_QUESTION 2035  // There is no copy of these. Import all the same?
-#define IDS_IMPORT_NO_COPY_QUESTION 2036  // The present settings could not be copied...
+#define IDS_IMPORT_NO_COPY_QUESTION 2036  // The present settings could not be copied completely, so they may be lost. Import all the same?
 #define IDS_IMPORT_QUESTION_CAPTION 2037  // Import Settings
