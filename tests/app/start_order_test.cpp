@@ -35,6 +35,24 @@ TEST_F(ProgramTest, TheLibrariesAndTheCategoriesFollowTheSettingsAndAreLetGo) {
   }
 }
 
+TEST_F(ProgramTest, TheWindowFillsItsPlaceWithoutAFrameAndAnExitWritesAndTellsNothing) {
+  const TestWindow full(0x14000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kDefaultPlace);
+  SetDword(L"dHeightLimitLandscape", 1);  // which a save repairs
+  Start();
+  const RECT place = WindowRect(Window());
+  const RECT wanted = WindowRect(full.Get());
+  EXPECT_TRUE(EqualRect(&place, &wanted));
+  EXPECT_EQ(ClientRect(Window()).bottom, place.bottom - place.top);
+  EXPECT_EQ(FindWindowW(L"TW_OPTIONS", L"TW Options"), Window());
+  answer = IDYES;
+  TapBar(true);
+  RunRow(2);
+  PumpMessages();
+  EXPECT_FALSE(IsOpen());
+  EXPECT_EQ(registry.CountWrites(), 0);
+  EXPECT_EQ(full.Count(RegisterWindowMessageW(L"VelmontTidewellSettingsChanged")), 0);
+}
+
 TEST_F(ProgramTest, ARunningInstanceIsFoundAlsoWhileAPageHasTakenItsCaption) {
   EXPECT_FALSE(BringRunningInstanceForward());
   hasPages = true;

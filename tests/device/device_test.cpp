@@ -13,8 +13,6 @@ namespace tidewell::device {
 
 namespace {
 
-constexpr int kExitRow = 2;  // of the tools list
-
 // Renames a file of the installed program and gives it its name back, whatever has it by then.
 class HiddenFile {
  public:
@@ -32,78 +30,60 @@ class HiddenFile {
   std::wstring hidden_;
 };
 
-// The program asks whether to exit, and is answered.
-void AnswerExit(DrivenProgram& program, WPARAM answer) {
-  program.TapRightButton();
-  program.Press(VK_DOWN, kExitRow);
-  program.Press(VK_RETURN);
-  const HWND question = program.WaitForPopup();
-  ASSERT_TRUE(question);
-  PostMessageW(question, WM_COMMAND, answer, 0);
-}
-
-TEST_F(DeviceTest, DoneStoresTheRepairsOfWhatTheRegToolFilledIn) {
-  ASSERT_TRUE(ImportRegistry(R"(
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell]
-"OnClick"=dword:00000003
-"dHeightLimitLandscape"=dword:0000003b
-"ActiveTab"=dword:00000009
-"NotOurs"="kept"
-
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell\Calendar]
-"dNumOfDays"=dword:00000079
-"TimelinesStart"=dword:0000000a
-"TimelinesLength"=dword:00000012
-"CalTitlesOrder0"=dword:00000000
-"CalTitlesOrder1"=dword:00000001
-"CalTitlesOrder2"=dword:00000002
-"CalTitlesOrder3"=dword:00000003
-"CalTitlesOrder4"=dword:00000004
-"CalTitlesOrder5"=dword:00000004
-
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell\TabSettings\Weather]
-"Enabled"=dword:00000001
-"Order"=dword:0000000a
-"DLL"="\\Windows\\weather.dll"
-"Left"="over"
-
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell\TabSettings\Contacts]
-"NotOurs"="kept"
-)"));
-  ASSERT_TRUE(AddValue(L"\\Notes", L"SearchMode", L"REG_DWORD", L"2"));
+// By keys alone: the registry has what changed and nothing else, and the next start reads it.
+TEST_F(DeviceTest, KeysOpenAPageAndWorkItAndWhatTheyChangedIsStored) {
+  const auto open = [](DrivenProgram& program) {
+    EXPECT_TRUE(program.WaitForMainWindow());
+    program.Press(VK_RETURN);
+    const HWND page = program.WaitForPopup();
+    program.Press(VK_UP);  // to its tabs
+    return page;
+  };
+  ASSERT_TRUE(AddValue(L"", L"AutoHeight", L"REG_DWORD", L"0"));
+  {
+    DrivenProgram program;
+    ASSERT_TRUE(open(program));
+    const struct {
+      int tabs, down;  // steps of the D-pad
+      std::vector<WPARAM> keys;
+    } changes[] = {{0, 1, {VK_RIGHT}},      {0, 2, {VK_RETURN, VK_DOWN, VK_RETURN}},
+                   {0, 4, {'2', '3', '4'}}, {1, 4, {VK_RIGHT}},
+                   {0, 5, {VK_SPACE}},      {1, 3, {VK_LEFT, VK_RETURN, VK_ESCAPE}}};
+    for (const auto& change : changes) {
+      program.Press(VK_RIGHT, change.tabs);
+      program.Press(VK_DOWN, change.down);
+      for (const WPARAM key : change.keys) program.Press(key);
+      program.Press(VK_UP, change.down);
+    }
+    program.PressOk();
+    ASSERT_TRUE(program.WaitForPopupToGo());
+    program.Press(VK_F1);  // Done
+    EXPECT_TRUE(program.Ended());
+  }
+  EXPECT_EQ(Broadcasts(), 1);
+  EXPECT_EQ(QueryProductTree(), R"([]
+    AutoHeight = REG_DWORD 0x0
+    dHeightLimit = REG_DWORD 0xea
+    DPadCompleteAction = REG_DWORD 0x1
+    EnableSoundEffect = REG_DWORD 0x0
+    OnClick = REG_DWORD 0x1
+    OnDoubleClick = REG_DWORD 0x1
+    SelectedLangResFile = REG_SZ \Program Files\Velmont\Tidewell\LangRes\TWGerRc.dll
+)");
 
   DrivenProgram program;
-  ASSERT_TRUE(program.WaitForMainWindow());
-  program.TapLeftButton();
-  EXPECT_TRUE(program.Ended());
-  EXPECT_EQ(QueryProductTree(), R"([]
-    ActiveTab = REG_DWORD 0x9
-    NotOurs = REG_SZ kept
-    OnClick = REG_DWORD 0x3
-[\Calendar]
-    TimelinesLength = REG_DWORD 0x8
-    TimelinesStart = REG_DWORD 0xa
-[\Notes]
-    SearchMode = REG_DWORD 0x2
-[\TabSettings\Contacts]
-    NotOurs = REG_SZ kept
-[\TabSettings\Weather]
-    DLL = REG_SZ \Windows\weather.dll
-    Enabled = REG_DWORD 0x1
-    Order = REG_DWORD 0x7
-    Type = REG_DWORD 0x1
-)");
+  EXPECT_EQ(CaptionOf(open(program)), L"Allgemein");
 }
 
 TEST_F(DeviceTest, ASecondStartBringsTheFirstForwardAndEndsWithZero) {
-  ShowWindow(listener_.Window(), SW_SHOW);
+  ShowWindow(listener_.Get(), SW_SHOW);
   for (const wchar_t* firstCommandLine : {L"", L"About"}) {
     SCOPED_TRACE(testing::PrintToString(std::wstring(firstCommandLine)));
     DrivenProgram first(firstCommandLine);
     ASSERT_TRUE(first.WaitForMainWindow());
     first.Settle();
-    SetForegroundWindow(listener_.Window());
-    ASSERT_TRUE(WaitUntil([&] { return GetForegroundWindow() == listener_.Window(); }));
+    SetForegroundWindow(listener_.Get());
+    ASSERT_TRUE(WaitUntil([&] { return GetForegroundWindow() == listener_.Get(); }));
 
     DrivenProgram second;
     EXPECT_TRUE(second.Ended());
@@ -130,28 +110,6 @@ TEST_F(DeviceTest, FiftyStartsAtOnceLeaveOneWindow) {
   WaitUntil(countEnded, 120'000);
   EXPECT_EQ(ended, kStarts - 1);
   EXPECT_EQ(CountMainWindows(), 1);
-}
-
-TEST_F(DeviceTest, DoneTellsTheTodayItemOnce) {
-  DrivenProgram program;
-  ASSERT_TRUE(program.WaitForMainWindow());
-  program.TapOk();
-  EXPECT_TRUE(program.Ended());
-  listener_.HearAllPosted();
-  EXPECT_EQ(listener_.heard, kOnce);
-}
-
-TEST_F(DeviceTest, ExitAnsweredYesWritesAndTellsNothing) {
-  ASSERT_TRUE(AddValue(L"\\Calendar", L"dNumOfDays", L"REG_DWORD", L"121"));
-  const std::string before = QueryProductTree();
-  ASSERT_NE(before, "");
-  DrivenProgram program;
-  ASSERT_TRUE(program.WaitForMainWindow());
-  AnswerExit(program, IDYES);
-  EXPECT_TRUE(program.Ended());
-  listener_.HearAllPosted();
-  EXPECT_TRUE(listener_.heard.empty());
-  EXPECT_EQ(QueryProductTree(), before);
 }
 
 TEST_F(DeviceTest, OnlyTheExactWordAboutOpensTheAboutBox) {
@@ -190,7 +148,12 @@ TEST_F(DeviceTest, MissingLibrariesLeaveAUsableProgram) {
 
     DrivenProgram program;
     ASSERT_TRUE(program.WaitForMainWindow());
-    AnswerExit(program, IDNO);
+    program.TapRightButton();
+    program.Press(VK_DOWN, 2);
+    program.Press(VK_RETURN);  // the question whether to exit
+    ASSERT_TRUE(program.WaitForPopup());
+    program.Press(VK_RIGHT);
+    program.Press(VK_RETURN);
     ASSERT_TRUE(program.WaitForPopupToGo());
     program.TapRightButton();  // back to the groups
     program.TapLeftButton();
@@ -257,33 +220,6 @@ TEST_F(DeviceTest, DamagedFilesCountAsMissingAndCostNothing) {
     EXPECT_TRUE(ReadFileBytes(kFilters) == filtersBytes);
   }
   DeleteFileW(kFilters);
-}
-
-TEST_F(DeviceTest, TheMainWindowFillsTheScreenBelowItsTitleStripAndHasNoFrame) {
-  DrivenProgram program;
-  const HWND window = program.WaitForMainWindow();
-  ASSERT_TRUE(window);
-  EXPECT_EQ(FindWindowW(kMainClass, kMainCaption), window);
-  const auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
-  EXPECT_EQ(style & (0x14000800 | WS_CAPTION | WS_THICKFRAME | WS_DISABLED), 0x14000800u);
-  EXPECT_NE(static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE)) & 0x80000000, 0u);
-
-  RECT screen;
-  RECT place;
-  RECT client;
-  RECT above;
-  SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
-  GetWindowRect(window, &place);
-  GetClientRect(window, &client);
-  const HWND strip = WindowFromPoint({screen.right / 2, screen.top});
-  EXPECT_EQ(GetWindow(strip, GW_OWNER), window);
-  ASSERT_TRUE(GetWindowRect(strip, &above));
-  const RECT below{screen.left, above.bottom, screen.right, screen.bottom};
-  const RECT top{screen.left, screen.top, screen.right, above.bottom};
-  EXPECT_TRUE(EqualRect(&place, &below));
-  EXPECT_TRUE(EqualRect(&above, &top));
-  EXPECT_EQ(client.right, place.right - place.left) << "no frame of its own";
-  EXPECT_EQ(client.bottom, place.bottom - place.top);
 }
 
 }  // namespace

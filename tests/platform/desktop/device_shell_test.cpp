@@ -3,6 +3,7 @@
 #include <aygshell.h>
 #include <gtest/gtest.h>
 
+#include "platform/desktop/device_room.h"
 #include "platform/desktop/shell_look.h"
 #include "tests/support/window_support.h"
 
@@ -19,6 +20,21 @@ int StripHeight() {
 void ExpectSame(const RECT& found, const RECT& wanted) {
   EXPECT_TRUE(EqualRect(&found, &wanted))
       << found.left << " " << found.top << " " << found.right << " " << found.bottom;
+}
+
+TEST(DeviceRoom, IsTheWholeOfADeviceScreenAndAPartOfALargerDesktop) {
+  const struct {
+    RECT workArea;
+    bool turned;
+    RECT room;
+  } cases[] = {
+      {{0, 0, 640, 480}, false, {0, 0, 640, 480}},
+      {{0, 0, 480, 640}, true, {0, 140, 480, 500}},
+      {{0, 0, 240, 240}, true, {0, 0, 240, 240}},
+      {{0, 0, 1920, 1040}, false, {720, 200, 1200, 840}},
+      {{0, 0, 1920, 1040}, true, {640, 280, 1280, 760}},
+  };
+  for (const auto& c : cases) ExpectSame(DeviceRoom(c.workArea, c.turned), c.room);
 }
 
 class DeviceShellTest : public testing::Test {
@@ -54,6 +70,12 @@ TEST_F(DeviceShellTest, ATapOnTheTitlesButtonSendsItsCommand) {
 }
 
 TEST_F(DeviceShellTest, TheStripFollowsItsWindowAndShowsItsCaption) {
+  RECT screen;
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+  screen = DeviceRoom(screen, false);
+  ExpectSame(WindowRect(window.Get()),
+             {screen.left, screen.top + StripHeight(), screen.right, screen.bottom});
+  ExpectStripAbove(WindowRect(window.Get()));
   SHDoneButton(window.Get(), SHDB_HIDE);
   for (const wchar_t* caption : {L"", L"A caption"}) {
     SetWindowTextW(window.Get(), caption);
@@ -96,6 +118,22 @@ TEST_F(DeviceShellTest, ActivationGoesToThePopupAndFocusToWhereItWas) {
   SetActiveWindow(window.Get());
   PumpMessages();
   EXPECT_EQ(GetActiveWindow(), page.Get());
+}
+
+// What its keys do, the dialogs' tests tell.
+TEST_F(DeviceShellTest, AMenuBarLiesAtTheBottomHidesWithItsWindowAndEndsWithIt) {
+  RECT wanted = WindowRect(window.Get());
+  wanted.top = wanted.bottom - ShellScale().ScaleY(26);
+  MoveWindow(window.Get(), 0, 60, 200, 140, FALSE);
+  SHMENUBARINFO info{sizeof info, window.Get(), SHCMBF_EMPTYBAR, 0, nullptr, 0, 0, nullptr, 0};
+  ASSERT_TRUE(SHCreateMenuBar(&info));
+  ExpectSame(WindowRect(info.hwndMB), wanted);
+  EXPECT_TRUE(IsWindowVisible(info.hwndMB));
+  EXPECT_EQ(SHFindMenuBar(window.Get()), info.hwndMB);
+  ShowWindow(window.Get(), SW_HIDE);
+  EXPECT_FALSE(IsWindowVisible(info.hwndMB));
+  DestroyWindow(window.Get());
+  EXPECT_FALSE(IsWindow(info.hwndMB));
 }
 
 INT_PTR CALLBACK NoDialogProc(HWND, UINT, WPARAM, LPARAM) {
