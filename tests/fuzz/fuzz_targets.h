@@ -23,6 +23,17 @@ inline void Require(bool promise) {
   if (!promise) std::abort();
 }
 
+// Both take as much off the front of the input as it has.
+inline Bytes TakeBytes(Bytes& input, std::size_t size) {
+  const Bytes taken = input.first(size < input.size() ? size : input.size());
+  input = input.subspan(taken.size());
+  return taken;
+}
+inline std::uint8_t TakeNumber(Bytes& input) {
+  const Bytes taken = TakeBytes(input, 1);
+  return taken.empty() ? 0 : std::to_integer<std::uint8_t>(taken[0]);
+}
+
 // That a place is within the bytes, and the little-endian number there.
 inline void RequireIn(Bytes bytes, std::uint64_t at, std::uint64_t size) {
   Require(at <= bytes.size() && size <= bytes.size() - at);

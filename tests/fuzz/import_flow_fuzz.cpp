@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "backup/settings_backup.h"
 #include "tests/fuzz/fuzz_targets.h"
 #include "tests/support/catalog_support.h"
@@ -12,34 +10,21 @@ namespace {
 constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kFile = L"\\My Documents\\a.twsb";
 
-std::size_t TakeNumber(Bytes& input) {
-  if (input.empty()) return 0;
-  const auto number = std::to_integer<std::size_t>(input[0]);
-  input = input.subspan(1);
-  return number;
-}
-
-Bytes TakeBytes(Bytes& input, std::size_t size) {
-  const Bytes taken = input.first(std::min(size, input.size()));
-  input = input.subspan(taken.size());
-  return taken;
-}
-
 // A name as the registry takes it: no zero ends it early, no backslash splits it.
 std::wstring TakeName(Bytes& input) {
-  std::wstring name = TextOfBytes(TakeBytes(input, 2 * (TakeNumber(input) % 130)));
+  std::wstring name = TextOfBytes(TakeBytes(input, 2 * (TakeNumber(input) % 130u)));
   std::erase_if(name, [](wchar_t unit) { return unit == L'\0' || unit == L'\\'; });
   return name;
 }
 
 // Each record is a key, a name, a type, a size times a factor, and data that is repeated.
 void Fill(Registry& registry, Bytes& input) {
-  for (std::size_t records = TakeNumber(input) % 16; records > 0; --records) {
+  for (std::size_t records = TakeNumber(input) % 16u; records > 0; --records) {
     std::wstring path(kProductKey);
     if (const std::wstring key = TakeName(input); !key.empty()) path += L'\\' + key;
     const std::wstring name = TakeName(input);
-    const auto type = static_cast<std::uint32_t>(TakeNumber(input) % 8);
-    const std::size_t times = 1 + TakeNumber(input) % 40;
+    const std::uint32_t type = TakeNumber(input) % 8u;
+    const std::size_t times = 1u + TakeNumber(input) % 40u;
     const Bytes piece = TakeBytes(input, TakeNumber(input));
     std::vector<std::byte> data;
     for (std::size_t i = 0; i < times; ++i) data.insert(data.end(), piece.begin(), piece.end());

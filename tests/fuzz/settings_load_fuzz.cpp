@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <array>
-
 #include "platform/memory/memory_machine.h"
 #include "platform/memory/metered_registry.h"
 #include "tests/fuzz/fuzz_targets.h"
@@ -18,13 +15,6 @@ constexpr const wchar_t* kHostedValues[] = {L"Type",  L"DLL",     L"InstallPath"
                                             L"Order", L"Enabled", L"Left",        L"over"};
 constexpr const wchar_t* kPlugins[] = {L"A", L"B", L"C", L"contacts", L"Contacts", L"A\\Nested"};
 constexpr const wchar_t* kThemeValues[] = {L"4", L"6", L"34", L"SHColor"};
-
-std::uint8_t TakeNumber(Bytes& input) {
-  if (input.empty()) return 0;
-  const auto number = std::to_integer<std::uint8_t>(input[0]);
-  input = input.subspan(1);
-  return number;
-}
 
 template <typename Items>
 auto& TakeOneOf(const Items& items, Bytes& input) {
@@ -58,10 +48,7 @@ void Fill(Registry& registry, Bytes input) {
         name = TakeOneOf(kThemeValues, input);
     }
     const std::uint32_t type = TakeNumber(input);
-    const std::size_t size = TakeNumber(input);
-    const Bytes data = input.first(std::min(size, input.size()));
-    input = input.subspan(data.size());
-    SetRaw(registry, root, path, name, type, data);
+    SetRaw(registry, root, path, name, type, TakeBytes(input, TakeNumber(input)));
   }
 }
 

@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <memory>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -27,17 +26,9 @@ class FilesUnderTest {
 };
 
 template <typename UnderTest>
-struct Answer {
-  const char* name;
-  std::function<std::shared_ptr<UnderTest>()> make;
-};
+using Answers = std::vector<std::function<std::shared_ptr<UnderTest>()>>;
 
-template <typename UnderTest>
-void PrintTo(const Answer<UnderTest>& answer, std::ostream* out) {
-  *out << answer.name;
-}
-
-std::vector<Answer<Registry>> RegistryAnswers();
-std::vector<Answer<FilesUnderTest>> FilesAnswers();
+Answers<Registry> RegistryAnswers();
+Answers<FilesUnderTest> FilesAnswers();
 
 }  // namespace tidewell

@@ -6,7 +6,7 @@
 namespace tidewell {
 namespace {
 
-class FilesContract : public testing::TestWithParam<Answer<FilesUnderTest>> {
+class FilesContract : public testing::TestWithParam<Answers<FilesUnderTest>::value_type> {
  protected:
   std::wstring In(const std::wstring& name) const { return underTest_->Folder() + L'\\' + name; }
 
@@ -40,12 +40,11 @@ class FilesContract : public testing::TestWithParam<Answer<FilesUnderTest>> {
     return joined;
   }
 
-  std::shared_ptr<FilesUnderTest> underTest_ = GetParam().make();
+  std::shared_ptr<FilesUnderTest> underTest_ = GetParam()();
   Files& files_ = underTest_->Door();
 };
 
-INSTANTIATE_TEST_SUITE_P(All, FilesContract, testing::ValuesIn(FilesAnswers()),
-                         testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(All, FilesContract, testing::ValuesIn(FilesAnswers()));
 
 TEST_P(FilesContract, WhatWasWrittenIsRead) {
   std::string large;

@@ -30,17 +30,17 @@ class MemoryFilesUnderTest final : public FilesUnderTest {
 
 }  // namespace
 
-std::vector<Answer<Registry>> RegistryAnswers() {
+Answers<Registry> RegistryAnswers() {
   using Order = MemoryRegistry::Order;
-  return {{"Sorted", [] { return std::make_shared<MemoryRegistry>(Order::kSorted); }},
-          {"Metered", [] {
-             const auto both = std::make_shared<MeteredMemoryRegistry>();
-             return std::shared_ptr<Registry>(both, &both->metered);
-           }}};
+  return {[] { return std::make_shared<MemoryRegistry>(Order::kSorted); },
+          [] {
+            const auto both = std::make_shared<MeteredMemoryRegistry>();
+            return std::shared_ptr<Registry>(both, &both->metered);
+          }};
 }
 
-std::vector<Answer<FilesUnderTest>> FilesAnswers() {
-  return {{"Metered", [] { return std::make_shared<MemoryFilesUnderTest>(); }}};
+Answers<FilesUnderTest> FilesAnswers() {
+  return {std::make_shared<MemoryFilesUnderTest>};
 }
 
 }  // namespace tidewell

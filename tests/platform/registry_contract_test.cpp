@@ -31,16 +31,15 @@ std::vector<std::wstring> ValueNames(RegistryKey& key) {
   return names;
 }
 
-class RegistryContract : public testing::TestWithParam<Answer<Registry>> {
+class RegistryContract : public testing::TestWithParam<Answers<Registry>::value_type> {
  protected:
   RegistryContract() { registry_->DeleteTree(kRoot, L"Contract"); }
   ~RegistryContract() override { registry_->DeleteTree(kRoot, L"Contract"); }
 
-  std::shared_ptr<Registry> registry_ = GetParam().make();
+  std::shared_ptr<Registry> registry_ = GetParam()();
 };
 
-INSTANTIATE_TEST_SUITE_P(All, RegistryContract, testing::ValuesIn(RegistryAnswers()),
-                         testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(All, RegistryContract, testing::ValuesIn(RegistryAnswers()));
 
 TEST_P(RegistryContract, KeysAreThereFromTheirCreationToTheirDeletion) {
   enum Deed { kOpen, kCreate, kDelete };

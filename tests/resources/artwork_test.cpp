@@ -19,8 +19,9 @@ struct Picture {
 
 // Reads a bitmap of a library as the program does. Empty when there is none.
 Picture PictureOf(const Library& library, int id) {
-  const Bitmap bitmap(static_cast<HBITMAP>(
-      LoadImageW(library.get(), MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  const Bitmap bitmap(
+      static_cast<HBITMAP>(LoadImageW(static_cast<HMODULE>(library->Handle()), MAKEINTRESOURCEW(id),
+                                      IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
   DIBSECTION section{};
   if (GetObjectW(bitmap.Get(), sizeof section, &section) != sizeof section) return {};
   Picture picture{section.dsBm.bmWidth, section.dsBm.bmHeight, section.dsBm.bmBitsPixel, {}};

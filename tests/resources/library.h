@@ -1,24 +1,21 @@
-// A resource library opened for a test, as the program opens it.
+// A resource library opened for a test by what the program opens it with.
 #pragma once
 
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <filesystem>
 #include <fstream>
 #include <map>
-#include <memory>
 #include <regex>
-#include <string>
-#include <vector>
 
+#include "platform/windows/windows_files.h"
+#include "platform/windows/windows_libraries.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
 
-struct LibraryCloser {
-  void operator()(HMODULE module) const { FreeLibrary(module); }
-};
-using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
+using Library = std::unique_ptr<ResourceLibrary>;
 
 inline std::wstring Widen(const std::string& utf8) {
   std::wstring text(utf8.size(), L'\0');
@@ -29,19 +26,16 @@ inline std::wstring Widen(const std::string& utf8) {
 
 // `name` is relative to the install folder.
 inline Library OpenLibrary(const std::string& name) {
-  return Library(LoadLibraryW(Widen(INSTALL_FOLDER "/" + name).c_str()));
+  WindowsFiles files;
+  return WindowsLibraries(files).Load(Widen(INSTALL_FOLDER "/" + name));
 }
 
 // The file names of all language libraries.
 inline std::vector<std::string> LanguageLibraryNames() {
   std::vector<std::string> names;
-  WIN32_FIND_DATAW found;
-  const HANDLE search = FindFirstFileW(Widen(INSTALL_FOLDER "/LangRes/*.dll").c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    names.push_back(Utf8(found.cFileName));
-  } while (FindNextFileW(search, &found));
-  FindClose(search);
+  for (const auto& entry : std::filesystem::directory_iterator(INSTALL_FOLDER "/LangRes")) {
+    names.push_back(entry.path().filename().string());
+  }
   return names;
 }
 
@@ -49,9 +43,7 @@ inline std::vector<std::string> LanguageLibraryNames() {
 inline std::map<int, std::wstring> TextsOf(const Library& library) {
   std::map<int, std::wstring> texts;
   for (int id = 1; id < 0x10000; ++id) {
-    wchar_t buffer[1024];
-    const int length = LoadStringW(library.get(), UINT(id), buffer, 1024);
-    if (length > 0) texts.emplace(id, std::wstring(buffer, size_t(length)));
+    if (const auto text = library->FindText(std::uint32_t(id))) texts.emplace(id, *text);
   }
   return texts;
 }

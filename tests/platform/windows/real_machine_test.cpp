@@ -48,12 +48,12 @@ class WindowsFilesUnderTest final : public FilesUnderTest {
 
 }  // namespace
 
-std::vector<Answer<Registry>> RegistryAnswers() {
-  return {{"Windows", [] { return std::make_shared<WindowsRegistry>(); }}};
+Answers<Registry> RegistryAnswers() {
+  return {std::make_shared<WindowsRegistry>};
 }
 
-std::vector<Answer<FilesUnderTest>> FilesAnswers() {
-  return {{"Windows", [] { return std::make_shared<WindowsFilesUnderTest>(); }}};
+Answers<FilesUnderTest> FilesAnswers() {
+  return {std::make_shared<WindowsFilesUnderTest>};
 }
 
 namespace {
