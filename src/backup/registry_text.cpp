@@ -4,9 +4,9 @@
 
 #include "backup/exact_lines.h"
 #include "backup/section_names.h"
-#include "backup/value_lines.h"
 #include "platform/text.h"
 #include "settings/registry_values.h"
+#include "text_format/value_lines.h"
 
 namespace tidewell {
 

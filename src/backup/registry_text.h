@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "backup/text_stream.h"
 #include "categories/category_catalog.h"
 #include "platform/registry.h"
+#include "text_format/text_stream.h"
 
 namespace tidewell {
 

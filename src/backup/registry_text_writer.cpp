@@ -1,8 +1,8 @@
 #include "backup/exact_lines.h"
 #include "backup/registry_text.h"
 #include "backup/section_names.h"
-#include "backup/value_lines.h"
 #include "platform/text.h"
+#include "text_format/value_lines.h"
 
 namespace tidewell {
 

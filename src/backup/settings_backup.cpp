@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "backup/copy_names.h"
-#include "backup/text_stream.h"
 #include "platform/replacement_file.h"
 #include "platform/text.h"
+#include "text_format/text_stream.h"
 
 namespace tidewell {
 

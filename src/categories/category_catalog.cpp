@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "backup/text_stream.h"
 #include "categories/filters_file.h"
 #include "platform/replacement_file.h"
 #include "platform/text.h"
 #include "settings/registry_values.h"
+#include "text_format/text_stream.h"
 
 namespace tidewell {
 

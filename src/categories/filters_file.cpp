@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "backup/value_lines.h"
 #include "platform/text.h"
+#include "text_format/value_lines.h"
 
 namespace tidewell {
 

@@ -6,10 +6,10 @@
 #include <fstream>
 
 #include "platform/memory/metered_registry.h"
-#include "tests/backup/rules_file.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/utf8.h"
+#include "tests/text_format/rules_file.h"
 
 namespace tidewell {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "backup/text_stream.h"
 #include "platform/text.h"
 #include "tests/support/utf8.h"
+#include "text_format/text_stream.h"
 
 namespace tidewell {
 namespace {

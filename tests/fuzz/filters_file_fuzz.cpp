@@ -1,8 +1,8 @@
 #include "categories/filters_file.h"
 
-#include "backup/text_stream.h"
 #include "platform/text.h"
 #include "tests/fuzz/fuzz_targets.h"
+#include "text_format/text_stream.h"
 
 namespace tidewell::fuzz {
 

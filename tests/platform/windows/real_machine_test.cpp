@@ -3,10 +3,10 @@
 
 #include <shellapi.h>
 
-#include "backup/text_stream.h"
 #include "platform/text.h"
 #include "platform/windows/windows_machine.h"
 #include "tests/platform/contracts.h"
+#include "text_format/text_stream.h"
 
 namespace tidewell {
 

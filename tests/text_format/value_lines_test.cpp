@@ -1,11 +1,11 @@
-#include "backup/value_lines.h"
+#include "text_format/value_lines.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 
-#include "tests/backup/rules_file.h"
 #include "tests/support/utf8.h"
+#include "tests/text_format/rules_file.h"
 
 namespace tidewell {
 namespace {

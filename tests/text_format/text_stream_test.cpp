@@ -1,4 +1,4 @@
-#include "backup/text_stream.h"
+#include "text_format/text_stream.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "backup/value_lines.h"
+#include "text_format/value_lines.h"
 
 #include <algorithm>
 
