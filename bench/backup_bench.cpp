@@ -14,6 +14,7 @@
 #include "platform/memory/memory_machine.h"
 #include "platform/replacement_file.h"
 #include "platform/text.h"
+#include "platform/whole_file.h"
 #include "platform/windows/windows_machine.h"
 
 namespace tidewell::bench {
@@ -44,8 +45,7 @@ std::wstring TextOfTree(const std::wstring& root, int keys) {
 }
 
 bool Import(Registry& registry, CategoryCatalog& catalog, std::span<const std::byte> bytes) {
-  BytesSource source(bytes);
-  TextReader reader(source);
+  TextReader reader(bytes);
   return ImportRegistryText(registry, catalog, reader) == TextImport::kWhole;
 }
 

@@ -50,7 +50,10 @@ class RegistryTextReader {
   RegistryTextReader(TextReader& stream, TextTarget& target) : stream_(stream), target_(target) {}
 
   // False unless the text begins with an empty line; the rest is then read by Read.
-  bool Begin() { return stream_.Rewind() && stream_.ReadLine(line_) && line_ == kEmptyLine; }
+  bool Begin() {
+    stream_.Rewind();
+    return stream_.ReadLine(line_) && line_ == kEmptyLine;
+  }
 
   // False when the target refused a key.
   bool Read() {
@@ -176,13 +179,12 @@ class ImportTarget final : public TextTarget {
     return key_ != nullptr;
   }
 
-  // Either kind is written whatever value it holds now: a string unless it is the sentinel, a
-  // number because it never equals the next one. The caller flushes when all is in.
+  // Written whatever the registry holds now, but for the string that an import deletes. The caller
+  // flushes when all is in.
   void TakeValue(const ParsedValue& value) override {
     static const std::wstring kSentinel(kDeletedString);
     if (value.isNumber) {
-      const auto number = static_cast<std::uint32_t>(value.number);
-      WriteDwordOrDelete(key_.get(), value.name, number, number + 1);
+      WriteDword(key_.get(), value.name, static_cast<std::uint32_t>(value.number));
     } else {
       WriteStringOrDelete(key_.get(), value.name, value.text, kSentinel);
     }

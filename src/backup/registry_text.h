@@ -40,7 +40,7 @@ void WriteFiltersSection(const CategoryCatalog& catalog, TextWriter& stream,
                          TextKind kind = TextKind::kBackup);
 
 struct TextSurvey {
-  // It can be read from its start and begins with an empty line.
+  // It begins with an empty line.
   bool isRegistryText = false;
   // The first key that an import would write to outside the product's own.
   std::optional<std::wstring> outsideKey;

@@ -5,7 +5,7 @@
 #include "backup/copy_names.h"
 #include "platform/replacement_file.h"
 #include "platform/text.h"
-#include "text_format/text_stream.h"
+#include "platform/whole_file.h"
 
 namespace tidewell {
 
@@ -69,8 +69,7 @@ ImportOutcome SettingsBackup::ImportFrom(const std::wstring& path, const ImportQ
   // Read whole before anything is changed: the card that holds it may be drawn out.
   const auto bytes = ReadWholeFile(machine_.files, path);
   if (!bytes) return {};
-  BytesSource source(*bytes);
-  TextReader text(source);
+  TextReader text(*bytes);
   const std::wstring folder = FolderOf(path);
   ImportOutcome outcome = ImportFrom(text, folder, questions);
   if (outcome.result != ImportResult::kDone) return outcome;

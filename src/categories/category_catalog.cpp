@@ -6,8 +6,8 @@
 #include "categories/filters_file.h"
 #include "platform/replacement_file.h"
 #include "platform/text.h"
+#include "platform/whole_file.h"
 #include "settings/registry_values.h"
-#include "text_format/text_stream.h"
 
 namespace tidewell {
 
@@ -106,13 +106,9 @@ std::wstring CategoryCatalog::FiltersPath() const {
 }
 
 bool CategoryCatalog::LoadFiltersFile() {
-  std::optional<FilterSet> filters;
-  filtersRefused_ = false;
-  if (const auto input = machine_.files.OpenForReading(FiltersPath())) {
-    filters = ReadFilters(*input, &filtersRefused_);
-  } else {
-    filtersRefused_ = machine_.files.Find(FiltersPath()).has_value();
-  }
+  const auto bytes = ReadWholeFile(machine_.files, FiltersPath(), kLargestFiltersFile);
+  filtersRefused_ = !bytes && machine_.files.Find(FiltersPath()).has_value();
+  std::optional<FilterSet> filters = bytes ? ReadFilters(*bytes) : std::nullopt;
   if (!filters) {
     ResetFilters();
     return false;
@@ -124,7 +120,7 @@ bool CategoryCatalog::LoadFiltersFile() {
 bool CategoryCatalog::SaveFiltersFile() const {
   if (!isLoaded_ || (filtersRefused_ && filters_ == DefaultFilters())) return false;
   const std::vector<std::byte> bytes = BytesOf(FormatFilters(filters_));
-  if (ReadWholeFile(machine_.files, FiltersPath()) == bytes) return true;
+  if (ReadWholeFile(machine_.files, FiltersPath(), bytes.size()) == bytes) return true;
   ReplacementFile file(machine_.files, FiltersPath());
   return file.Stream() && file.Stream()->Write(bytes) && file.Commit();
 }

@@ -1,7 +1,5 @@
 #include "categories/filters_file.h"
 
-#include <vector>
-
 #include "platform/text.h"
 #include "text_format/value_lines.h"
 
@@ -14,37 +12,23 @@ namespace {
 // carriage return stays as the one final unit that the line parsers drop.
 class ByteLineReader {
  public:
-  explicit ByteLineReader(InputStream& input) : input_(input) {}
+  explicit ByteLineReader(std::span<const std::byte> rest) : rest_(rest) {}
 
   // False at the end of the file; a last line without its end counts.
   bool ReadLine(std::wstring& line) {
     line.clear();
-    bool any = false;
-    while (at_ < end_ || Fill()) {
-      const auto code = std::to_integer<unsigned>(buffer_[at_++]);
-      any = true;
+    std::size_t used = 0;
+    while (used < rest_.size()) {
+      const auto code = std::to_integer<unsigned>(rest_[used++]);
       if (code == '\n') break;
       if (code != 0) line += static_cast<wchar_t>(code);
     }
-    return any;
+    rest_ = rest_.subspan(used);
+    return used != 0;
   }
-
-  bool WasRefused() const { return refused_; }
 
  private:
-  bool Fill() {
-    const std::optional<std::size_t> count = input_.Read(buffer_);
-    refused_ = refused_ || !count;
-    at_ = 0;
-    end_ = count.value_or(0);
-    return end_ != 0;
-  }
-
-  InputStream& input_;
-  std::array<std::byte, 4096> buffer_;
-  std::size_t at_ = 0;
-  std::size_t end_ = 0;
-  bool refused_ = false;
+  std::span<const std::byte> rest_;
 };
 
 // What a line does not tell, because it is missing or malformed, keeps its default.
@@ -104,8 +88,8 @@ std::wstring FormatFilters(const FilterSet& filters) {
   return text;
 }
 
-std::optional<FilterSet> ReadFilters(InputStream& input, bool* refused) {
-  ByteLineReader lines(input);
+std::optional<FilterSet> ReadFilters(std::span<const std::byte> file) {
+  ByteLineReader lines(file);
   FilterSet filters;
   std::wstring line;
   std::int32_t count = 0;
@@ -116,8 +100,7 @@ std::optional<FilterSet> ReadFilters(InputStream& input, bool* refused) {
     filters[static_cast<std::size_t>(count)] = ReadFilter(lines, count + 1);
     header = HeaderOf(++count);
   }
-  if (refused) *refused = lines.WasRefused();
-  if (lines.WasRefused() || count != kFilterCount) return std::nullopt;
+  if (count != kFilterCount) return std::nullopt;
   return filters;
 }
 

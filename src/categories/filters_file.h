@@ -2,17 +2,21 @@
 // byte. docs/filters-file.md describes it.
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <span>
+#include <string>
 
 #include "categories/records.h"
-#include "platform/files.h"
 
 namespace tidewell {
 
 std::wstring FormatFilters(const FilterSet& filters);
 
-// Nothing unless the text holds exactly 32 filters, headed by 0 to 31 in that order. `refused`,
-// where given, tells whether the text could not be read to its end.
-std::optional<FilterSet> ReadFilters(InputStream& input, bool* refused = nullptr);
+// Nothing unless the file holds exactly 32 filters, headed by 0 to 31 in that order.
+std::optional<FilterSet> ReadFilters(std::span<const std::byte> file);
+
+// A file with more bytes is not read.
+inline constexpr std::size_t kLargestFiltersFile = 4 * 1024 * 1024;
 
 }  // namespace tidewell

@@ -171,8 +171,7 @@ TEST_F(RegistryText, OnlyTheMarkOnTheSecondLineMakesACopy) {
 TEST_F(RegistryText, ASurveyFindsTheFirstKeyOutsideTheProducts) {
   const auto outside = [](const std::wstring& text) {
     const std::vector<std::byte> bytes = BytesOf(text);
-    BytesSource source(bytes);
-    TextReader reader(source);
+    TextReader reader(bytes);
     const TextSurvey survey = SurveyRegistryText(reader);
     EXPECT_TRUE(survey.isRegistryText);
     return survey.outsideKey;

@@ -4,17 +4,12 @@
 
 #include "platform/text.h"
 #include "tests/support/utf8.h"
-#include "text_format/text_stream.h"
 
 namespace tidewell {
 namespace {
 
-std::optional<FilterSet> Read(std::span<const std::byte> bytes) {
-  BytesSource source(bytes);
-  return ReadFilters(source);
-}
 std::optional<FilterSet> Read(std::wstring_view text) {
-  return Read(BytesOf(text));
+  return ReadFilters(BytesOf(text));
 }
 
 std::wstring Record(std::int32_t number, std::wstring_view lines) {
@@ -40,7 +35,7 @@ TEST(FiltersFile, IsWrittenToTheByteAndComesBackTheSameUpToU00FF) {
   EXPECT_EQ(Utf8(FormatFilters(Read(text).value())), Utf8(text));
 
   std::string narrow(text.begin(), text.end());
-  EXPECT_EQ(FormatFilters(Read(std::as_bytes(std::span(narrow))).value()), text);
+  EXPECT_EQ(FormatFilters(ReadFilters(std::as_bytes(std::span(narrow))).value()), text);
 }
 
 TEST(FiltersFile, EveryRecordIsReadByTheLineRules) {

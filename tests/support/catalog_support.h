@@ -73,8 +73,7 @@ inline std::wstring ExportText(Registry& registry, const CategoryCatalog& catalo
 }
 inline bool ImportBytes(Registry& registry, CategoryCatalog& catalog,
                         std::span<const std::byte> bytes) {
-  BytesSource source(bytes);
-  TextReader reader(source);
+  TextReader reader(bytes);
   return ImportRegistryText(registry, catalog, reader) == TextImport::kWhole;
 }
 inline bool ImportText(Registry& registry, CategoryCatalog& catalog, std::wstring_view text) {

@@ -9,6 +9,7 @@
 #include "platform/desktop/pim_volume.h"
 #include "platform/pim_properties.h"
 #include "platform/text.h"
+#include "platform/whole_file.h"
 #include "platform/windows/windows_files.h"
 
 namespace tidewell {
@@ -68,17 +69,10 @@ CEOID RecordOid(std::size_t record) {
 // Nothing for a file that cannot be read, or is larger than any text of categories.
 std::optional<std::string> ReadVolumeFile(const wchar_t* path) {
   constexpr std::size_t kLargestVolume = 256 * 1024;
-  const std::unique_ptr<InputStream> input = WindowsFiles().OpenForReading(path);
-  if (!input) return std::nullopt;
-  std::string text;
-  std::array<char, 4096> piece;
-  while (text.size() <= kLargestVolume) {
-    const auto count = input->Read(std::as_writable_bytes(std::span(piece)));
-    if (!count) break;
-    if (*count == 0) return text;
-    text.append(piece.data(), *count);
-  }
-  return std::nullopt;
+  WindowsFiles files;
+  const auto bytes = ReadWholeFile(files, path, kLargestVolume);
+  if (!bytes) return std::nullopt;
+  return std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size());
 }
 
 std::wstring WideOf(const std::string& utf8) {

@@ -4,9 +4,9 @@
 #include <shellapi.h>
 
 #include "platform/text.h"
+#include "platform/whole_file.h"
 #include "platform/windows/windows_machine.h"
 #include "tests/platform/contracts.h"
-#include "text_format/text_stream.h"
 
 namespace tidewell {
 
