@@ -132,7 +132,7 @@ class PageBench {
                             screen.width, screen.height - scale.ScaleY(26), nullptr, nullptr,
                             nullptr, nullptr);
     store_.Load(door_, scale, language_);
-    context_.emplace(PageContext{door_, store_, categories_, language_.get(), scale});
+    context_.emplace(PageContext{door_, store_, categories_, language_, scale});
     screen_ = std::to_string(screen.width) + "x" + std::to_string(screen.height);
   }
   ~PageBench() { DestroyWindow(host_); }
@@ -221,7 +221,7 @@ class PageBench {
   Machine door_ = machine_.Door();
   SettingsStore store_;
   CategoryCatalog categories_{door_, store_};
-  std::unique_ptr<ResourceLibrary> language_;
+  Language language_;
   std::optional<PageContext> context_;
   std::string screen_;
   Font face_;

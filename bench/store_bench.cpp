@@ -36,7 +36,7 @@ struct BenchMachine {
 
 void Load(SettingsStore& store, Registry& registry) {
   BenchMachine machine(registry);
-  std::unique_ptr<ResourceLibrary> language;
+  Language language;
   store.Load(machine.door, kScale, language);
 }
 

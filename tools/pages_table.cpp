@@ -68,7 +68,7 @@ const wchar_t* KindOf(const Row& row) {
 
 class PagesWriter {
  public:
-  explicit PagesWriter(const ResourceLibrary* language) : language_(language) {}
+  explicit PagesWriter(const Language& language) : language_(language) {}
 
   void Page(const PageEntry& page, const PageTabs& tabs) {
     text_ += L"\n## " + Text(page.captionId) + L" (" + Code(page.className) + L")\n";
@@ -77,7 +77,7 @@ class PagesWriter {
   std::wstring Take() { return std::move(text_); }
 
  private:
-  std::wstring Text(int id) const { return TextOf(language_, static_cast<std::uint32_t>(id)); }
+  std::wstring Text(int id) const { return language_.Text(id); }
 
   void Tab(const PageTab& tab) {
     text_ += L"\n### " + Text(tab.titleId) +
@@ -119,7 +119,7 @@ class PagesWriter {
     return listed;
   }
 
-  const ResourceLibrary* language_;
+  const Language& language_;
   std::wstring text_;
 };
 
@@ -143,9 +143,10 @@ std::string PagesDocument(const char* textIds) {
   Machine door = machine.Door();
   SettingsStore store;
   CategoryCatalog categories(door, store);
-  const auto language = machine.libraries.Load(L"English");
-  PageContext context{door, store, categories, language.get(), ScreenScale(192, 192, false)};
-  PagesWriter writer(language.get());
+  Language language;
+  language.Load(machine.libraries, L"English", {});
+  PageContext context{door, store, categories, language, ScreenScale(192, 192, false)};
+  PagesWriter writer(language);
   for (const PageEntry& page : kPages) {
     if (page.make) writer.Page(page, page.make(context)->Tabs());
   }

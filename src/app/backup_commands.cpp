@@ -1,11 +1,8 @@
 #include "app/backup_commands.h"
 
-#include <utility>
-
-#include "app/settings_changed.h"
 #include "platform/text.h"
 #include "resources/text/text_ids.h"
-#include "ui/file_name_dialog.h"
+#include "ui/user_dialogs.h"
 
 namespace tidewell {
 
@@ -27,92 +24,71 @@ std::wstring KeyShown(const std::wstring& key) {
   return shown;
 }
 
-// Beside the folders above, only backups are of interest here.
-class BackupDialogModel final : public FileNameDialogModel {
- public:
-  using FileNameDialogModel::FileNameDialogModel;
-
- protected:
-  bool Lists(bool isFolder, const std::wstring&) const override { return !isFolder; }
-};
-
 }  // namespace
 
-bool ChooseBackupInDialog(const DialogContext& dialog, FileNameRequest& request) {
-  BackupDialogModel model(dialog.machine.files, dialog.machine.locale, request);
-  return RunFileNameDialog(dialog, model) == 1;
-}
-
-bool BackupCommands::Choose(HWND owner, FileNameRequest& request) {
+bool BackupCommands::Choose(FileNameRequest& request) {
   machine.files.MakeFolder(kBackupFolder);
   request.folder = FolderConfirmedLast(machine.files, kBackupFolder);
   request.extension = kBackupExtension;
   request.typeLabel = kBackupTypeLabel;
-  return choose({owner, machine, language.get(), scale}, request);
+  request.listsFolders = false;
+  return dialogs.ChooseFileName(request);
 }
 
-std::wstring BackupCommands::Text(unsigned id) const {
-  return TextOf(language.get(), id);
+bool BackupCommands::Confirm(const std::wstring& question) {
+  return dialogs.Ask(question, language.Text(IDS_IMPORT_QUESTION_CAPTION), false);
 }
 
-void BackupCommands::Say(HWND owner, const std::wstring& text, unsigned captionId) {
-  ask(owner, text, Text(captionId), MB_OK);
-}
-
-bool BackupCommands::Confirm(HWND owner, const std::wstring& question) {
-  return ask(owner, question, Text(IDS_IMPORT_QUESTION_CAPTION), MB_YESNO | MB_DEFBUTTON2) == IDYES;
-}
-
-ImportQuestions BackupCommands::Questions(HWND owner) {
-  return {[this, owner](const std::wstring& key) {
-            return Confirm(owner, Text(IDS_IMPORT_OUTSIDE) + Quoted(KeyShown(key)) +
-                                      kNextParagraph + Text(IDS_IMPORT_OUTSIDE_QUESTION));
+ImportQuestions BackupCommands::Questions() {
+  return {[this](const std::wstring& key) {
+            return Confirm(language.Text(IDS_IMPORT_OUTSIDE) + Quoted(KeyShown(key)) +
+                           kNextParagraph + language.Text(IDS_IMPORT_OUTSIDE_QUESTION));
           },
-          [this, owner] { return Confirm(owner, Text(IDS_IMPORT_NO_COPY_QUESTION)); }};
+          [this] { return Confirm(language.Text(IDS_IMPORT_NO_COPY_QUESTION)); }};
 }
 
-void BackupCommands::ExportSettingsBackup(HWND owner) {
+void BackupCommands::ExportSettingsBackup() {
   const SettingsBackup backup(machine, settings, categories);
   FileNameRequest request;
   request.title = kExportTitle;
   request.initialName = backup.DefaultExportName();
-  if (!Choose(owner, request)) return;
-  std::wstring message = Text(IDS_EXPORT_DONE) + Quoted(request.resultPath);
+  if (!Choose(request)) return;
+  std::wstring message = language.Text(IDS_EXPORT_DONE) + Quoted(request.resultPath);
   // There is only this one message; where nothing was written it says so too.
   if (!backup.ExportTo(request.resultPath))
-    message += kNextParagraph + Text(IDS_EXPORT_NOT_WRITTEN);
-  Say(owner, message, IDS_EXPORT_DONE_CAPTION);
+    message += kNextParagraph + language.Text(IDS_EXPORT_NOT_WRITTEN);
+  dialogs.ShowMessage(message, language.Text(IDS_EXPORT_DONE_CAPTION));
 }
 
-void BackupCommands::ImportSettingsBackup(HWND owner) {
+bool BackupCommands::ImportSettingsBackup() {
   SettingsBackup backup(machine, settings, categories);
   FileNameRequest request;
   request.title = kImportTitle;
-  if (!Choose(owner, request)) return;
-  const ImportOutcome outcome =
-      backup.ImportFrom(request.resultPath, Questions(owner), scale, language);
+  if (!Choose(request)) return false;
+  const ImportOutcome outcome = backup.ImportFrom(request.resultPath, Questions(), scale, language);
   switch (outcome.result) {
     case ImportResult::kDeclined:
-      return;
+      return false;
     case ImportResult::kRefused:
-      Say(owner, Text(IDS_IMPORT_FAILED) + kNextParagraph + Text(IDS_IMPORT_NOTHING_CHANGED),
-          IDS_IMPORT_FAILED_CAPTION);
-      return;
+      dialogs.ShowMessage(language.Text(IDS_IMPORT_FAILED) + kNextParagraph +
+                              language.Text(IDS_IMPORT_NOTHING_CHANGED),
+                          language.Text(IDS_IMPORT_FAILED_CAPTION));
+      return false;
     case ImportResult::kReplacedInPart:
-      SayReplacedInPart(owner, outcome.copy);
-      return;
+      SayReplacedInPart(outcome.copy);
+      return false;
     case ImportResult::kDone:
       break;
   }
-  Say(owner, Text(IDS_IMPORT_DONE), IDS_IMPORT_DONE_CAPTION);
-  BroadcastSettingsChanged();
-  DestroyWindow(owner);
+  dialogs.ShowMessage(language.Text(IDS_IMPORT_DONE), language.Text(IDS_IMPORT_DONE_CAPTION));
+  return true;
 }
 
-void BackupCommands::SayReplacedInPart(HWND owner, const std::wstring& copy) {
-  std::wstring message = Text(IDS_IMPORT_FAILED) + kNextParagraph + Text(IDS_IMPORT_IN_PART);
-  if (!copy.empty()) message += L' ' + Text(IDS_IMPORT_GO_BACK) + Quoted(copy);
-  Say(owner, message, IDS_IMPORT_FAILED_CAPTION);
+void BackupCommands::SayReplacedInPart(const std::wstring& copy) {
+  std::wstring message =
+      language.Text(IDS_IMPORT_FAILED) + kNextParagraph + language.Text(IDS_IMPORT_IN_PART);
+  if (!copy.empty()) message += L' ' + language.Text(IDS_IMPORT_GO_BACK) + Quoted(copy);
+  dialogs.ShowMessage(message, language.Text(IDS_IMPORT_FAILED_CAPTION));
 }
 
 }  // namespace tidewell

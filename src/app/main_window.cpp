@@ -154,7 +154,7 @@ LRESULT MainWindow::OnDestroy() {
   page_.reset();
   regular_.Reset();
   bold_.Reset();
-  language_.reset();
+  language_.Unload();
   pictures_.reset();
   imaging_.reset();
   // Before the message loop nothing is there to be ended but a message to the user.
@@ -175,9 +175,8 @@ void MainWindow::LoadPictures() {
 
 // A device's message boxes have words of their own.
 void MainWindow::NameMessageBoxKeys() {
-  const ResourceLibrary* texts = language_.get();
-  SetMessageBoxWords({TextOf(texts, IDS_OK), TextOf(texts, IDS_CANCEL), TextOf(texts, IDS_YES),
-                      TextOf(texts, IDS_NO)});
+  SetMessageBoxWords({language_.Text(IDS_OK), language_.Text(IDS_CANCEL), language_.Text(IDS_YES),
+                      language_.Text(IDS_NO)});
 }
 
 void MainWindow::CreateFonts() {
@@ -189,14 +188,13 @@ void MainWindow::CreateFonts() {
 
 void MainWindow::LoadCategories() {
   const auto source = parts_.openCategories(settings_.root.TWIconsFolder.Value());
-  categories_.Rebuild(*source, TextOf(language_.get(), IDS_ALL_CATEGORIES));
+  categories_.Rebuild(*source, language_.Text(IDS_ALL_CATEGORIES));
 }
 
 void MainWindow::ShowEntries(std::span<const MainEntry> entries) {
   std::vector<CommandEntry> rows;
   for (const MainEntry& entry : entries) {
-    rows.push_back({entry.textId ? TextOf(language_.get(), static_cast<std::uint32_t>(entry.textId))
-                                 : entry.text,
+    rows.push_back({entry.text + language_.Text(entry.textId),
                     entry.picture ? LoadPicture(entry.picture) : Picture(), entry.command});
   }
   const RECT client = ClientArea(window_);
@@ -227,10 +225,10 @@ void MainWindow::RunListCommand(int command) {
       ShowAbout();
       return;
     case kExportCommand:
-      Backup().ExportSettingsBackup(window_);
+      Backup().ExportSettingsBackup();
       return;
     case kImportCommand:
-      Backup().ImportSettingsBackup(window_);
+      Import();
       return;
     case kExitCommand:
       AskToExit();
@@ -239,7 +237,13 @@ void MainWindow::RunListCommand(int command) {
 }
 
 BackupCommands MainWindow::Backup() {
-  return {machine_, settings_, categories_, language_, scale_, parts_.ask, parts_.chooseBackup};
+  return {machine_, settings_, categories_, language_, scale_, Dialogs()};
+}
+
+void MainWindow::Import() {
+  if (!Backup().ImportSettingsBackup()) return;
+  BroadcastSettingsChanged();
+  DestroyWindow(window_);
 }
 
 void MainWindow::RunBarCommand(std::optional<int> command) {
@@ -264,7 +268,7 @@ void MainWindow::ShowAbout() {
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
   pageContext_.emplace(
-      PageContext{machine_, settings_, categories_, language_.get(), scale_, &dialogs_});
+      PageContext{machine_, settings_, categories_, language_, scale_, &Dialogs()});
   page_ = parts_.createPage(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());
@@ -295,13 +299,13 @@ void MainWindow::Done() {
 }
 
 void MainWindow::AskToExit() {
-  const std::wstring question = TextOf(language_.get(), IDS_EXIT_QUESTION);
-  const std::wstring caption = TextOf(language_.get(), IDS_EXIT_CAPTION);
-  if (parts_.ask(window_, question, caption, MB_YESNO) == IDYES) DestroyWindow(window_);
+  const bool exits =
+      Dialogs().Ask(language_.Text(IDS_EXIT_QUESTION), language_.Text(IDS_EXIT_CAPTION), true);
+  if (exits) DestroyWindow(window_);
 }
 
 DialogContext MainWindow::DialogOverAll() const {
-  return {page_ ? page_->Window() : window_, machine_, language_.get(), scale_};
+  return {page_ ? page_->Window() : window_, machine_, language_, scale_};
 }
 
 LRESULT MainWindow::OnSize(int width, int height) {

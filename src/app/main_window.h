@@ -36,8 +36,7 @@ using CategorySourceFactory =
 struct MainWindowParts {
   PageFactory createPage;
   CategorySourceFactory openCategories;
-  Ask ask;
-  ChooseBackup chooseBackup;
+  UserDialogs* dialogs = nullptr;  // null: the device's own
 };
 
 class MainWindow {
@@ -86,7 +85,9 @@ class MainWindow {
   void ShowMainEntries();
   void ShowTools();
   void RunListCommand(int command);
+  UserDialogs& Dialogs() { return parts_.dialogs ? *parts_.dialogs : deviceDialogs_; }
   BackupCommands Backup();
+  void Import();
   void RunBarCommand(std::optional<int> command);
   void OpenPage(int page);
   void ClosePage();
@@ -108,13 +109,13 @@ class MainWindow {
   SettingsStore settings_;
   CategoryCatalog categories_;
   std::optional<Imaging> imaging_;
-  std::unique_ptr<ResourceLibrary> language_;
+  Language language_;
   std::unique_ptr<ResourceLibrary> pictures_;
   Font regular_;
   Font bold_;
   CommandList list_;
   CommandBar commandBar_;
-  DeviceDialogs dialogs_{[this] { return DialogOverAll(); }};
+  DeviceDialogs deviceDialogs_{[this] { return DialogOverAll(); }};
   std::optional<PageContext> pageContext_;
   std::unique_ptr<PageWindow> page_;  // null while the list is shown
 };

@@ -63,8 +63,7 @@ SettingsBackup::Copy SettingsBackup::WriteCopy(const std::wstring& folder) const
 }
 
 ImportOutcome SettingsBackup::ImportFrom(const std::wstring& path, const ImportQuestions& questions,
-                                         const ScreenScale& scale,
-                                         std::unique_ptr<ResourceLibrary>& language) {
+                                         const ScreenScale& scale, Language& language) {
   if (IsTooLarge(machine_.files, path)) return {};
   // Read whole before anything is changed: the card that holds it may be drawn out.
   const auto bytes = ReadWholeFile(machine_.files, path);

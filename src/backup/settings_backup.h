@@ -57,7 +57,7 @@ class SettingsBackup {
   // copy beside it. Then the store is loaded anew, with its language library, categories and
   // filters are saved, and of the copies in the folder the newest kCopiesKept stay.
   ImportOutcome ImportFrom(const std::wstring& path, const ImportQuestions& questions,
-                           const ScreenScale& scale, std::unique_ptr<ResourceLibrary>& language);
+                           const ScreenScale& scale, Language& language);
 
  private:
   struct Copy {

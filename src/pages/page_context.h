@@ -2,6 +2,7 @@
 #pragma once
 
 #include "categories/category_catalog.h"
+#include "platform/language.h"
 #include "platform/machine.h"
 #include "platform/scale.h"
 #include "settings/settings_store.h"
@@ -14,7 +15,7 @@ struct PageContext {
   Machine& machine;
   SettingsStore& settings;
   CategoryCatalog& categories;
-  const ResourceLibrary* language;  // null: every text is empty
+  const Language& language;
   ScreenScale scale;
   UserDialogs* dialogs = nullptr;  // null: nothing is asked or told
 };

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/libraries.h"
+#include "platform/language.h"
 #include "settings/setting.h"
 
 namespace tidewell {
@@ -21,9 +21,7 @@ struct Choice {
       : text(std::move(words)), textId(id), data(number) {}
   explicit Choice(std::wstring words) : text(std::move(words)) {}
 
-  std::wstring TextIn(const ResourceLibrary* language) const {
-    return textId ? text + TextOf(language, static_cast<std::uint32_t>(textId)) : text;
-  }
+  std::wstring TextIn(const Language& language) const { return text + language.Text(textId); }
 
   std::wstring text;       // stands before the library's text
   int textId = 0;          // 0 is none

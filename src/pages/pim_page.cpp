@@ -114,12 +114,10 @@ void PimRules::OnEvent(PageView& view, const PageEvent& event) {
 // Falls back to the line whose text begins with the stored number, else to the first. No program's
 // name begins with one, so it is the built-in one unless a language pack has it otherwise.
 void PimRules::Refuse(PageView& view) {
-  const auto text = [&](int id) {
-    return TextOf(context_.language, static_cast<std::uint32_t>(id));
-  };
+  const Language& language = context_.language;
   if (context_.dialogs) {
-    context_.dialogs->ShowMessage(text(IDS_PIM_COMPANION_MISSING),
-                                  text(IDS_PIM_COMPANION_MISSING_CAPTION));
+    context_.dialogs->ShowMessage(language.Text(IDS_PIM_COMPANION_MISSING),
+                                  language.Text(IDS_PIM_COMPANION_MISSING_CAPTION));
   }
   const std::wstring stored = FormatDecimal(Program().Signed());
   auto line = std::find_if(programs_.begin(), programs_.end(), [&](const Choice& program) {

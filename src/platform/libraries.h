@@ -24,15 +24,4 @@ class ResourceLibraries {
   virtual std::unique_ptr<ResourceLibrary> Load(const std::wstring& path) = 0;
 };
 
-// The text of an id, empty without a library or without the string.
-inline std::wstring TextOf(const ResourceLibrary* library, std::uint32_t id) {
-  return library ? library->FindText(id).value_or(std::wstring()) : std::wstring();
-}
-
-// The text of an id, or a built-in one without a library or without the string.
-inline std::wstring TextOf(const ResourceLibrary* library, std::uint32_t id,
-                           const wchar_t* builtIn) {
-  return library ? library->FindText(id).value_or(builtIn) : builtIn;
-}
-
 }  // namespace tidewell

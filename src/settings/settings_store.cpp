@@ -68,9 +68,13 @@ std::array<SettingGroup*, 15> SettingsStore::Groups() {
           &fonts, &colors,          &customPim,    &tabSettings, &categories};
 }
 
+<<<<<<< HEAD
 void SettingsStore::Load(Machine& machine, const ScreenScale& scale,
                          std::unique_ptr<ResourceLibrary>& language) {
   isLoaded_ = false;
+=======
+void SettingsStore::Load(Machine& machine, const ScreenScale& scale, Language& language) {
+>>>>>>> 91ae291 (Own the language once, and ask the user through one seam)
   Registry& registry = machine.registry;
   LoadContext context;
   context.scale = scale;
@@ -84,9 +88,8 @@ void SettingsStore::Load(Machine& machine, const ScreenScale& scale,
   themeColors = ReadThemeColors(registry, machine.system.Version());
   LoadGroup(registry, root, context);
 
-  language.reset();
-  language = machine.libraries.Load(root.SelectedLangResFile.Value());
-  if (!language) language = machine.libraries.Load(installFolder + kEnglishLibrary);
+  language.Load(machine.libraries, root.SelectedLangResFile.Value(),
+                installFolder + kEnglishLibrary);
 
   LoadGroup(registry, calendar, context);
   RepairCalendar();
@@ -98,7 +101,7 @@ void SettingsStore::Load(Machine& machine, const ScreenScale& scale,
   LoadGroup(registry, fonts, context);
   LoadGroup(registry, colors, context);
   LoadGroup(registry, customPim, context);
-  LoadTabs(registry, context, language.get());
+  LoadTabs(registry, context, language);
   ChooseActiveTab();
   LoadGroup(registry, categories, context);
   isLoaded_ = true;
@@ -130,7 +133,7 @@ void SettingsStore::RepairCalendar() {
 }
 
 void SettingsStore::LoadTabs(Registry& registry, const LoadContext& context,
-                             const ResourceLibrary* language) {
+                             const Language& language) {
   tabs.clear();
   const FlushedKey key = CreateSettingKey(registry, tabSettings.Key());
   tabSettings.Load(key.Get(), context);
@@ -139,7 +142,7 @@ void SettingsStore::LoadTabs(Registry& registry, const LoadContext& context,
     entry.type = tab.type;
     entry.order = tab.order.Signed();
     entry.enabled = tab.enabled.Value();
-    entry.caption = TextOf(language, tab.captionId);
+    entry.caption = language.Text(tab.captionId);
     InsertByOrder(tabs, std::move(entry));
   }
   bool isWhole = hostedPlugins_.Read(registry, key.Get(), tabs);

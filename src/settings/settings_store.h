@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/language.h"
 #include "platform/machine.h"
 #include "platform/scale.h"
 #include "settings/catalogue/agenda_fusion_settings.h"
@@ -39,7 +40,7 @@ class SettingsStore {
 
   // Reads everything anew, repairs what cannot be, and replaces the language library by the chosen
   // one, else by the English one; null when neither loads. What cannot be read is its default.
-  void Load(Machine& machine, const ScreenScale& scale, std::unique_ptr<ResourceLibrary>& language);
+  void Load(Machine& machine, const ScreenScale& scale, Language& language);
   // Writes what was changed, and what the registry does not hold of the hosted tabs. What the load
   // was refused is left as it is unless it was set since. Nothing before a load has come to its
   // end. Failures are silent.
@@ -73,7 +74,7 @@ class SettingsStore {
  private:
   void LoadInstallPaths(Registry& registry, LoadContext& context);
   void RepairCalendar();
-  void LoadTabs(Registry& registry, const LoadContext& context, const ResourceLibrary* language);
+  void LoadTabs(Registry& registry, const LoadContext& context, const Language& language);
   void ChooseActiveTab();
   void SaveTabs(Registry& registry);
   void WriteBackBuiltInTabs();

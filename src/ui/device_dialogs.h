@@ -15,10 +15,12 @@ class DeviceDialogs final : public UserDialogs {
   explicit DeviceDialogs(std::function<DialogContext()> context) : context_(std::move(context)) {}
 
   void ShowMessage(const std::wstring& text, const std::wstring& caption) override;
+  bool Ask(const std::wstring& question, const std::wstring& caption, bool byDefault) override;
   std::optional<std::wstring> ChooseFolder(const std::wstring& title,
                                            const std::wstring& present) override;
   std::optional<std::wstring> ChooseFile(const std::wstring& title, const std::wstring& present,
                                          const std::wstring& pattern) override;
+  bool ChooseFileName(FileNameRequest& request) override;
 
  private:
   std::function<DialogContext()> context_;

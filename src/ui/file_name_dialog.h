@@ -6,10 +6,9 @@
 
 namespace tidewell {
 
-// 1 when a name was confirmed and the request has its path, 0 when cancelled. A caller that lists
-// other entries than all brings a model of its own.
+// 1 when a name was confirmed and the request has its path, 0 when cancelled. A caller with rules
+// of its own brings a model of its own.
 int RunFileNameDialog(const DialogContext& context, FileNameDialogModel& model);
-// The same with every entry listed.
 int RunFileNameDialog(const DialogContext& context, FileNameRequest& request);
 
 }  // namespace tidewell

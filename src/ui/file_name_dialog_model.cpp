@@ -16,16 +16,15 @@ std::wstring& ConfirmedPath() {
 
 }  // namespace
 
-FileNameDialogTexts::FileNameDialogTexts(const ResourceLibrary* library,
-                                         const FileNameRequest& request)
-    : select(TextOf(library, IDS_SELECT, L"Select")),
-      cancel(TextOf(library, IDS_CANCEL, L"Cancel")),
-      nameLabel(request.nameCaption.value_or(TextOf(library, IDS_FILE_NAME, L"File Name"))),
+FileNameDialogTexts::FileNameDialogTexts(const Language& language, const FileNameRequest& request)
+    : select(language.Text(IDS_SELECT, L"Select")),
+      cancel(language.Text(IDS_CANCEL, L"Cancel")),
+      nameLabel(request.nameCaption.value_or(language.Text(IDS_FILE_NAME, L"File Name"))),
       extensionLabel(
-          request.extensionCaption.value_or(TextOf(library, IDS_FILE_EXTENSION, L"Extension"))),
-      nameMissing(TextOf(library, IDS_FILE_NAME_MISSING, L"File name value is missing")),
-      nameIllegal(TextOf(library, IDS_FILE_NAME_ILLEGAL, L"File name include illegal characters")),
-      errorCaption(TextOf(library, IDS_FILE_NAME_ERROR, L"File Name Error")) {}
+          request.extensionCaption.value_or(language.Text(IDS_FILE_EXTENSION, L"Extension"))),
+      nameMissing(language.Text(IDS_FILE_NAME_MISSING, L"File name value is missing")),
+      nameIllegal(language.Text(IDS_FILE_NAME_ILLEGAL, L"File name include illegal characters")),
+      errorCaption(language.Text(IDS_FILE_NAME_ERROR, L"File Name Error")) {}
 
 FileNameDialogModel::FileNameDialogModel(Files& files, Locale& locale, FileNameRequest& request)
     : files_(files), locale_(locale), request_(request) {}

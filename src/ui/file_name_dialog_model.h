@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/libraries.h"
+#include "platform/language.h"
 #include "platform/scale.h"
 #include "ui/folder_listing.h"
 
@@ -21,13 +21,14 @@ struct FileNameRequest {
   std::wstring extension;  // without its dot; may be empty
   std::wstring typeLabel;  // shown for the extension where there is one
   std::wstring initialName;
+  bool listsFolders = true;
   std::optional<std::wstring> nameCaption;  // the labels, where the caller has better ones
   std::optional<std::wstring> extensionCaption;
   std::wstring resultPath;  // set when a name was confirmed
 };
 
 struct FileNameDialogTexts {
-  FileNameDialogTexts(const ResourceLibrary* library, const FileNameRequest& request);
+  FileNameDialogTexts(const Language& language, const FileNameRequest& request);
 
   std::wstring select, cancel;
   std::wstring nameLabel, extensionLabel;
@@ -65,7 +66,9 @@ class FileNameDialogModel {
 
  protected:
   // Decides whether a found entry is listed.
-  virtual bool Lists(bool /*isFolder*/, const std::wstring& /*name*/) const { return true; }
+  virtual bool Lists(bool isFolder, const std::wstring& /*name*/) const {
+    return request_.listsFolders || !isFolder;
+  }
 
  private:
   void Accept(std::wstring path);

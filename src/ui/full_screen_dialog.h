@@ -8,7 +8,7 @@
 #include <string>
 
 #include "platform/gdi.h"
-#include "platform/libraries.h"
+#include "platform/language.h"
 #include "platform/machine.h"
 #include "platform/scale.h"
 
@@ -18,7 +18,7 @@ namespace tidewell {
 struct DialogContext {
   HWND parent = nullptr;
   const Machine& machine;
-  const ResourceLibrary* language = nullptr;
+  const Language& language;
   const ScreenScale& scale;
 };
 

@@ -23,13 +23,13 @@ bool FitsAnyPattern(std::wstring_view name, std::wstring_view patterns) {
 
 }  // namespace
 
-PathDialogTexts::PathDialogTexts(const ResourceLibrary* library)
-    : select(TextOf(library, IDS_SELECT, L"Select")),
-      cancel(TextOf(library, IDS_CANCEL, L"Cancel")),
-      up(TextOf(library, IDS_FOLDER_UP, L"Up one level")),
-      root(TextOf(library, IDS_FOLDER_ROOT, L"My Device")),
-      empty(TextOf(library, IDS_FOLDER_EMPTY, L"No entries")),
-      unreadable(TextOf(library, IDS_FOLDER_UNREADABLE, L"This folder cannot be read.")) {}
+PathDialogTexts::PathDialogTexts(const Language& language)
+    : select(language.Text(IDS_SELECT, L"Select")),
+      cancel(language.Text(IDS_CANCEL, L"Cancel")),
+      up(language.Text(IDS_FOLDER_UP, L"Up one level")),
+      root(language.Text(IDS_FOLDER_ROOT, L"My Device")),
+      empty(language.Text(IDS_FOLDER_EMPTY, L"No entries")),
+      unreadable(language.Text(IDS_FOLDER_UNREADABLE, L"This folder cannot be read.")) {}
 
 PathDialogModel::PathDialogModel(Files& files, Locale& locale, PathRequest request,
                                  std::wstring upText)

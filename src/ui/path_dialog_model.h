@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/libraries.h"
+#include "platform/language.h"
 #include "ui/folder_listing.h"
 
 namespace tidewell {
@@ -20,7 +20,7 @@ struct PathRequest {
 };
 
 struct PathDialogTexts {
-  explicit PathDialogTexts(const ResourceLibrary* library);
+  explicit PathDialogTexts(const Language& language);
 
   std::wstring select, cancel;
   std::wstring up;

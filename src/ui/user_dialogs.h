@@ -4,12 +4,16 @@
 #include <optional>
 #include <string>
 
+#include "ui/file_name_dialog_model.h"
+
 namespace tidewell {
 
 class UserDialogs {
  public:
   virtual ~UserDialogs() = default;
   virtual void ShowMessage(const std::wstring& text, const std::wstring& caption) = 0;
+  // A question with Yes and No; `byDefault` is the answer of whoever just presses Enter.
+  virtual bool Ask(const std::wstring& question, const std::wstring& caption, bool byDefault) = 0;
   // The full path of the chosen folder or file; nothing when cancelled. Begins at `present`.
   virtual std::optional<std::wstring> ChooseFolder(const std::wstring& title,
                                                    const std::wstring& present) = 0;
@@ -17,6 +21,9 @@ class UserDialogs {
   virtual std::optional<std::wstring> ChooseFile(const std::wstring& title,
                                                  const std::wstring& present,
                                                  const std::wstring& pattern) = 0;
+  // Lets the user name a file in the request's folder. True when one was named: the request holds
+  // its path.
+  virtual bool ChooseFileName(FileNameRequest& request) = 0;
 };
 
 }  // namespace tidewell

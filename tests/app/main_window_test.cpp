@@ -28,7 +28,7 @@ TEST_F(ProgramTest, ToolsComeAndGoByTheBarAndTheSoftKeys) {
   SendMessageW(Window(), WM_COMMAND, ID_LEFT_BUTTON, 0);
   ASSERT_TRUE(IsOpen()) << "the left button is gone";
   RunRow(2);
-  EXPECT_EQ(asked, std::vector<std::wstring>{L"text 613|text 614|4"});
+  EXPECT_EQ(dialogs.shown, std::vector<std::wstring>{L"text 614: text 613 [yes]"});
   ASSERT_TRUE(IsOpen()) << "the exit was answered with no";
 
   SendMessageW(Window(), WM_COMMAND, ID_RIGHT_BUTTON, 0);
@@ -165,16 +165,20 @@ TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
   Start();
   TapBar(true);
   RunRow(0);
-  EXPECT_TRUE(asked.empty()) << "a cancelled dialog says nothing";
-  backup = L"\\My Documents\\a.twsb";
+  EXPECT_TRUE(dialogs.shown.empty()) << "a cancelled dialog says nothing";
+  const std::wstring backup = L"\\My Documents\\a.twsb";
+  dialogs.answer = backup;
   RunRow(0);
-  EXPECT_EQ(asked, std::vector<std::wstring>{L"text 607 \"" + backup + L"\"|text 608|0"});
+  EXPECT_EQ(dialogs.shown, std::vector<std::wstring>{L"text 608: text 607 \"" + backup + L"\""});
   ASSERT_TRUE(IsOpen());
 
   program->Settings().root.IndentItems.Set(1);
   RunRow(1);
-  EXPECT_EQ(backupAsked, L"Import TW Settings|\\My Documents||twsb");
-  EXPECT_EQ(asked.back(), L"text 611|text 612|0");
+  EXPECT_EQ(dialogs.named.title, L"Import TW Settings");
+  EXPECT_EQ(dialogs.named.folder, L"\\My Documents");
+  EXPECT_EQ(dialogs.named.extension, L"twsb");
+  EXPECT_FALSE(dialogs.named.listsFolders);
+  EXPECT_EQ(dialogs.shown.back(), L"text 612: text 611");
   EXPECT_FALSE(IsOpen());
   PumpMessages();
   EXPECT_EQ(CountBroadcasts(), 1);
@@ -183,8 +187,9 @@ TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
 }
 
 TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
-  const std::wstring outside = L"text 2034 \"HKEY_CURRENT_USER\\\\A\"\n\ntext 2035|text 2037|260";
-  backup = L"\\My Documents\\a.twsb";
+  const std::wstring outside = L"text 2037: text 2034 \"HKEY_CURRENT_USER\\\\A\"\n\ntext 2035 [no]";
+  const std::wstring backup = L"\\My Documents\\a.twsb";
+  dialogs.answer = backup;
   Start();
   TapBar(true);
   RunRow(1);
@@ -192,22 +197,22 @@ TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
   device.files.SetWriteProtected(true);
   RunRow(0);
   RunRow(1);
-  EXPECT_EQ(asked,
-            (std::vector<std::wstring>{L"text 609\n\ntext 2031|text 610|0",
-                                       L"text 607 \"" + backup + L"\"\n\ntext 2030|text 608|0",
-                                       L"text 2036|text 2037|260"}));
-  asked.clear();
+  EXPECT_EQ(dialogs.shown,
+            (std::vector<std::wstring>{L"text 610: text 609\n\ntext 2031",
+                                       L"text 608: text 607 \"" + backup + L"\"\n\ntext 2030",
+                                       L"text 2037: text 2036 [no]"}));
+  dialogs.shown.clear();
   device.files.SetWriteProtected(false);
   device.files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n\n[\\A]\n"));
   RunRow(1);
-  EXPECT_EQ(asked, std::vector{outside});
-  asked.clear();
-  answer = IDYES;
+  EXPECT_EQ(dialogs.shown, std::vector{outside});
+  dialogs.shown.clear();
+  dialogs.agrees = true;
   RunRow(1);
-  EXPECT_EQ(asked,
+  EXPECT_EQ(dialogs.shown,
             (std::vector<std::wstring>{outside,
-                                       L"text 609\n\ntext 2032 text 2033 "
-                                       L"\"TW_BeforeImport_2008_03_14_090500.twsb\"|text 610|0"}));
+                                       L"text 610: text 609\n\ntext 2032 text 2033 "
+                                       L"\"TW_BeforeImport_2008_03_14_090500.twsb\""}));
   EXPECT_TRUE(IsOpen());
 }
 

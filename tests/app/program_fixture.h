@@ -13,6 +13,7 @@
 #include "platform/memory/metered_files.h"
 #include "platform/memory/metered_registry.h"
 #include "tests/support/catalog_support.h"
+#include "tests/support/fake_dialogs.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/window_support.h"
 
@@ -51,16 +52,7 @@ class ProgramTest : public testing::Test {
   MainWindowParts Parts() {
     return {[this](int page, HWND host, PageContext&) { return MakePage(page, host); },
             [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
-            [this](HWND, const std::wstring& text, const std::wstring& caption, UINT buttons) {
-              asked.push_back(text + L"|" + caption + L"|" + std::to_wstring(buttons));
-              return answer;
-            },
-            [this](const DialogContext&, FileNameRequest& request) {
-              backupAsked = request.title + L"|" + request.folder + L"|" + request.initialName +
-                            L"|" + request.extension;
-              request.resultPath = backup;
-              return !backup.empty();
-            }};
+            &dialogs};
   }
 
   void SetDword(const std::wstring& name, std::uint32_t value) {
@@ -119,10 +111,7 @@ class ProgramTest : public testing::Test {
   MeteredFiles files{device.files};
   std::unique_ptr<MainWindow> program;
   std::vector<PimCategory> categories;
-  std::vector<std::wstring> asked;  // each question
-  int answer = IDNO;
-  std::wstring backup;  // chosen in the file name dialog; empty cancels it
-  std::wstring backupAsked;
+  FakeDialogs dialogs;
   bool hasPages = false;
   int pageAsked = -1;
   HWND pageWindow = nullptr;

@@ -59,7 +59,7 @@ struct Device {
   }
   void Load(SettingsStore& store) {
     Machine door{registry, machine.files, machine.locale, machine.libraries, machine.system};
-    std::unique_ptr<ResourceLibrary> language;
+    Language language;
     store.Load(door, scale, language);
   }
   void Save(SettingsStore& store) { store.Save(registry, scale); }

@@ -7,7 +7,6 @@
 #include <map>
 
 #include "pages/page_rules.h"
-#include "ui/user_dialogs.h"
 
 namespace tidewell {
 
@@ -95,27 +94,6 @@ class FakeView final : public PageView {
   std::map<int, std::vector<ListLine>> lines_;
   std::map<int, int> selected_;
   std::map<int, bool> enabled_;
-};
-
-// Answers in the user's place and keeps what was shown.
-class FakeDialogs final : public UserDialogs {
- public:
-  void ShowMessage(const std::wstring& text, const std::wstring& caption) override {
-    shown.push_back(caption + L": " + text);
-  }
-  std::optional<std::wstring> ChooseFolder(const std::wstring& title,
-                                           const std::wstring& present) override {
-    shown.push_back(title + L": " + present);
-    return answer;
-  }
-  std::optional<std::wstring> ChooseFile(const std::wstring& title, const std::wstring& present,
-                                         const std::wstring& pattern) override {
-    shown.push_back(title + L": " + present + L", " + pattern);
-    return answer;
-  }
-
-  std::vector<std::wstring> shown;
-  std::optional<std::wstring> answer;
 };
 
 }  // namespace tidewell

@@ -18,8 +18,7 @@ class PageFixture : public testing::Test {
   void UseScreen(int width, int height, int dpi) {
     machine.system.screen = {width, height, dpi, dpi};
     context.scale = ScreenScale(dpi, dpi, false);
-    std::unique_ptr<ResourceLibrary> unused;
-    store.Load(door, context.scale, unused);
+    store.Load(door, context.scale, language);
   }
   void Install(const wchar_t* key, const wchar_t* value,
                RegistryRoot root = RegistryRoot::kCurrentUser) {
@@ -37,7 +36,8 @@ class PageFixture : public testing::Test {
   Machine door = machine.Door();
   SettingsStore store;
   CategoryCatalog categories{door, store};
-  PageContext context{door, store, categories, nullptr, {}};
+  Language language;
+  PageContext context{door, store, categories, language, {}};
 };
 
 }  // namespace tidewell

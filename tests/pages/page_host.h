@@ -11,8 +11,8 @@
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_libraries.h"
-#include "tests/pages/fake_view.h"
 #include "tests/pages/page_fixture.h"
+#include "tests/support/fake_dialogs.h"
 #include "tests/support/window_support.h"
 
 namespace tidewell {
@@ -35,10 +35,15 @@ class PageHost : public PageFixture {
     MoveWindow(host_.Get(), 0, strip, width, height - strip, FALSE);
   }
   void UseLanguage(const std::wstring& library) {
+<<<<<<< HEAD
     WindowsFiles files;
     language_ = WindowsLibraries(files).Load(LANGUAGE_FOLDER + library);
     ASSERT_TRUE(language_) << "not built";
     context.language = language_.get();
+=======
+    WindowsLibraries libraries;
+    ASSERT_TRUE(language.Load(libraries, LANGUAGE_FOLDER + library, {})) << "not built";
+>>>>>>> 91ae291 (Own the language once, and ask the user through one seam)
   }
 
   void Open(PageIndex page) {
@@ -119,7 +124,6 @@ class PageHost : public PageFixture {
   }
 
   FakeDialogs dialogs_;
-  std::unique_ptr<ResourceLibrary> language_;
   TestWindow host_{WS_POPUP | WS_VISIBLE, 0};
   std::unique_ptr<PageWindow> page_;
 };

@@ -6,6 +6,7 @@
 #include "resources/text/text_ids.h"
 #include "tests/pages/fake_view.h"
 #include "tests/pages/page_fixture.h"
+#include "tests/support/fake_dialogs.h"
 
 namespace tidewell {
 namespace {

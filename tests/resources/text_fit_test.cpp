@@ -46,7 +46,8 @@ std::set<int> TextsOfPages() {
   Machine machine = device.Door();
   SettingsStore store;
   CategoryCatalog categories(machine, store);
-  PageContext context{machine, store, categories, nullptr, {}};
+  Language language;
+  PageContext context{machine, store, categories, language, {}};
   std::set<int> ids;
   for (const PageEntry& page : kPages) {
     ids.insert(page.captionId);

@@ -95,7 +95,7 @@ TEST_F(SettingsStoreTest, TheChosenLanguageLibraryReplacesTheOldOneElseTheEnglis
   const wchar_t* english = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\TWEngRc.dll";
   Put(SettingKey::kRoot, L"SelectedLangResFile", L"\\LangRes\\German.dll");
   Load();
-  EXPECT_EQ(language, nullptr) << "neither is there";
+  EXPECT_EQ(language.Text(1436, L"none"), L"none") << "neither is there";
   for (const auto& [path, caption] :
        {std::pair(english, L"Calendar"), {L"\\LangRes\\German.dll", L"Kalender"}}) {
     machine.libraries.Put(path, {{1436, caption}});

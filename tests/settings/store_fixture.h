@@ -66,7 +66,7 @@ class StoreFixture : public testing::Test {
   MemoryRegistry& registry = machine.registry;
   MeteredRegistry metered{registry};
   ScreenScale scale{96, 96, false};
-  std::unique_ptr<ResourceLibrary> language;
+  Language language;
   SettingsStore store;
 };
 

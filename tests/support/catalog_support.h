@@ -32,7 +32,7 @@ struct CatalogMachine {
   MeteredRegistry registry{memory.registry};
   MeteredFiles files{memory.files};
   SettingsStore store;
-  std::unique_ptr<ResourceLibrary> language;
+  Language language;
   CategoryCatalog catalog{MeteredDoor(), store};
 
   Machine MeteredDoor() {

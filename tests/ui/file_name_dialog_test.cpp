@@ -55,7 +55,8 @@ class FileNameDialogTest : public testing::Test {
   MemoryMachine memory;
   Machine machine = memory.Door();
   ScreenScale scale{96, 96, false};
-  DialogContext context{nullptr, machine, nullptr, scale};
+  Language language;
+  DialogContext context{nullptr, machine, language, scale};
   FileNameRequest request;
   DialogDriver driver{Shown};
 };

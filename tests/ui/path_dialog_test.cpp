@@ -44,7 +44,8 @@ class PathDialogTest : public testing::Test {
   MemoryMachine memory;
   Machine machine = memory.Door();
   ScreenScale scale{96, 96, false};
-  DialogContext context{nullptr, machine, nullptr, scale};
+  Language language;
+  DialogContext context{nullptr, machine, language, scale};
   DialogDriver driver{Shown};
 };
 

@@ -281,7 +281,7 @@ void SettingsPage::Place(int id, const Rect& place) const {
 }
 
 std::wstring SettingsPage::Text(int textId) const {
-  return textId ? TextOf(context_.language, static_cast<std::uint32_t>(textId)) : std::wstring();
+  return context_.language.Text(textId);
 }
 
 }  // namespace tidewell

@@ -10,8 +10,7 @@ std::unique_ptr<PageWindow> CreatePage(int index, HWND host, PageContext& contex
   const PageEntry& entry = kPages[static_cast<std::size_t>(index)];
   if (!entry.make) return nullptr;
   auto page = std::make_unique<RulesPage>(context, entry.make(context));
-  const std::wstring caption =
-      TextOf(context.language, static_cast<std::uint32_t>(entry.captionId));
+  const std::wstring caption = context.language.Text(entry.captionId);
   if (!page->Create(host, entry.className, caption)) return nullptr;
   return page;
 }

@@ -12,7 +12,7 @@ namespace tidewell {
 // the tab list.
 struct BuiltInTab {
   TabType type;
-  std::uint32_t captionId;
+  int captionId;
   DwordSetting& enabled;
   DwordSetting& order;
 };

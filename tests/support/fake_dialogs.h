@@ -1,0 +1,43 @@
+// Answers in the user's place, and keeps what was shown.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ui/user_dialogs.h"
+
+namespace tidewell {
+
+class FakeDialogs final : public UserDialogs {
+ public:
+  void ShowMessage(const std::wstring& text, const std::wstring& caption) override {
+    shown.push_back(caption + L": " + text);
+  }
+  bool Ask(const std::wstring& question, const std::wstring& caption, bool byDefault) override {
+    shown.push_back(caption + L": " + question + (byDefault ? L" [yes]" : L" [no]"));
+    return agrees;
+  }
+  std::optional<std::wstring> ChooseFolder(const std::wstring& title,
+                                           const std::wstring& present) override {
+    shown.push_back(title + L": " + present);
+    return answer;
+  }
+  std::optional<std::wstring> ChooseFile(const std::wstring& title, const std::wstring& present,
+                                         const std::wstring& pattern) override {
+    shown.push_back(title + L": " + present + L", " + pattern);
+    return answer;
+  }
+  bool ChooseFileName(FileNameRequest& request) override {
+    named = request;
+    if (answer) request.resultPath = *answer;
+    return answer.has_value();
+  }
+
+  std::vector<std::wstring> shown;
+  bool agrees = false;
+  std::optional<std::wstring> answer;  // nothing cancels
+  FileNameRequest named;
+};
+
+}  // namespace tidewell
