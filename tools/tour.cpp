@@ -2,6 +2,7 @@
 // waits for a line on standard input; the one who started the tour takes the picture in between.
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <iterator>
@@ -9,6 +10,9 @@
 #include <utility>
 #include <vector>
 
+#include "pages/page_list.h"
+#include "platform/memory/memory_machine.h"
+#include "platform/text.h"
 #include "tests/device/driven_program.h"
 
 namespace tidewell::device {
@@ -81,22 +85,31 @@ const View kViews[] = {
     {"about", {Press(VK_DOWN, kAboutRow), Press(VK_RETURN), Popup}},
 };
 
-// A settings page: its row in the list of groups, and how many tabs it has.
-struct Page {
-  const char* name;
-  int row;
-  int tabs;
-};
+// "PIMSettingsWin" is shown as "pim".
+std::string NameOf(const PageEntry& page) {
+  std::wstring name = page.className;
+  name.resize(name.find(L"SettingsWin"));
+  std::transform(name.begin(), name.end(), name.begin(), FoldCase);
+  return {name.begin(), name.end()};
+}
 
-const Page kPages[] = {
-    {"general", 0, 4}, {"messages", 5, 2}, {"special-events", 6, 3}, {"pim", 9, 2}};
+std::size_t CountTabs(const PageEntry& page) {
+  MemoryMachine device;
+  Machine machine = device.Door();
+  SettingsStore store;
+  CategoryCatalog categories(machine, store);
+  const Language language;
+  PageContext context{machine, store, categories, language, {}};
+  return page.make(context)->Tabs().size();
+}
 
 // Every tab: from the page's first control, Up leads to the row of tabs, and Right turns it.
-std::vector<View> ViewsOf(const Page& page) {
+std::vector<View> ViewsOf(const PageEntry& page, int row) {
   std::vector<View> views;
-  for (int tab = 0; tab < page.tabs; ++tab) {
-    View view{page.name + std::string("-") + std::to_string(tab + 1), {}};
-    if (page.row > 0) view.steps.push_back(Press(VK_DOWN, page.row));
+  const auto tabs = static_cast<int>(CountTabs(page));
+  for (int tab = 0; tab < tabs; ++tab) {
+    View view{NameOf(page) + "-" + std::to_string(tab + 1), {}};
+    if (row > 0) view.steps.push_back(Press(VK_DOWN, row));
     view.steps.insert(view.steps.end(), {Press(VK_RETURN), Popup});
     if (tab > 0) view.steps.insert(view.steps.end(), {Press(VK_UP), Press(VK_RIGHT, tab)});
     views.push_back(std::move(view));
@@ -106,8 +119,10 @@ std::vector<View> ViewsOf(const Page& page) {
 
 std::vector<View> AllViews() {
   std::vector<View> views(std::begin(kViews), std::end(kViews));
-  for (const Page& page : kPages) {
-    for (View& view : ViewsOf(page)) views.push_back(std::move(view));
+  for (int row = 0; row < kPageCount; ++row) {
+    const PageEntry& page = kPages[static_cast<std::size_t>(row)];
+    if (!page.make) continue;
+    for (View& view : ViewsOf(page, row)) views.push_back(std::move(view));
   }
   return views;
 }
