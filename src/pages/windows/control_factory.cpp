@@ -3,6 +3,7 @@
 
 #include "pages/windows/list_lines.h"
 #include "pages/windows/settings_page.h"
+#include "platform/text.h"
 #include "resources/text/text_ids.h"
 #include "ui/look.h"
 #include "ui/user_dialogs.h"
@@ -47,7 +48,7 @@ void WriteRow(HWND list, int index, ListRow& row) {
 bool IsOfClass(HWND control, const wchar_t* wanted) {
   wchar_t name[32] = L"";
   GetClassNameW(control, name, 32);
-  return lstrcmpiW(name, wanted) == 0;
+  return EqualIgnoringCase(name, wanted);
 }
 
 bool IsEditable(HWND combo) {
