@@ -93,11 +93,9 @@ int Run(HINSTANCE instance, int showCommand) {
   MarkingMachine machine(marks);
   WindowsMachine& real = machine.machine;
   MainWindow window(instance, {real.registry, real.files, real.locale, machine, machine},
-                    {CreatePage,
-                     [&](const std::wstring& icons) {
+                    {CreatePage, [&](const std::wstring& icons) {
                        return std::make_unique<MarkingCategories>(real.files, icons, marks);
-                     },
-                     nullptr, nullptr});
+                     }});
   if (!window.Create() || !window.IsComplete()) return 1;
   marks.End(5);
   ShowWindow(window.Window(), showCommand);

@@ -24,20 +24,10 @@ StartMode StartModeOf(std::wstring_view commandLine) {
   return commandLine == L"About" ? StartMode::kAbout : StartMode::kNormal;
 }
 
-<<<<<<< HEAD
-int AskInMessageBox(HWND owner, const std::wstring& text, const std::wstring& caption,
-                    UINT buttons) {
-  return MessageBoxW(owner, text.c_str(), caption.c_str(), buttons);
-}
-
 CategorySourceFactory OpenPimCategories(Files& files) {
   return [&files](const std::wstring& iconsFolder) {
     return std::make_unique<PimCategorySource>(files, iconsFolder);
   };
-=======
-std::unique_ptr<CategorySource> OpenPimCategories(const std::wstring& iconsFolder) {
-  return std::make_unique<PimCategorySource>(iconsFolder);
->>>>>>> 91ae291 (Own the language once, and ask the user through one seam)
 }
 
 // Nothing when the program has a window now and goes on, else its exit code.
@@ -70,17 +60,9 @@ int RunMessageLoop(HINSTANCE instance) {
 int Run(HINSTANCE instance, std::wstring_view commandLine, int showCommand) {
   InstallDeviceShell();
   WindowsMachine machine;
-<<<<<<< HEAD
-  MainWindow window(
-      instance, machine.Door(),
-      {CreatePage, OpenPimCategories(machine.files), AskInMessageBox, ChooseBackupInDialog});
+  MainWindow window(instance, machine.Door(), {CreatePage, OpenPimCategories(machine.files)});
   const auto exitCode = StartInstance(window, StartModeOf(commandLine), showCommand);
   return exitCode ? *exitCode : RunMessageLoop(instance);
-=======
-  MainWindow window(instance, machine.Door(), {CreatePage, OpenPimCategories});
-  if (!StartInstance(window, StartModeOf(commandLine), showCommand)) return 0;
-  return RunMessageLoop(instance);
->>>>>>> 91ae291 (Own the language once, and ask the user through one seam)
 }
 
 }  // namespace

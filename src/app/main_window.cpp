@@ -64,10 +64,10 @@ bool MainWindow::Create() {
 
 void MainWindow::GiveUp() {
   // A library that the settings were loaded with has given texts already.
-  const ResourceLibrary* language = settings_.IsLoaded() ? language_.get() : nullptr;
-  const std::wstring text = TextOf(language, IDS_START_FAILED, kStartFailedText);
+  const std::wstring text =
+      settings_.IsLoaded() ? language_.Text(IDS_START_FAILED, kStartFailedText) : kStartFailedText;
   DestroyWindow(window_);
-  parts_.ask(nullptr, text, kMainWindowCaption, MB_OK);
+  Dialogs().ShowMessage(text, kMainWindowCaption);
 }
 
 LRESULT CALLBACK MainWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -68,13 +68,8 @@ std::array<SettingGroup*, 15> SettingsStore::Groups() {
           &fonts, &colors,          &customPim,    &tabSettings, &categories};
 }
 
-<<<<<<< HEAD
-void SettingsStore::Load(Machine& machine, const ScreenScale& scale,
-                         std::unique_ptr<ResourceLibrary>& language) {
-  isLoaded_ = false;
-=======
 void SettingsStore::Load(Machine& machine, const ScreenScale& scale, Language& language) {
->>>>>>> 91ae291 (Own the language once, and ask the user through one seam)
+  isLoaded_ = false;
   Registry& registry = machine.registry;
   LoadContext context;
   context.scale = scale;
