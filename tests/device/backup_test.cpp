@@ -13,7 +13,7 @@ namespace tidewell::device {
 
 namespace {
 
-constexpr int kKills = 20;
+constexpr int kKills = 10;
 constexpr wchar_t kDocuments[] = L"C:\\My Documents";
 constexpr wchar_t kBackup[] = L"C:\\My Documents\\device_test.twsb";
 constexpr wchar_t kFiltersFile[] = L"C:\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";

@@ -15,10 +15,7 @@ HWND NameField() {
 
 // The name, with a cursor while it has the focus, and the rows; or a message box's text.
 std::wstring Shown() {
-  if (!List()) {
-    const HWND text = ControlOf(WC_STATICW, ControlOf(WC_STATICW, 1) ? 1 : 0);
-    return CaptionOf(FrontDialog()) + L": " + CaptionOf(text);
-  }
+  if (!List()) return CaptionOf(FrontDialog()) + L": " + CaptionOf(ControlOf(WC_EDITW));
   return CaptionOf(NameField()) + (GetFocus() == NameField() ? L"_:" : L":") + RowsShown();
 }
 
