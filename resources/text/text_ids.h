@@ -215,5 +215,5 @@
 #define IDS_IMPORT_GO_BACK 2033          // To go back, import
 #define IDS_IMPORT_OUTSIDE 2034          // This file also changes settings of other programs, first
 #define IDS_IMPORT_OUTSIDE_QUESTION 2035  // There is no copy of these. Import all the same?
-#define IDS_IMPORT_NO_COPY_QUESTION 2036  // The present settings could not be copied completely, so they may be lost. Import all the same?
+#define IDS_IMPORT_NO_COPY_QUESTION 2036  // Not all settings could be copied. Import all the same?
 #define IDS_IMPORT_QUESTION_CAPTION 2037  // Import Settings

@@ -198,6 +198,42 @@ TEST_F(BackupDeviceTest, AKilledImportLeavesWhatWasThereOrACopyThatBringsItBack)
   EXPECT_EQ(Export(), old);
 }
 
+// Thirty hosted tabs whose types and orders are put right at Done, none to or from a default.
+std::string HostedTabs() {
+  const std::string key = "\n[HKEY_CURRENT_USER\\Software\\Velmont\\Tidewell\\TabSettings";
+  std::string text = key + "]\n\"SEventsTabOrder\"=dword:9\n";
+  for (int i = 1; i <= 30; ++i) {
+    const std::string number = std::to_string(i + 100);
+    text += key + "\\Plug-in " + number + "]\n\"Order\"=dword:" + (i > 3 ? number : "8") +
+            "\n\"Type\"=dword:4d\n\"Enabled\"=dword:1\n\"DLL\"=\"plug-in " + number +
+            ".dll\"\n\"InstallPath\"=\"of " + number + "\"\n\"CustomIconName\"=\"icon " + number +
+            "\"\n";
+  }
+  return text;
+}
+
+TEST_F(BackupDeviceTest, AKilledDoneLeavesFiltersAndHostedTabsEachTheOldOrTheNewOne) {
+  ASSERT_TRUE(ImportRegistry(HostedTabs()));
+  const std::string before = QueryProductTree();
+  const std::string defaults = DefaultFilters();
+  const std::string after = QueryProductTree();
+  ASSERT_EQ(defaults.size(), 6362u);
+  ASSERT_NE(before, after);
+  const std::string cutOff = defaults.substr(0, 3000);  // read as the defaults, so written anew
+  for (int i = 0; i < kKills / 2; ++i) {
+    WriteFileBytes(kFiltersFile, cutOff);
+    ASSERT_TRUE(ImportRegistry(HostedTabs()));
+    DrivenProgram program;
+    ASSERT_TRUE(program.WaitForMainWindow());
+    ConfirmAndKill(program, program.Main(), 40);
+    EXPECT_THAT(ReadFileBytes(kFiltersFile), testing::AnyOf(cutOff, defaults)) << i;
+    const std::string left = QueryProductTree();
+    EXPECT_TRUE(IsOldOrNew(before, after, left)) << i << left;
+  }
+  DrivenProgram program;
+  EXPECT_TRUE(program.WaitForMainWindow());
+}
+
 }  // namespace
 
 }  // namespace tidewell::device

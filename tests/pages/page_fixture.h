@@ -18,7 +18,8 @@ class PageFixture : public testing::Test {
   void UseScreen(int width, int height, int dpi) {
     machine.system.screen = {width, height, dpi, dpi};
     context.scale = ScreenScale(dpi, dpi, false);
-    store.Load(door, context.scale, language);
+    Language loaded;  // the pages have one of their own
+    store.Load(door, context.scale, loaded);
   }
   void Install(const wchar_t* key, const wchar_t* value,
                RegistryRoot root = RegistryRoot::kCurrentUser) {

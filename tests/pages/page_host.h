@@ -35,15 +35,9 @@ class PageHost : public PageFixture {
     MoveWindow(host_.Get(), 0, strip, width, height - strip, FALSE);
   }
   void UseLanguage(const std::wstring& library) {
-<<<<<<< HEAD
     WindowsFiles files;
-    language_ = WindowsLibraries(files).Load(LANGUAGE_FOLDER + library);
-    ASSERT_TRUE(language_) << "not built";
-    context.language = language_.get();
-=======
-    WindowsLibraries libraries;
+    WindowsLibraries libraries(files);
     ASSERT_TRUE(language.Load(libraries, LANGUAGE_FOLDER + library, {})) << "not built";
->>>>>>> 91ae291 (Own the language once, and ask the user through one seam)
   }
 
   void Open(PageIndex page) {
