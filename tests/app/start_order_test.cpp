@@ -44,7 +44,7 @@ TEST_F(ProgramTest, TheWindowFillsItsPlaceWithoutAFrameAndAnExitWritesAndTellsNo
   EXPECT_TRUE(EqualRect(&place, &wanted));
   EXPECT_EQ(ClientRect(Window()).bottom, place.bottom - place.top);
   EXPECT_EQ(FindWindowW(L"TW_OPTIONS", L"TW Options"), Window());
-  answer = IDYES;
+  dialogs.agrees = true;
   TapBar(true);
   RunRow(2);
   PumpMessages();

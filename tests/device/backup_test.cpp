@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "device_fixture.h"
+#include "tests/support/registry_support.h"
 
 namespace tidewell::device {
 

@@ -15,7 +15,10 @@ class FakeView final : public PageView {
   explicit FakeView(std::unique_ptr<PageRules> rules)
       : rules_(std::move(rules)), tabs_(rules_->Tabs()) {
     for (std::size_t tab = 0; tab < tabs_.size(); ++tab) {
-      for (const Row* row : tabs_[tab].Rows()) states_[row->controlId] = StateOf(*row);
+      for (const Row* row : tabs_[tab].Rows()) {
+        states_[row->controlId] = StateOf(*row);
+        choices_[row->controlId] = row->choices;
+      }
       for (const int id : tabs_[tab].ControlIds()) enabled_[id] = true;
       rules_->OnBuilt(*this, static_cast<int>(tab));
     }
@@ -28,11 +31,6 @@ class FakeView final : public PageView {
   }
   // A line of a drop-down list.
   void Choose(int id, int line) {
-    for (const PageTab& tab : tabs_) {
-      for (const Row* row : tab.Rows()) {
-        if (row->controlId == id && !row->choices.empty()) choices_[id] = row->choices;
-      }
-    }
     SetState(id, ControlState::OfLine(line));
     Tell({id, PageEventKind::kChosen});
     Tell({id, PageEventKind::kChanged});
@@ -66,13 +64,9 @@ class FakeView final : public PageView {
   void SetChoices(int id, const Choices& choices) override { choices_[id] = choices; }
   std::vector<ListLine> Lines(int listId) const override { return lines_.at(listId); }
   void SetLines(int listId, const std::vector<ListLine>& lines) override { lines_[listId] = lines; }
-  int SelectedLine(int listId) const override { return selected_.at(listId); }
-  void SelectLine(int listId, int line) override { selected_[listId] = line; }
-  void MoveLine(int listId, bool up) override {
-    const int line = selected_[listId];
-    std::swap(lines_[listId].at(static_cast<std::size_t>(line)),
-              lines_[listId].at(static_cast<std::size_t>(up ? line - 1 : line + 1)));
-  }
+  int SelectedLine(int) const override { return kNoChoice; }
+  void SelectLine(int, int) override {}
+  void MoveLine(int, bool) override {}
   void Repaint() override {}
 
  private:
@@ -92,7 +86,6 @@ class FakeView final : public PageView {
   std::map<int, ControlState> states_;
   std::map<int, Choices> choices_;
   std::map<int, std::vector<ListLine>> lines_;
-  std::map<int, int> selected_;
   std::map<int, bool> enabled_;
 };
 
