@@ -5,20 +5,10 @@
 #include <vector>
 
 #include "pages/page_rows.h"
+#include "platform/rect.h"
 #include "platform/scale.h"
 
 namespace tidewell {
-
-struct Rect {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-
-  int Right() const { return left + width; }
-  int Bottom() const { return top + height; }
-  bool operator==(const Rect&) const = default;
-};
 
 // How large a text is in the page's font, in pixels.
 class TextMeasure {

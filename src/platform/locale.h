@@ -29,6 +29,8 @@ class Locale {
   virtual std::wstring FormatDate(const LocalTime& date, const std::wstring& picture) = 0;
   // The time of day in the user's format, without seconds.
   virtual std::wstring FormatTime(const LocalTime& time) = 0;
+  // `picture` in the system's terms, such as "hh:mmt".
+  virtual std::wstring FormatTime(const LocalTime& time, const std::wstring& picture) = 0;
 };
 
 }  // namespace tidewell

@@ -14,13 +14,13 @@ std::wstring Padded(int number, std::size_t digits) {
   return text;
 }
 
-}  // namespace
-
-int FixedLocale::CompareIgnoringCase(const std::wstring& left, const std::wstring& right) {
-  return CompareFolded(left, right);
+int TwelveHour(int hour) {
+  return hour % 12 == 0 ? 12 : hour % 12;
 }
 
-std::wstring FixedLocale::FormatDate(const LocalTime& date, const std::wstring& picture) {
+// Each run of one letter becomes what `field` makes of it; what stands in quotes stays.
+template <typename Field>
+std::wstring FilledIn(const std::wstring& picture, Field field) {
   std::wstring text;
   for (std::size_t at = 0; at < picture.size();) {
     const wchar_t unit = picture[at];
@@ -31,25 +31,41 @@ std::wstring FixedLocale::FormatDate(const LocalTime& date, const std::wstring& 
       continue;
     }
     const std::size_t run = std::min(picture.find_first_not_of(unit, at), picture.size()) - at;
-    if (unit == L'd') {
-      text += Padded(date.day, run);
-    } else if (unit == L'M') {
-      text += Padded(date.month, run);
-    } else if (unit == L'y') {
-      text += run < 4 ? Padded(date.year % 100, run) : Padded(date.year, run);
-    } else {
-      text.append(run, unit);
-    }
+    text += field(unit, run);
     at += run;
   }
   return text;
 }
 
+}  // namespace
+
+int FixedLocale::CompareIgnoringCase(const std::wstring& left, const std::wstring& right) {
+  return CompareFolded(left, right);
+}
+
+std::wstring FixedLocale::FormatDate(const LocalTime& date, const std::wstring& picture) {
+  return FilledIn(picture, [&](wchar_t unit, std::size_t run) {
+    if (unit == L'd') return Padded(date.day, run);
+    if (unit == L'M') return Padded(date.month, run);
+    if (unit == L'y') return Padded(run < 4 ? date.year % 100 : date.year, run);
+    return std::wstring(run, unit);
+  });
+}
+
 std::wstring FixedLocale::FormatTime(const LocalTime& time) {
   const std::wstring minute = L":" + Padded(time.minute, 2);
   if (timeStyle != L"0") return Padded(time.hour, 2) + minute;
-  const int hour = time.hour % 12 == 0 ? 12 : time.hour % 12;
-  return FormatDecimal(hour) + minute + (time.hour < 12 ? L" AM" : L" PM");
+  return FormatDecimal(TwelveHour(time.hour)) + minute + L" " + Marker(time);
+}
+
+std::wstring FixedLocale::FormatTime(const LocalTime& time, const std::wstring& picture) {
+  return FilledIn(picture, [&](wchar_t unit, std::size_t run) {
+    if (unit == L'H') return Padded(time.hour, run);
+    if (unit == L'h') return Padded(TwelveHour(time.hour), run);
+    if (unit == L'm') return Padded(time.minute, run);
+    if (unit == L't') return Marker(time).substr(0, 1);
+    return std::wstring(run, unit);
+  });
 }
 
 }  // namespace tidewell

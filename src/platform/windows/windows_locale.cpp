@@ -28,6 +28,14 @@ SYSTEMTIME SystemTimeOf(const LocalTime& time) {
   return system;
 }
 
+// In the locale's own picture when `picture` is null.
+std::wstring TimeText(LCID localeId, const LocalTime& time, const wchar_t* picture) {
+  const SYSTEMTIME moment = SystemTimeOf(time);
+  wchar_t text[kLongestText] = {};
+  GetTimeFormatW(localeId, TIME_NOSECONDS, &moment, picture, text, kLongestText);
+  return text;
+}
+
 }  // namespace
 
 WindowsLocale::WindowsLocale() : localeId_(LOCALE_USER_DEFAULT) {}
@@ -61,10 +69,11 @@ std::wstring WindowsLocale::FormatDate(const LocalTime& date, const std::wstring
 }
 
 std::wstring WindowsLocale::FormatTime(const LocalTime& time) {
-  const SYSTEMTIME moment = SystemTimeOf(time);
-  wchar_t text[kLongestText] = {};
-  GetTimeFormatW(localeId_, TIME_NOSECONDS, &moment, nullptr, text, kLongestText);
-  return text;
+  return TimeText(localeId_, time, nullptr);
+}
+
+std::wstring WindowsLocale::FormatTime(const LocalTime& time, const std::wstring& picture) {
+  return TimeText(localeId_, time, picture.c_str());
 }
 
 }  // namespace tidewell

@@ -15,6 +15,7 @@ class WindowsLocale final : public Locale {
   LocalTime Now() override;
   std::wstring FormatDate(const LocalTime& date, const std::wstring& picture) override;
   std::wstring FormatTime(const LocalTime& time) override;
+  std::wstring FormatTime(const LocalTime& time, const std::wstring& picture) override;
 
  private:
   std::uint32_t localeId_;
