@@ -167,6 +167,8 @@ struct LogFont {
   std::uint8_t strikeOut = 0;
   std::uint8_t quality = 0;  // 5 is ClearType
   std::wstring faceName;     // at most 31 characters
+
+  bool operator==(const LogFont&) const = default;
 };
 
 inline constexpr std::uint32_t kFontThin = 100;
