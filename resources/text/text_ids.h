@@ -190,6 +190,21 @@
 // Language packs: the name under which a pack is offered, in its own language.
 #define IDS_LANGUAGE_NAME 378  // English
 
+// The preview, and the choice of its icons.
+#define IDS_SAMPLE_APPOINTMENT 631  // Meeting
+#define IDS_SAMPLE_LOCATION 632     // Room 2
+#define IDS_SAMPLE_TASK 1479        // Write the report
+#define IDS_ICON_NONE 1087          // None
+#define IDS_ICON_REMINDER 2040      // Reminder
+#define IDS_ICON_PRIVATE 2041       // Private
+#define IDS_ICON_RECURRING 2042     // Recurring
+#define IDS_ICON_NOTE 2043          // Note
+#define IDS_ICON_CATEGORY 2044      // Category
+#define IDS_ICON_IMPORTANCE 2045    // Importance
+#define IDS_ICON_ATTACHED 2046      // Own icon
+#define IDS_ICON_ATTENDEES 2047     // Attendees
+#define IDS_ICON_LINK 2048          // Link
+
 // Own texts, from 2000 on: dialogs whose texts have no number elsewhere.
 #define IDS_CANCEL 2000             // Cancel
 #define IDS_SELECT 2001             // Select

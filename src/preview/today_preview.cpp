@@ -1,0 +1,102 @@
+#include "preview/today_preview.h"
+
+#include <utility>
+
+#include "resources/text/text_ids.h"
+
+namespace tidewell {
+
+namespace {
+
+constexpr int kStripHeight = 42;
+constexpr Color kTodayBlue = Rgb(152, 183, 215);
+// The folding type that tasks are shown with, whatever the calendar's is.
+constexpr std::uint32_t kTaskFolding = 0;
+
+}  // namespace
+
+TodayPreview::TodayPreview(const SettingsStore& settings, const ScreenScale& scale, Locale& locale,
+                           const ResourceLibrary* language, IconSource& icons,
+                           LoadImageFile loadImage)
+    : settings_(settings),
+      scale_(scale),
+      locale_(locale),
+      icons_(icons),
+      loadImage_(std::move(loadImage)),
+      appointmentSubject_(TextOf(language, IDS_SAMPLE_APPOINTMENT)),
+      appointmentLocation_(TextOf(language, IDS_SAMPLE_LOCATION)),
+      taskSubject_(TextOf(language, IDS_SAMPLE_TASK)) {}
+
+void TodayPreview::DrawAppointment(Canvas& page, int width, int y) {
+  const TodayLook look = ReadTodayLook(settings_);
+  const int today = DayNumber(locale_.Now());
+  TodayItem item = SampleAppointment(today, appointmentSubject_, appointmentLocation_);
+  const ItemTexts texts = FormatTexts(item, today, look, locale_);
+  const CanvasFont& font = rowFont_.Get(page, look.appointment.font);
+  RowStyle style{font, look.appointment.color, look.appointmentSlots, look.appointmentIcons};
+  Draw(page, width, y, look, [&](const RowSetting& setting, DrawPass pass, const Rect& row) {
+    style.pass = pass;
+    return DrawAppointmentRow(setting, style, item, texts, row);
+  });
+}
+
+void TodayPreview::DrawTask(Canvas& page, int width, int y) {
+  const TodayLook look = ReadTodayLook(settings_);
+  const int today = DayNumber(locale_.Now());
+  TodayItem item = SampleTask(today, taskSubject_);
+  const ItemTexts texts = FormatTexts(item, today, look, locale_);
+  const CanvasFont& font = rowFont_.Get(page, look.task.font);
+  RowStyle style{font, look.task.color, look.taskSlots, look.taskIcons};
+  Draw(page, width, y, look, [&](const RowSetting& setting, DrawPass pass, const Rect& row) {
+    style.pass = pass;
+    return DrawTaskRow(setting, style, item, texts, row, kTaskFolding);
+  });
+}
+
+// The row stands in the middle of the strip, by the height that it measures.
+void TodayPreview::Draw(Canvas& page, int width, int y, const TodayLook& look,
+                        const DrawRow& drawRow) {
+  if (width <= 0) return;
+  PrepareStrips(page, width);
+  const int timeColumn =
+      MeasureTimeColumn(page, columnFont_.Get(page, look.columnMeasure.font), look, scale_);
+  const RowSetting setting{
+      *strip_, icons_, scale_, look, generalFont_.Get(page, look.general.font), timeColumn};
+  const int rowRoom = scale_.ScaleX(200);
+  const int height = drawRow(setting, DrawPass::kMeasure, {0, 0, width, rowRoom});
+  strip_->Copy(*background_, {0, 0, width, scale_.ScaleY(kStripHeight)});
+  drawRow(setting, DrawPass::kDraw, {0, scale_.ScaleX(21) - height / 2, width, rowRoom});
+  page.Copy(*strip_, {0, y, width, Height()});
+}
+
+// Made anew only after the screen was turned.
+void TodayPreview::PrepareStrips(Canvas& page, int width) {
+  if (width == width_) return;
+  strip_ = page.MakeOffscreen(width, Height());
+  background_ = page.MakeOffscreen(width, scale_.ScaleY(kStripHeight));
+  PaintBackground(*background_, width);
+  width_ = width;
+}
+
+void TodayPreview::PaintBackground(Canvas& background, int width) {
+  const int height = scale_.ScaleY(kStripHeight);
+  const int line = scale_.ScaleY(1);
+  background.Fill({0, 0, width, height}, kTodayBlue);
+  PaintWatermark(background, width);
+  background.Fill({0, 0, width, line}, kBlack);
+  background.Fill({0, height - line, width, line}, kBlack);
+}
+
+// A band of the picture behind the Today screen, where it is large enough for one.
+void TodayPreview::PaintWatermark(Canvas& background, int width) {
+  std::unique_ptr<Image> image = loadImage_(L"\\Windows\\tdywater.gif");
+  if (!image) image = loadImage_(L"\\windows\\stwater.gif");
+  const int least = scale_.ScaleY(10);
+  const int height = scale_.ScaleY(kStripHeight);
+  if (!image || image->Height() < least + height || image->Width() < width) return;
+  const int fromBottom = image->Height() - scale_.ScaleX(160);
+  const int top = fromBottom < 0 ? least : fromBottom;
+  background.DrawPart(*image, {0, top, width, height}, 0, 0, kRed);
+}
+
+}  // namespace tidewell

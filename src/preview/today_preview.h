@@ -1,0 +1,60 @@
+// The strip above a page's controls: a sample item as the Today screen would show it with the
+// settings as they stand.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/libraries.h"
+#include "platform/locale.h"
+#include "platform/scale.h"
+#include "preview/canvas.h"
+#include "preview/font_holder.h"
+#include "preview/icons.h"
+#include "preview/today_row.h"
+#include "settings/settings_store.h"
+
+namespace tidewell {
+
+// Null for a file that is missing or cannot be decoded.
+using LoadImageFile = std::function<std::unique_ptr<Image>(const std::wstring& path)>;
+
+// One per page. All that it is given by reference outlives it.
+class TodayPreview {
+ public:
+  // `language` may be null.
+  TodayPreview(const SettingsStore& settings, const ScreenScale& scale, Locale& locale,
+               const ResourceLibrary* language, IconSource& icons, LoadImageFile loadImage);
+
+  // In pixels; `width` is that of the strip, which begins at the page's left edge.
+  void DrawAppointment(Canvas& page, int width, int y);
+  void DrawTask(Canvas& page, int width, int y);
+  int Height() const { return scale_.ScaleX(42); }
+
+ private:
+  using DrawRow = std::function<int(const RowSetting& setting, DrawPass pass, const Rect& row)>;
+
+  void Draw(Canvas& page, int width, int y, const TodayLook& look, const DrawRow& drawRow);
+  void PrepareStrips(Canvas& page, int width);
+  void PaintBackground(Canvas& background, int width);
+  void PaintWatermark(Canvas& background, int width);
+
+  const SettingsStore& settings_;
+  ScreenScale scale_;
+  Locale& locale_;
+  IconSource& icons_;
+  LoadImageFile loadImage_;
+  std::wstring appointmentSubject_;
+  std::wstring appointmentLocation_;
+  std::wstring taskSubject_;
+
+  FontHolder generalFont_;
+  FontHolder columnFont_;
+  FontHolder rowFont_;
+  int width_ = 0;                       // of both below
+  std::unique_ptr<Canvas> background_;  // the Today screen without items
+  std::unique_ptr<Canvas> strip_;
+};
+
+}  // namespace tidewell
