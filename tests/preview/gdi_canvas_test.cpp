@@ -1,0 +1,167 @@
+// The canvas on real bitmaps, pixel by pixel.
+#include "preview/windows/gdi_canvas.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "preview/text_drawing.h"
+
+namespace tidewell {
+namespace {
+
+constexpr Color kGreen = Rgb(0, 255, 0);
+
+class Gdi : public testing::Test {
+ protected:
+  static constexpr int kWidth = 60;
+  static constexpr int kHeight = 24;
+
+  // A new bitmap, white all over, as something is drawn on it.
+  MemoryBitmap Drawn(const std::function<void(Canvas&)>& draw) {
+    MemoryBitmap bitmap(screen_.Dc(), kWidth, kHeight);
+    GdiCanvas canvas(bitmap.Dc());
+    canvas.Fill({0, 0, kWidth, kHeight}, kWhite);
+    draw(canvas);
+    return bitmap;
+  }
+  // From colours, from the top left; 24 bits have none for their transparency.
+  std::unique_ptr<Image> Picture(int width, WORD bits, const std::vector<DWORD>& pixels) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, width, -1, 1, bits, BI_RGB, 0, 0, 0, 0, 0};
+    BYTE* bytes = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(screen_.Dc(), &info, DIB_RGB_COLORS,
+                                            reinterpret_cast<void**>(&bytes), nullptr, 0);
+    for (const DWORD pixel : pixels) {
+      for (int shift = 0; shift < bits; shift += 8) *bytes++ = static_cast<BYTE>(pixel >> shift);
+    }
+    return GdiImage::Of(Bitmap(bitmap));
+  }
+
+  const WindowDc screen_{nullptr};
+  GdiCanvas measure_{screen_.Dc()};
+  // Without smoothed edges, so that every pixel is one of the colours asked for.
+  const LogFont description_{12, 400, 0, 0, 0, NONANTIALIASED_QUALITY, L"Tahoma"};
+  const std::unique_ptr<CanvasFont> font_ = measure_.MakeFont(description_);
+};
+
+TEST_F(Gdi, ShadowsAreTheTextAPixelOff) {
+  const std::vector<std::vector<POINT>> styles = {
+      {}, {{1, 0}}, {{1, 1}}, {{0, 1}}, {{0, -1}, {-1, 0}, {0, 1}, {1, 0}}};
+  const Rect area{4, 4, 50, 16};
+  const MemoryBitmap bare =
+      Drawn([&](Canvas& canvas) { WriteShadowed(canvas, area, L"W&g", {*font_}); });
+  const auto isText = [&](LONG x, LONG y) { return GetPixel(bare.Dc(), x, y) == kBlack; };
+  for (std::uint32_t style = 0; style < styles.size(); ++style) {
+    const MemoryBitmap shadowed = Drawn([&](Canvas& canvas) {
+      WriteShadowed(canvas, area, L"W&g", {*font_, kBlack, style, kRed});
+    });
+    int texts = 0, shadows = 0, wrong = 0;
+    for (LONG y = 1; y < kHeight - 1; ++y) {
+      for (LONG x = 1; x < kWidth - 1; ++x) {
+        Color expected = kWhite;
+        for (const POINT& pass : styles[style]) {
+          if (isText(x - pass.x, y - pass.y)) expected = kRed;
+        }
+        if (isText(x, y)) expected = kBlack;
+        texts += expected == kBlack;
+        shadows += expected == kRed;
+        wrong += GetPixel(shadowed.Dc(), x, y) != expected;
+      }
+    }
+    EXPECT_EQ(wrong, 0) << style;
+    EXPECT_GT(texts, 20);
+    EXPECT_EQ(shadows > 0, style > 0);
+  }
+}
+
+TEST_F(Gdi, TextStandsWhereItIsMeasured) {
+  EXPECT_EQ(measure_.LineHeight(*font_), 12);
+  const int width = measure_.LineWidth(*font_, L"MM");
+  EXPECT_EQ(measure_.LineWidth(*font_, L"MMMM"), 2 * width);
+  const struct {
+    TextAlign align;
+    int left;  // of the text's place in an area from 5 to 55
+  } cases[] = {{TextAlign::kLeft, 5},
+               {TextAlign::kCentre, 5 + (50 - width) / 2},
+               {TextAlign::kRight, 55 - width}};
+  for (const auto& c : cases) {
+    const MemoryBitmap drawn = Drawn([&](Canvas& canvas) {
+      canvas.Write({5, 4, 50, 16}, L"MM", *font_, kBlack, c.align);
+    });
+    int first = kWidth, last = 0;
+    for (int x = 0; x < kWidth; ++x) {
+      for (int y = 0; y < kHeight; ++y) {
+        if (GetPixel(drawn.Dc(), x, y) != kBlack) continue;
+        first = std::min(first, x);
+        last = std::max(last, x);
+      }
+    }
+    EXPECT_NEAR(first, c.left, 2);
+    EXPECT_NEAR(last, c.left + width - 1, 2);
+  }
+}
+
+TEST_F(Gdi, OverlaysBlend) {
+  for (const std::uint32_t weight : {0u, 1u, 128u, 200u, 255u}) {
+    for (const Color below : {kBlack, Rgb(80, 90, 170), Rgb(243, 243, 243)}) {
+      const MemoryBitmap drawn = Drawn([&](Canvas& canvas) {
+        canvas.Fill({0, 0, 20, 20}, below);
+        canvas.Overlay({2, 2, 10, 10}, Rgb(190, 190, 190), weight);
+      });
+      EXPECT_EQ(GetPixel(drawn.Dc(), 2, 2), Blend(Rgb(190, 190, 190), below, weight));
+      EXPECT_EQ(GetPixel(drawn.Dc(), 11, 11), Blend(Rgb(190, 190, 190), below, weight));
+      EXPECT_EQ(GetPixel(drawn.Dc(), 12, 12), below);
+    }
+  }
+}
+
+TEST_F(Gdi, ImagesKeepTheirTransparency) {
+  // Bitmaps have blue in the low byte. The third pixel is all but the transparent colour.
+  const std::unique_ptr<Image> opaque = Picture(3, 24, {0x0000FF, 0xFF0000, 0xFE0000});
+  const std::unique_ptr<Image> decoded = Picture(3, 32, {0xFF0000FF, 0xFFFF0000, 0xFFFE0000});
+  const std::unique_ptr<Image> clear = Picture(3, 32, {0xFF0000FF, 0x00000000, 0x80800000});
+  ASSERT_TRUE(opaque && decoded && clear);
+  EXPECT_EQ(opaque->Width(), 3);
+  EXPECT_EQ(opaque->Height(), 1);
+  EXPECT_EQ(GdiImage::Of(Bitmap()), nullptr);
+  const MemoryBitmap drawn = Drawn([&](Canvas& canvas) {
+    canvas.Fill({0, 0, kWidth, kHeight}, kGreen);
+    canvas.Draw(*opaque, 0, 0);
+    canvas.Draw(*clear, 0, 1);
+    canvas.DrawPart(*opaque, {1, 0, 2, 1}, 0, 2, kRed);
+    canvas.DrawPart(*decoded, {0, 0, 3, 1}, 0, 3, kRed);
+  });
+  const Color expected[4][3] = {{Rgb(0, 0, 255), kRed, Rgb(254, 0, 0)},
+                                {Rgb(0, 0, 255), kGreen, Rgb(128, 127, 0)},
+                                {kGreen, Rgb(254, 0, 0), kGreen},
+                                {Rgb(0, 0, 255), kGreen, Rgb(254, 0, 0)}};
+  for (int y = 0; y < 4; ++y) {
+    for (int x = 0; x < 3; ++x) EXPECT_EQ(GetPixel(drawn.Dc(), x, y), expected[y][x]) << x << y;
+  }
+}
+
+TEST_F(Gdi, CopiesWhatWasDrawnInMemory) {
+  const MemoryBitmap drawn = Drawn([](Canvas& canvas) {
+    const auto offscreen = canvas.MakeOffscreen(10, 10);
+    offscreen->Fill({0, 0, 10, 10}, kRed);
+    offscreen->Fill({3, 3, 1, 1}, kGreen);
+    canvas.Copy(*offscreen, {20, 10, 5, 5});
+  });
+  EXPECT_EQ(GetPixel(drawn.Dc(), 20, 10), kRed);
+  EXPECT_EQ(GetPixel(drawn.Dc(), 23, 13), kGreen);
+  EXPECT_EQ(GetPixel(drawn.Dc(), 25, 15), kWhite);
+}
+
+TEST(GradientVertex, HasTheColoursInTheHighBytes) {
+  const TRIVERTEX vertex = GradientVertex(3, 4, RGB(0x12, 0x34, 0x56));
+  EXPECT_EQ(vertex.x, 3);
+  EXPECT_EQ(vertex.y, 4);
+  EXPECT_EQ(vertex.Red, 0x1200);
+  EXPECT_EQ(vertex.Green, 0x3400);
+  EXPECT_EQ(vertex.Blue, 0x5600);
+  EXPECT_EQ(vertex.Alpha, 0);
+}
+
+}  // namespace
+}  // namespace tidewell
