@@ -53,7 +53,7 @@ std::wstring CutAt(std::wstring_view text, std::size_t length) {
 std::wstring CutToFit(Canvas& canvas, const CanvasFont& font, std::wstring_view text, int width) {
   std::size_t end = text.find_last_of(kBlanks);
   while (end != std::wstring_view::npos && end > 0) {
-    const std::wstring cut = CutAt(text, end);
+    std::wstring cut = CutAt(text, end);
     if (canvas.LineWidth(font, cut) <= width) return cut;
     end = text.find_last_of(kBlanks, end - 1);
   }

@@ -61,17 +61,18 @@ namespace {
 TEST(WindowsLocale, TellsTheFactsOfTheLocaleItWasGivenAndNoneOfAnUnknownOne) {
   const struct {
     LCID localeId;
-    const wchar_t *timeStyle, *firstDay, *time, *date;
-  } cases[] = {{0x0409, L"0", L"6", L"3:05 PM", L"2008_03_04 04/03/08"},
-               {0x0407, L"1", L"0", L"15:05", L"2008_03_04 04/03/08"},
-               {0x0809, L"1", L"0", L"15:05", L"2008_03_04 04/03/08"},
-               {0x7FFF, L"", L"", L"", L""}};
+    const wchar_t *timeStyle, *firstDay, *time, *ownTime, *date;
+  } cases[] = {{0x0409, L"0", L"6", L"3:05 PM", L"03:05P", L"2008_03_04 04/03/08"},
+               {0x0407, L"1", L"0", L"15:05", L"03:05", L"2008_03_04 04/03/08"},
+               {0x0809, L"1", L"0", L"15:05", L"03:05", L"2008_03_04 04/03/08"},
+               {0x7FFF, L"", L"", L"", L"", L""}};
   for (const auto& c : cases) {
     WindowsLocale locale(c.localeId);
     EXPECT_EQ(locale.TimeStyle(), c.timeStyle) << c.localeId;
     EXPECT_EQ(locale.FirstDayOfWeek(), c.firstDay) << c.localeId;
     const LocalTime moment{2008, 3, 4, 15, 5};
     EXPECT_EQ(locale.FormatTime(moment), c.time);
+    EXPECT_EQ(locale.FormatTime(moment, L"hh:mmt"), c.ownTime);
     EXPECT_EQ(locale.FormatDate(moment, L"yyyy_MM_dd dd/MM/yy"), c.date);
     EXPECT_EQ(locale.CompareIgnoringCase(L"\u00C4pfel", L"\u00E4PFEL"), 0);
     EXPECT_LT(locale.CompareIgnoringCase(L"a", L"B"), 0);
