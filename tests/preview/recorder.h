@@ -7,7 +7,6 @@
 #include <sstream>
 #include <string>
 
-#include "platform/scale.h"
 #include "preview/canvas.h"
 #include "preview/icons.h"
 #include "tests/support/utf8.h"
@@ -25,9 +24,14 @@ struct RecordedImage final : Image {
   std::string name;
 };
 
-// Notes read "12:00 @4,0-86" (from the left edge to the right one), "fill ff @17,1 6x11" and the
-// like, with " h10" behind a text whose font is not the usual one. A colour is left out where it is
-// black text.
+inline std::string Utf8(const Rect& rect) {
+  std::ostringstream text;
+  text << rect.left << ',' << rect.top << ' ' << rect.width << 'x' << rect.height;
+  return text.str();
+}
+
+// Notes are "12:00 @4,0-86" (from the left edge to the right one), "fill ff @17,1 6x11" and the
+// like; behind a text " h10" is a font that is not the usual one, " #ff" a colour but black.
 class Recorder final : public Canvas {
  public:
   explicit Recorder(int usualHeight = 12) : usualHeight_(usualHeight) {}
@@ -36,27 +40,31 @@ class Recorder final : public Canvas {
     Note() << "font " << description.height;
     return std::make_unique<RecordedFont>(description.height);
   }
-  int LineHeight(const CanvasFont& font) override { return HeightOf(font); }
+  int LineHeight(const CanvasFont& font) override {
+    return static_cast<const RecordedFont&>(font).height;
+  }
   int LineWidth(const CanvasFont& font, std::wstring_view text) override {
-    return static_cast<int>(text.size()) * HeightOf(font) / 2;
+    return static_cast<int>(text.size()) * LineHeight(font) / 2;
   }
   void Write(const Rect& area, std::wstring_view text, const CanvasFont& font, Color color,
              TextAlign align) override {
-    std::ostream& note = Note();
-    note << Utf8(text) << (align == TextAlign::kRight ? " right" : "") << " @" << area.left << ','
-         << area.top << '-' << area.Right();
-    if (HeightOf(font) != usualHeight_) note << " h" << HeightOf(font);
-    if (color != kBlack) note << " #" << std::hex << color << std::dec;
+    Note() << Utf8(text) << (align == TextAlign::kRight ? " right" : "") << " @" << area.left << ','
+           << area.top << '-' << area.Right();
+    if (LineHeight(font) != usualHeight_) *notes_ << " h" << LineHeight(font);
+    if (color != kBlack) *notes_ << " #" << std::hex << color << std::dec;
   }
-  void Fill(const Rect& area, Color color) override { Note() << "fill " << Colored(color, area); }
+  void Fill(const Rect& area, Color color) override {
+    Note() << "fill " << std::hex << color << std::dec << " @" << Utf8(area);
+  }
   void Overlay(const Rect& area, Color color, std::uint32_t weight) override {
-    Note() << "overlay " << weight << ' ' << Colored(color, area);
+    Note() << "overlay " << weight << ' ' << std::hex << color << std::dec << " @" << Utf8(area);
   }
   void Draw(const Image& image, int x, int y) override {
-    Note() << NameOf(image) << " @" << x << ',' << y;
+    Note() << static_cast<const RecordedImage&>(image).name << " @" << x << ',' << y;
   }
   void DrawPart(const Image& image, const Rect& source, int x, int y, Color transparent) override {
-    Note() << NameOf(image) << " @" << x << ',' << y << " but " << Colored(transparent, source);
+    Draw(image, x, y);
+    *notes_ << " from " << Utf8(source) << " but " << std::hex << transparent << std::dec;
   }
   std::unique_ptr<Canvas> MakeOffscreen(int width, int height) override {
     Note() << "canvas " << width << 'x' << height;
@@ -64,9 +72,7 @@ class Recorder final : public Canvas {
     made->notes_ = notes_;
     return made;
   }
-  void Copy(const Canvas&, const Rect& area) override {
-    Note() << "copy @" << area.left << ',' << area.top << ' ' << area.width << 'x' << area.height;
-  }
+  void Copy(const Canvas&, const Rect& area) override { Note() << "copy @" << Utf8(area); }
 
   // What was noted on this canvas and those that it made, in order; forgets it.
   std::string Take() {
@@ -76,18 +82,6 @@ class Recorder final : public Canvas {
   }
 
  private:
-  static int HeightOf(const CanvasFont& font) {
-    return static_cast<const RecordedFont&>(font).height;
-  }
-  static const std::string& NameOf(const Image& image) {
-    return static_cast<const RecordedImage&>(image).name;
-  }
-  static std::string Colored(Color color, const Rect& area) {
-    std::ostringstream text;
-    text << std::hex << color << std::dec << " @" << area.left << ',' << area.top << ' '
-         << area.width << 'x' << area.height;
-    return text.str();
-  }
   std::ostream& Note() { return *notes_ << (notes_->tellp() > 0 ? "; " : ""); }
 
   int usualHeight_;
@@ -99,14 +93,12 @@ class RecordedIcons final : public IconSource {
  public:
   explicit RecordedIcons(int size = 12) : size_(size) {}
   const Image* Find(IconSymbol symbol) override {
-    auto& icon = icons_[symbol];
-    if (!icon) icon = std::make_unique<RecordedImage>(Utf8(SymbolName(symbol)), size_, size_);
-    return icon.get();
+    return &icons_.try_emplace(symbol, Utf8(SymbolName(symbol)), size_, size_).first->second;
   }
 
  private:
   int size_;
-  std::map<IconSymbol, std::unique_ptr<RecordedImage>> icons_;
+  std::map<IconSymbol, RecordedImage> icons_;
 };
 
 }  // namespace tidewell

@@ -3,11 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
-#include <functional>
 #include <map>
-#include <sstream>
 
 #include "platform/memory/fixed_locale.h"
 #include "tests/preview/recorder.h"
@@ -17,111 +14,112 @@ namespace {
 
 constexpr int kDay = 39521;
 
-std::wstring Spaced(const std::string& word) {
-  std::wstring text(word.begin(), word.end());
-  std::replace(text.begin(), text.end(), L'_', L' ');
-  return text;
-}
-
-// A row 240 design pixels wide. Its font is 12 pixels high, the general one 10.
 struct RowCase {
-  RowCase() {
+  explicit RowCase(int format) {
     item.subject = L"Board meeting";
-    item.start = kDay + 9 / 24.0;
-    item.end = kDay + 10.5 / 24;
+    look.displayFormat = format;
+    look.appointmentIcons = 0;
     look.twelveHourClock = false;
-    look.appointmentIcons = look.taskIcons = 0;
   }
-
   void Set(const std::string& word);
   std::string Draw();
 
   TodayItem item;
   TodayLook look;
-  int dpi = 96;
-  int top = 0;
-  int iconSize = 12;
-  bool selected = false;
-  bool allowsShadow = true;
-  DrawPass pass = DrawPass::kDraw;
+  FixedLocale locale;
+  double start = 9, end = 10.5;  // hours from the day's beginning
+  bool isTask = false, isDated = true, hasAll = false;
+  bool isSelected = false, allowsShadow = true, measures = false;
+  int dpi = 96, top = 0, iconSize = 12;
 };
 
 void RowCase::Set(const std::string& word) {
+  const std::map<std::string, bool*> flags = {{"task", &isTask},
+                                              {"dated", &isDated},
+                                              {"all", &hasAll},
+                                              {"selected", &isSelected},
+                                              {"shaded", &allowsShadow},
+                                              {"measure", &measures},
+                                              {"allday", &item.allDay},
+                                              {"overlaps", &item.overlaps},
+                                              {"done", &item.completed},
+                                              {"active", &item.active},
+                                              {"regenerating", &item.regenerating},
+                                              {"rects", &look.leadingRects},
+                                              {"thin", &look.thinLines},
+                                              {"marked", &look.marksConflicts},
+                                              {"hide", &look.hidesAllDayIcon},
+                                              {"indent", &look.indentsItems},
+                                              {"advanced", &look.advancedFonts},
+                                              {"clock12", &look.twelveHourClock},
+                                              {"two", &look.twoDigitHours}};
+  const std::map<std::string, std::uint32_t*> codes = {{"icons", &look.appointmentIcons},
+                                                       {"slot1", &look.appointmentSlots[0]},
+                                                       {"slot2", &look.appointmentSlots[1]},
+                                                       {"taskslot1", &look.calendarTaskSlots[0]},
+                                                       {"taskslot2", &look.calendarTaskSlots[1]},
+                                                       {"fold", &look.foldingType},
+                                                       {"shadow", &look.shadowStyle},
+                                                       {"human", &look.humanTime}};
+  const std::map<std::string, int*> numbers = {{"again", &item.recurrence},
+                                               {"importance", &item.importance},
+                                               {"dpi", &dpi},
+                                               {"top", &top},
+                                               {"iconsize", &iconSize}};
+  const std::map<std::string, double*> hours = {{"start", &start}, {"end", &end}};
+  const std::map<std::string, std::wstring*> texts = {{"place", &item.location},
+                                                      {"title", &item.subject},
+                                                      {"lead", &item.leadText},
+                                                      {"morning", &locale.morning}};
   const std::size_t sign = word.find('=');
-  const std::string value = sign == std::string::npos ? "" : word.substr(sign + 1);
-  const int number = std::atoi(value.c_str());
-  const auto code = static_cast<std::uint32_t>(number);
-  const std::map<std::string, std::function<void()>> words = {
-      {"place", [&] { item.location = Spaced(value); }},
-      {"title", [&] { item.subject = Spaced(value); }},
-      {"hours", [&] { item.end = item.start + number / 24.0; }},
-      {"allday", [&] { item.allDay = true; }},
-      {"overlaps", [&] { item.overlaps = true; }},
-      {"full",
-       [&] {
-         item.reminder = item.note = item.link = item.recurrence = 1;
-         item.sensitivity = 2;
-         item.attendees = true;
-       }},
-      {"again", [&] { item.recurrence = number; }},
-      {"task", [&] { item.kind = ItemKind::kTask; }},
-      {"undated", [&] { item.end = kNoDate; }},
-      {"done", [&] { item.completed = true; }},
-      {"active", [&] { item.active = true; }},
-      {"regenerating", [&] { item.regenerating = true; }},
-      {"importance", [&] { item.importance = number; }},
-      {"lead", [&] { item.leadText = Spaced(value); }},
-      {"icons", [&] { look.appointmentIcons = code; }},
-      {"slot1", [&] { look.appointmentSlots[0] = code; }},
-      {"slot2", [&] { look.appointmentSlots[1] = code; }},
-      {"taskslot1", [&] { look.calendarTaskSlots[0] = code; }},
-      {"taskslot2", [&] { look.calendarTaskSlots[1] = code; }},
-      {"fold", [&] { look.foldingType = code; }},
-      {"norect", [&] { look.leadingRects = false; }},
-      {"thin", [&] { look.thinLines = true; }},
-      {"unmarked", [&] { look.marksConflicts = false; }},
-      {"hide", [&] { look.hidesAllDayIcon = true; }},
-      {"indent", [&] { look.indentsItems = true; }},
-      {"advanced", [&] { look.advancedFonts = true; }},
-      {"clock12", [&] { look.twelveHourClock = true; }},
-      {"shadow", [&] { look.shadowStyle = code; }},
-      {"plain", [&] { allowsShadow = false; }},
-      {"selected", [&] { selected = true; }},
-      {"measure", [&] { pass = DrawPass::kMeasure; }},
-      {"dpi", [&] { dpi = number; }},
-      {"top", [&] { top = number; }},
-      {"iconsize", [&] { iconSize = number; }},
-  };
-  words.at(word.substr(0, sign))();
-}
-
-std::string PlaceNote(const char* name, const Rect& place) {
-  if (place == Rect{}) return "";
-  std::ostringstream note;
-  note << " | " << name << ' ' << place.left << ',' << place.top << ' ' << place.width << 'x'
-       << place.height;
-  return note.str();
+  const std::string name = word.substr(0, sign);
+  std::string value = sign == std::string::npos ? "1" : word.substr(sign + 1);
+  const double number = std::atof(value.c_str());
+  for (char& letter : value) letter = letter == '_' ? ' ' : letter;
+  if (flags.contains(name)) {
+    *flags.at(name) = number != 0;
+  } else if (codes.contains(name)) {
+    *codes.at(name) = static_cast<std::uint32_t>(number);
+  } else if (numbers.contains(name)) {
+    *numbers.at(name) = static_cast<int>(number);
+  } else if (hours.contains(name)) {
+    *hours.at(name) = number;
+  } else {
+    texts.at(name)->assign(value.begin(), value.end());
+  }
 }
 
 std::string RowCase::Draw() {
+  item.kind = isTask ? ItemKind::kTask : ItemKind::kAppointment;
+  item.start = kDay + start / 24;
+  item.end = isDated ? kDay + end / 24 : kNoDate;
+  item.reminder = item.note = item.link = hasAll;
+  item.sensitivity = hasAll ? 2 : 0;
+  item.attendees = hasAll;
+  if (item.recurrence == 0) item.recurrence = hasAll;
+
   const ScreenScale scale(dpi, dpi, false);
   Recorder canvas(scale.ScaleX(12));
   RecordedIcons icons(scale.ScaleX(iconSize));
   const RecordedFont font(scale.ScaleX(12)), general(scale.ScaleX(10));
-  FixedLocale locale;
   const ItemTexts texts = FormatTexts(item, kDay, look, locale);
   const RowSetting setting{canvas, icons,   scale,
                            look,   general, MeasureTimeColumn(canvas, general, look, scale)};
-  const RowStyle style{font,         kBlack, look.appointmentSlots, look.appointmentIcons, selected,
-                       allowsShadow, pass};
+  const RowStyle style{font,
+                       kBlack,
+                       look.appointmentSlots,
+                       look.appointmentIcons,
+                       isSelected,
+                       allowsShadow,
+                       measures ? DrawPass::kMeasure : DrawPass::kDraw};
   const Rect row{0, top, scale.ScaleX(240), scale.ScaleX(200)};
-  const int height = item.IsTask() ? DrawTaskRow(setting, style, item, texts, row, look.foldingType)
-                                   : DrawAppointmentRow(setting, style, item, texts, row);
+  const int height = isTask ? DrawTaskRow(setting, style, item, texts, row, look.foldingType)
+                            : DrawAppointmentRow(setting, style, item, texts, row);
   std::string drawn = std::to_string(height) + " | " + canvas.Take();
-  drawn += PlaceNote("reminder", item.reminderPlace) + PlaceNote("note", item.notePlace) +
-           PlaceNote("link", item.linkPlace);
-  if (item.checkBoxX != 0) drawn += " | box " + std::to_string(item.checkBoxX);
-  return drawn;
+  for (const Rect& place : {item.reminderPlace, item.notePlace, item.linkPlace}) {
+    if (place != Rect{}) drawn += " | " + Utf8(place);
+  }
+  return item.checkBoxX == 0 ? drawn : drawn + " | box " + std::to_string(item.checkBoxX);
 }
 
 TEST(TodayRow, IsDrawnAsItsListingSays) {
@@ -129,13 +127,14 @@ TEST(TodayRow, IsDrawnAsItsListingSays) {
   int rows = 0;
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line[0] == '#') continue;
-    const std::size_t bar = line.find(" | ");
-    std::istringstream words(line.substr(0, bar));
-    RowCase row;
-    words >> row.look.displayFormat;
+    const std::string set = line.substr(0, line.find(" | "));
+    std::istringstream words(set);
+    int format = 0;
+    words >> format;
+    RowCase row(format);
     for (std::string word; words >> word;) row.Set(word);
     ++rows;
-    EXPECT_EQ(line.substr(0, bar) + " | " + row.Draw(), line);
+    EXPECT_EQ(set + " | " + row.Draw(), line);
   }
   EXPECT_GE(rows, 60);
 }

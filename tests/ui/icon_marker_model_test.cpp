@@ -19,39 +19,25 @@ std::string States(const IconMarkerModel& marker) {
   return text;
 }
 
-TEST(IconMarker, OffersTheCodesInTheirOrder) {
-  const IconMarkerModel appointments(MarkerMode::kMany, AppointmentMarkerChoices(), 0x1CF, nullptr);
-  EXPECT_EQ(States(appointments), "1+ 2+ 4+ 8+ 16- 128+ 64+ 256+ ");
-  EXPECT_EQ(appointments.Value(), 0x1CFu);
-  const IconMarkerModel task(MarkerMode::kOne, TaskMarkerChoices(), 32, nullptr);
-  EXPECT_EQ(States(task), "1- 2- 4- 8- 16- 32+ 64- 256- ");
-  EXPECT_EQ(appointments.Width(kQvga), 129);
-  EXPECT_EQ(appointments.Width(kVga), 258);
-  EXPECT_EQ(task.Width(kQvga), 17);
-  EXPECT_EQ(IconMarkerModel::Height(kVga), 34);
+TEST(IconMarker, OfManyTurnsTheTappedCellOnAndOff) {
+  IconMarkerModel marker(MarkerMode::kMany, AppointmentMarkerChoices(), 0x187, nullptr);
+  marker.SetDisabled(4);
+  marker.SetOff(2);
+  EXPECT_EQ(States(marker), "1+ 2- 4x 8- 16- 128+ 64- 256+ ");
+  EXPECT_EQ(marker.Width(kQvga), 129);
+  EXPECT_EQ(marker.Width(kVga), 258);
+  for (const int x : {0, 31, 40, 127, 128}) marker.Tap(x, kQvga);
+  EXPECT_EQ(States(marker), "1- 2+ 4x 8- 16- 128+ 64- 256- ");
+  EXPECT_EQ(marker.Tap(40, kQvga)->value, 4u);
+  EXPECT_EQ(marker.Tap(128, kQvga), nullptr);
+  EXPECT_EQ(marker.Tap(31, kVga)->value, 1u);
+  EXPECT_EQ(marker.Value(), 131u);
   const MarkerChoice unsorted[] = {{1, 0, 5}, {2, 0, 1}, {4, 0, 5}, {8, 0, 0}};
   EXPECT_EQ(States({MarkerMode::kMany, unsorted, 0, nullptr}), "8- 2- 1- 4- ");
 }
 
-TEST(IconMarker, TurnsTheTappedCellOnAndOff) {
-  IconMarkerModel marker(MarkerMode::kMany, AppointmentMarkerChoices(), 3, nullptr);
-  marker.SetDisabled(4);
-  marker.SetOff(2);
-  const struct {
-    int x;
-    std::uint32_t value;  // of the item, or 0
-    std::uint32_t after;
-  } taps[] = {{0, 1, 0}, {15, 1, 1}, {16, 2, 3}, {40, 4, 3}, {127, 256, 259}, {128, 0, 259}};
-  for (const auto& tap : taps) {
-    const MarkerItem* item = marker.Tap(tap.x, kQvga);
-    EXPECT_EQ(item ? item->value : 0, tap.value) << tap.x;
-    EXPECT_EQ(marker.Value(), tap.after) << tap.x;
-  }
-  EXPECT_EQ(marker.Tap(31, kVga)->value, 1u);
-}
-
-TEST(IconMarker, ChoosesOneFromItsMenu) {
-  IconMarkerModel marker(MarkerMode::kOne, TaskMarkerChoices(), 0, nullptr);
+TEST(IconMarker, OfOneChoosesFromItsMenu) {
+  IconMarkerModel marker(MarkerMode::kOne, TaskMarkerChoices(), 33, nullptr);
   const auto checked = [&] {
     std::string commands;
     for (const MarkerMenuEntry& entry : marker.Menu()) {
@@ -59,12 +45,12 @@ TEST(IconMarker, ChoosesOneFromItsMenu) {
     }
     return commands;
   };
+  EXPECT_EQ(marker.Width(kQvga), 17);
   EXPECT_EQ(marker.Menu().size(), 9u);
   EXPECT_EQ(checked(), "0 ");
   EXPECT_EQ(marker.Choose(1149), 32u);
-  EXPECT_EQ(checked(), "1149 ");
   for (const int foreign : {1, 1143, 1152, 1175}) EXPECT_EQ(marker.Choose(foreign), std::nullopt);
-  EXPECT_EQ(marker.Value(), 32u);
+  EXPECT_EQ(checked(), "1149 ");
   EXPECT_EQ(marker.Choose(0), 0u);
   EXPECT_EQ(checked(), "0 ");
 }
@@ -73,28 +59,25 @@ TEST(IconMarker, IsPainted) {
   Recorder canvas;
   RecordedIcons icons(10);
   const MarkerChoice choices[] = {{1, 0, 1}, {32, 0, 2}, {8, 0, 3}};
-  IconMarkerModel many(MarkerMode::kMany, choices, 33, nullptr);
+  IconMarkerModel many(MarkerMode::kMany, choices, 32, nullptr);
   many.SetDisabled(8);
   many.Paint(canvas, {0, 0, 49, 17}, kQvga, icons);
   EXPECT_EQ(canvas.Take(),
-            "fill 321414 @0,0 49x17; fill aa5a50 @1,1 15x15; reminder @3,3; fill aa5a50 @17,1 "
+            "fill 321414 @0,0 49x17; fill f3f3f3 @1,1 15x15; reminder @3,3; fill aa5a50 @17,1 "
             "15x15; high_importance @19,3; fill f3f3f3 @33,1 15x15; note @35,3; overlay 200 bebebe "
             "@33,1 15x15");
   IconMarkerModel one(MarkerMode::kOne, choices, 8, nullptr);
   one.Paint(canvas, {0, 0, 17, 17}, kQvga, icons);
-  EXPECT_EQ(canvas.Take(), "fill f3f3f3 @0,0 17x17; note @3,3");
   one.Choose(0);
   one.Paint(canvas, {0, 0, 17, 17}, kQvga, icons);
-  EXPECT_EQ(canvas.Take(), "fill f3f3f3 @0,0 17x17");
+  EXPECT_EQ(canvas.Take(), "fill f3f3f3 @0,0 17x17; note @3,3; fill f3f3f3 @0,0 17x17");
 }
 
 TEST(Tooltip, StandsLeftOfAndAboveTheFinger) {
   Recorder canvas;
   const RecordedFont font(12);
-  EXPECT_EQ(TooltipFont(kVga).height, -24);
-  const Rect place = PlaceTooltip(canvas, font, L"Note", 100, 90, kQvga);
-  EXPECT_EQ(place, Rect::Between(64, 68, 98, 88));
-  PaintTooltip(canvas, font, L"Note", {0, 0, place.width, place.height}, kQvga);
+  EXPECT_EQ(PlaceTooltip(canvas, font, L"Note", 100, 90, kQvga), Rect::Between(64, 68, 98, 88));
+  PaintTooltip(canvas, font, L"Note", {0, 0, 34, 20}, kQvga);
   EXPECT_EQ(canvas.Take(), "fill 140a14 @0,0 34x20; fill dcf6f7 @1,1 32x18; Note @1,1-33");
 }
 
