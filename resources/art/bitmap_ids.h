@@ -23,3 +23,6 @@
 #define IDB_EXIT 1662  // also in the list of tools
 #define IDB_DONE 1663
 #define IDB_TOOLS 1664
+
+// The icons of items, in the order of IconSymbol: 12 pixels square at 96 dots per inch.
+#define IDB_FIRST_ITEM_ICON 1700

@@ -12,6 +12,7 @@
 #include "platform/desktop/device_shell.h"
 #include "platform/text.h"
 #include "platform/window_owner.h"
+#include "preview/windows/resource_icons.h"
 #include "resources/art/bitmap_ids.h"
 #include "resources/text/text_ids.h"
 #include "ui/look.h"
@@ -134,7 +135,7 @@ LRESULT MainWindow::OnCreate() {
   settings_.Load(machine_, scale_, language_);
   NameMessageBoxKeys();
   LoadPictures();
-  // The preview's icons belong here: after the pictures, before the fonts.
+  previewIcons_.emplace(ResourceIcons(ModuleOf(pictures_.get())));
   CreateFonts();
   LoadCategories();
   ShowMainEntries();
@@ -154,6 +155,7 @@ LRESULT MainWindow::OnDestroy() {
   page_.reset();
   regular_.Reset();
   bold_.Reset();
+  previewIcons_.reset();
   language_.Unload();
   pictures_.reset();
   imaging_.reset();

@@ -21,6 +21,7 @@
 #include "platform/libraries.h"
 #include "platform/machine.h"
 #include "platform/scale.h"
+#include "preview/icons.h"
 #include "settings/settings_store.h"
 #include "ui/command_bar.h"
 #include "ui/command_list.h"
@@ -111,6 +112,7 @@ class MainWindow {
   std::optional<Imaging> imaging_;
   Language language_;
   std::unique_ptr<ResourceLibrary> pictures_;
+  std::optional<IconCache> previewIcons_;
   Font regular_;
   Font bold_;
   CommandList list_;

@@ -29,8 +29,8 @@ bool IconDrawer::DrawInCell(IconSymbol symbol, int x, int lineTop) {
   const bool isVisible = lineTop + scale_.ScaleY(12) > 0;
   if (pass_ == DrawPass::kMeasure || !isVisible) return false;
   const Image* icon = icons_.Find(symbol);
-  return icon && DrawIcon(canvas_, icon, x + (Cell() - icon->Width()) / 2,
-                          lineTop + lineHeight_ / 2 - icon->Height() / 2);
+  return icon && PaintIcon(canvas_, icon, x + (Cell() - icon->Width()) / 2,
+                           lineTop + lineHeight_ / 2 - icon->Height() / 2);
 }
 
 void IconDrawer::DrawCode(TodayItem& item, std::uint32_t code, int x, int lineTop) {

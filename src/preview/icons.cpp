@@ -24,7 +24,7 @@ const wchar_t* SymbolName(IconSymbol symbol) {
   return kNames[static_cast<std::size_t>(symbol)];
 }
 
-bool DrawIcon(Canvas& canvas, const Image* icon, int x, int y) {
+bool PaintIcon(Canvas& canvas, const Image* icon, int x, int y) {
   if (!icon) return false;
   canvas.Draw(*icon, x, y);
   return true;

@@ -42,7 +42,7 @@ class IconSource {
 };
 
 // False, and nothing drawn, where there is no icon.
-bool DrawIcon(Canvas& canvas, const Image* icon, int x, int y);
+bool PaintIcon(Canvas& canvas, const Image* icon, int x, int y);
 
 // Loads each icon when it is first asked for, and only once, also when it is missing.
 class IconCache final : public IconSource {

@@ -16,16 +16,15 @@ constexpr std::uint32_t kTaskFolding = 0;
 }  // namespace
 
 TodayPreview::TodayPreview(const SettingsStore& settings, const ScreenScale& scale, Locale& locale,
-                           const ResourceLibrary* language, IconSource& icons,
-                           LoadImageFile loadImage)
+                           const Language& language, IconSource& icons, LoadImageFile loadImage)
     : settings_(settings),
       scale_(scale),
       locale_(locale),
       icons_(icons),
       loadImage_(std::move(loadImage)),
-      appointmentSubject_(TextOf(language, IDS_SAMPLE_APPOINTMENT)),
-      appointmentLocation_(TextOf(language, IDS_SAMPLE_LOCATION)),
-      taskSubject_(TextOf(language, IDS_SAMPLE_TASK)) {}
+      appointmentSubject_(language.Text(IDS_SAMPLE_APPOINTMENT)),
+      appointmentLocation_(language.Text(IDS_SAMPLE_LOCATION)),
+      taskSubject_(language.Text(IDS_SAMPLE_TASK)) {}
 
 void TodayPreview::DrawAppointment(Canvas& page, int width, int y) {
   const TodayLook look = ReadTodayLook(settings_);

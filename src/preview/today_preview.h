@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/libraries.h"
+#include "platform/language.h"
 #include "platform/locale.h"
 #include "platform/scale.h"
 #include "preview/canvas.h"
@@ -25,7 +25,7 @@ class TodayPreview {
  public:
   // `language` may be null.
   TodayPreview(const SettingsStore& settings, const ScreenScale& scale, Locale& locale,
-               const ResourceLibrary* language, IconSource& icons, LoadImageFile loadImage);
+               const Language& language, IconSource& icons, LoadImageFile loadImage);
 
   // In pixels; `width` is that of the strip, which begins at the page's left edge.
   void DrawAppointment(Canvas& page, int width, int y);

@@ -104,7 +104,7 @@ void RowDrawer::WriteLine(const TextStyle& style, int left, int right, const std
 }
 
 void RowDrawer::DrawSymbol(IconSymbol symbol, int x, int y) {
-  if (IsDrawing()) DrawIcon(setting_.canvas, setting_.icons.Find(symbol), x, y);
+  if (IsDrawing()) PaintIcon(setting_.canvas, setting_.icons.Find(symbol), x, y);
 }
 
 int RowDrawer::Appointment() {

@@ -44,8 +44,8 @@ void DrawCentred(Canvas& canvas, const Rect& cell, const MarkerItem& item, IconS
   const std::optional<IconSymbol> symbol = SymbolOf(item.value);
   const Image* icon = symbol ? icons.Find(*symbol) : nullptr;
   if (!icon) return;
-  DrawIcon(canvas, icon, cell.left + (cell.width - icon->Width()) / 2,
-           cell.top + (cell.height - icon->Height()) / 2);
+  PaintIcon(canvas, icon, cell.left + (cell.width - icon->Width()) / 2,
+            cell.top + (cell.height - icon->Height()) / 2);
 }
 
 }  // namespace
@@ -59,15 +59,14 @@ std::span<const MarkerChoice> TaskMarkerChoices() {
 }
 
 IconMarkerModel::IconMarkerModel(MarkerMode mode, std::span<const MarkerChoice> choices,
-                                 std::uint32_t current, const ResourceLibrary* language)
-    : mode_(mode), noneText_(TextOf(language, IDS_ICON_NONE)) {
+                                 std::uint32_t current, const Language& language)
+    : mode_(mode), noneText_(language.Text(IDS_ICON_NONE)) {
   int index = 0;
   for (const MarkerChoice& choice : choices) {
     const bool isOn = mode == MarkerMode::kMany ? (choice.value & current) != 0  //
                                                 : choice.value == current;
     items_.push_back({choice.value, isOn ? MarkerState::kOn : MarkerState::kOff,
-                      TextOf(language, static_cast<std::uint32_t>(choice.textId)), choice.orderKey,
-                      index++});
+                      language.Text(choice.textId), choice.orderKey, index++});
   }
   std::stable_sort(items_.begin(), items_.end(),
                    [](const MarkerItem& left, const MarkerItem& right) {

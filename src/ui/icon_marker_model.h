@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/libraries.h"
+#include "platform/language.h"
 #include "platform/scale.h"
 #include "preview/canvas.h"
 #include "preview/icons.h"
@@ -54,7 +54,7 @@ class IconMarkerModel {
  public:
   // `current` is a mask of codes, or the one that is chosen. The language may be null.
   IconMarkerModel(MarkerMode mode, std::span<const MarkerChoice> choices, std::uint32_t current,
-                  const ResourceLibrary* language);
+                  const Language& language);
 
   MarkerMode Mode() const { return mode_; }
   // By ascending order key; of equal ones the later given comes later.

@@ -32,10 +32,10 @@ class Preview : public testing::Test {
     machine.libraries.Put(L"\\texts.dll", {{IDS_SAMPLE_APPOINTMENT, L"Meeting"},
                                            {IDS_SAMPLE_LOCATION, L"Room 2"},
                                            {IDS_SAMPLE_TASK, L"Report"}});
-    language = machine.libraries.Load(L"\\texts.dll");
+    language.Load(machine.libraries, L"\\texts.dll", {});
   }
   TodayPreview Make() {
-    return {settings, {}, machine.locale, language.get(), icons, [this](const std::wstring& path) {
+    return {settings, {}, machine.locale, language, icons, [this](const std::wstring& path) {
               asked += Utf8(path) + " ";
               return path == file ? std::make_unique<RecordedImage>("water", width, height)
                                   : nullptr;
@@ -44,7 +44,7 @@ class Preview : public testing::Test {
 
   MemoryMachine machine;
   SettingsStore settings;
-  std::unique_ptr<ResourceLibrary> language;
+  Language language;
   RecordedIcons icons;
   Recorder page;
   std::wstring file;  // the one picture there is

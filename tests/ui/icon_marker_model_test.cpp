@@ -20,7 +20,7 @@ std::string States(const IconMarkerModel& marker) {
 }
 
 TEST(IconMarker, OfManyTurnsTheTappedCellOnAndOff) {
-  IconMarkerModel marker(MarkerMode::kMany, AppointmentMarkerChoices(), 0x187, nullptr);
+  IconMarkerModel marker(MarkerMode::kMany, AppointmentMarkerChoices(), 0x187, {});
   marker.SetDisabled(4);
   marker.SetOff(2);
   EXPECT_EQ(States(marker), "1+ 2- 4x 8- 16- 128+ 64- 256+ ");
@@ -33,11 +33,11 @@ TEST(IconMarker, OfManyTurnsTheTappedCellOnAndOff) {
   EXPECT_EQ(marker.Tap(31, kVga)->value, 1u);
   EXPECT_EQ(marker.Value(), 131u);
   const MarkerChoice unsorted[] = {{1, 0, 5}, {2, 0, 1}, {4, 0, 5}, {8, 0, 0}};
-  EXPECT_EQ(States({MarkerMode::kMany, unsorted, 0, nullptr}), "8- 2- 1- 4- ");
+  EXPECT_EQ(States({MarkerMode::kMany, unsorted, 0, {}}), "8- 2- 1- 4- ");
 }
 
 TEST(IconMarker, OfOneChoosesFromItsMenu) {
-  IconMarkerModel marker(MarkerMode::kOne, TaskMarkerChoices(), 33, nullptr);
+  IconMarkerModel marker(MarkerMode::kOne, TaskMarkerChoices(), 33, {});
   const auto checked = [&] {
     std::string commands;
     for (const MarkerMenuEntry& entry : marker.Menu()) {
@@ -59,14 +59,14 @@ TEST(IconMarker, IsPainted) {
   Recorder canvas;
   RecordedIcons icons(10);
   const MarkerChoice choices[] = {{1, 0, 1}, {32, 0, 2}, {8, 0, 3}};
-  IconMarkerModel many(MarkerMode::kMany, choices, 32, nullptr);
+  IconMarkerModel many(MarkerMode::kMany, choices, 32, {});
   many.SetDisabled(8);
   many.Paint(canvas, {0, 0, 49, 17}, kQvga, icons);
   EXPECT_EQ(canvas.Take(),
             "fill 321414 @0,0 49x17; fill f3f3f3 @1,1 15x15; reminder @3,3; fill aa5a50 @17,1 "
             "15x15; high_importance @19,3; fill f3f3f3 @33,1 15x15; note @35,3; overlay 200 bebebe "
             "@33,1 15x15");
-  IconMarkerModel one(MarkerMode::kOne, choices, 8, nullptr);
+  IconMarkerModel one(MarkerMode::kOne, choices, 8, {});
   one.Paint(canvas, {0, 0, 17, 17}, kQvga, icons);
   one.Choose(0);
   one.Paint(canvas, {0, 0, 17, 17}, kQvga, icons);

@@ -63,8 +63,8 @@ TEST(WindowsLocale, TellsTheFactsOfTheLocaleItWasGivenAndNoneOfAnUnknownOne) {
     LCID localeId;
     const wchar_t *timeStyle, *firstDay, *time, *ownTime, *date;
   } cases[] = {{0x0409, L"0", L"6", L"3:05 PM", L"03:05P", L"2008_03_04 04/03/08"},
-               {0x0407, L"1", L"0", L"15:05", L"03:05", L"2008_03_04 04/03/08"},
-               {0x0809, L"1", L"0", L"15:05", L"03:05", L"2008_03_04 04/03/08"},
+               {0x0407, L"1", L"0", L"15:05", L"03:05P", L"2008_03_04 04/03/08"},
+               {0x0809, L"1", L"0", L"15:05", L"03:05p", L"2008_03_04 04/03/08"},
                {0x7FFF, L"", L"", L"", L"", L""}};
   for (const auto& c : cases) {
     WindowsLocale locale(c.localeId);
