@@ -106,8 +106,10 @@ std::wstring CategoryCatalog::FiltersPath() const {
 }
 
 bool CategoryCatalog::LoadFiltersFile() {
+  // Asked first: a card that is drawn out while it is read may be back when the filters are saved.
+  const bool isThere = machine_.files.Find(FiltersPath()).has_value();
   const auto bytes = ReadWholeFile(machine_.files, FiltersPath(), kLargestFiltersFile);
-  filtersRefused_ = !bytes && machine_.files.Find(FiltersPath()).has_value();
+  filtersRefused_ = isThere && !bytes;
   std::optional<FilterSet> filters = bytes ? ReadFilters(*bytes) : std::nullopt;
   if (!filters) {
     ResetFilters();

@@ -95,8 +95,12 @@ TEST_F(Catalog, AFiltersFileThatCannotBeReadIsReplacedByNewFiltersAlone) {
   for (const FileCall call : {FileCall::kOpenForReading, FileCall::kRead}) {
     machine.files.Meter().Reset();
     machine.files.Meter().FailEvery(call);
+    machine.files.Meter().Watch([&](FileCall present) {  // the card is drawn out, and put back
+      if (present == call) files.Remove(kFiltersFile);
+    });
     EXPECT_FALSE(catalog.LoadFiltersFile());
     machine.files.Meter().Reset();
+    files.Put(kFiltersFile, own);
     EXPECT_FALSE(catalog.SaveFiltersFile());
     EXPECT_EQ(files.Contents(kFiltersFile), own);
   }
