@@ -2,12 +2,12 @@
 // the header that has the English texts.
 #include <cstdio>
 #include <fstream>
-#include <memory>
 #include <string>
 
 #include "pages/page_list.h"
 #include "platform/memory/memory_machine.h"
 #include "platform/text.h"
+#include "tools/document.h"
 
 namespace tidewell {
 
@@ -154,11 +154,6 @@ std::string PagesDocument(const char* textIds) {
   return {text.begin(), text.end()};
 }
 
-bool WriteFile(const char* path, const std::string& bytes) {
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path, "wb"), &std::fclose);
-  return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-}
-
 }  // namespace
 
 }  // namespace tidewell
@@ -168,7 +163,7 @@ int main(int argc, char** argv) {
     std::fputs("usage: pages_table FILE TEXT_IDS\n", stderr);
     return 2;
   }
-  if (tidewell::WriteFile(argv[1], tidewell::PagesDocument(argv[2]))) return 0;
+  if (tidewell::WriteDocument(argv[1], tidewell::PagesDocument(argv[2]))) return 0;
   std::perror(argv[1]);
   return 1;
 }

@@ -1,11 +1,11 @@
 // Writes docs/settings.md, the settings as a document: settings_table FILE
 #include <array>
 #include <cstdio>
-#include <memory>
 #include <utility>
 
 #include "platform/text.h"
 #include "settings/settings_store.h"
+#include "tools/document.h"
 
 namespace tidewell {
 
@@ -230,11 +230,6 @@ std::string SettingsTable() {
   return {text.begin(), text.end()};
 }
 
-bool WriteFile(const char* path, const std::string& bytes) {
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path, "wb"), &std::fclose);
-  return file && std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-}
-
 }  // namespace
 
 }  // namespace tidewell
@@ -244,7 +239,7 @@ int main(int argc, char** argv) {
     std::fputs("usage: settings_table FILE\n", stderr);
     return 2;
   }
-  if (tidewell::WriteFile(argv[1], tidewell::SettingsTable())) return 0;
+  if (tidewell::WriteDocument(argv[1], tidewell::SettingsTable())) return 0;
   std::perror(argv[1]);
   return 1;
 }
