@@ -10,7 +10,7 @@
 #include "backup/registry_text.h"
 #include "bench/figures.h"
 #include "bench/stopwatch.h"
-#include "categories/pim_categories.h"
+#include "categories/windows/pim_categories.h"
 #include "platform/memory/memory_machine.h"
 #include "platform/replacement_file.h"
 #include "platform/text.h"

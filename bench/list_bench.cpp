@@ -12,8 +12,9 @@
 #include "bench/stopwatch.h"
 #include "platform/windows/windows_system.h"
 #include "resources/art/bitmap_ids.h"
-#include "ui/command_list.h"
-#include "ui/look.h"
+#include "ui/windows/command_list.h"
+#include "ui/windows/look.h"
+#include "win32/tahoma.h"
 
 namespace tidewell::bench {
 

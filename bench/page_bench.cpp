@@ -16,7 +16,8 @@
 #include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_machine.h"
-#include "ui/look.h"
+#include "ui/windows/look.h"
+#include "win32/tahoma.h"
 
 namespace tidewell::bench {
 

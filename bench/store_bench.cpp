@@ -11,7 +11,7 @@
 #include "bench/recording_registry.h"
 #include "bench/stopwatch.h"
 #include "platform/memory/memory_libraries.h"
-#include "platform/memory/metered_registry.h"
+#include "platform/memory/recorded_registry.h"
 #include "platform/text.h"
 #include "platform/windows/windows_machine.h"
 #include "settings/settings_store.h"
@@ -107,13 +107,13 @@ void CountSaving(const char* name, const std::function<void(SettingsStore&)>& ch
   SettingsStore store;
   Load(store, registry);
   change(store);
-  MeteredRegistry metered(registry);
-  store.Save(metered, kScale);
+  RecordedRegistry recorded(registry);
+  store.Save(recorded, kScale);
   char behind[96];
   std::snprintf(behind, sizeof behind, "%d keys opened, %d calls to write",
-                metered.Count(RegistryCall::kCreate) + metered.Count(RegistryCall::kOpen),
-                metered.CountWrites());
-  PrintFigure(name, metered.CountWrites(), "", aim, "", behind);
+                recorded.Count(RegistryCall::kCreate) + recorded.Count(RegistryCall::kOpen),
+                recorded.CountWrites());
+  PrintFigure(name, recorded.CountWrites(), "", aim, "", behind);
 }
 
 void ForgetSettings() {

@@ -3,12 +3,13 @@
 #include <aygshell.h>
 #include <windowsx.h>
 
-#include "platform/window_owner.h"
 #include "resources/art/bitmap_ids.h"
-#include "ui/command_bar.h"
-#include "ui/empty_dialog.h"
-#include "ui/look.h"
-#include "ui/picture.h"
+#include "ui/windows/command_bar.h"
+#include "ui/windows/look.h"
+#include "ui/windows/picture.h"
+#include "win32/empty_dialog.h"
+#include "win32/tahoma.h"
+#include "win32/window_owner.h"
 
 namespace tidewell {
 

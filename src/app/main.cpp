@@ -7,7 +7,7 @@
 #include "app/main_window.h"
 #include "app/resource.h"
 #include "app/single_instance.h"
-#include "categories/pim_categories.h"
+#include "categories/windows/pim_categories.h"
 #include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_machine.h"

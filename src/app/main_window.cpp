@@ -11,11 +11,12 @@
 #include "app/single_instance.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/text.h"
-#include "platform/window_owner.h"
 #include "preview/windows/resource_icons.h"
 #include "resources/art/bitmap_ids.h"
 #include "resources/text/text_ids.h"
-#include "ui/look.h"
+#include "ui/windows/look.h"
+#include "win32/tahoma.h"
+#include "win32/window_owner.h"
 
 namespace tidewell {
 

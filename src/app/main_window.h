@@ -17,15 +17,15 @@
 #include "categories/category_catalog.h"
 #include "pages/windows/page_window.h"
 #include "platform/desktop/imaging.h"
-#include "platform/gdi.h"
 #include "platform/libraries.h"
 #include "platform/machine.h"
 #include "platform/scale.h"
 #include "preview/icons.h"
 #include "settings/settings_store.h"
-#include "ui/command_bar.h"
-#include "ui/command_list.h"
-#include "ui/device_dialogs.h"
+#include "ui/windows/command_bar.h"
+#include "ui/windows/command_list.h"
+#include "ui/windows/device_dialogs.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "tests/support/window_support.h"
-#include "ui/picture.h"
+#include "ui/windows/picture.h"
 
 namespace tidewell {
 namespace {

@@ -63,8 +63,8 @@ TEST_F(DoneTest, SavesTheSettingsTheCategoriesAndTheFiltersFile) {
     MSG message;
     isTold = isTold || PeekMessageW(&message, listener.Get(), kBroadcast, kBroadcast, PM_NOREMOVE);
   };
-  registry.Meter().Watch(watchTheQueue);
-  files.Meter().Watch(watchTheQueue);
+  registry.Calls().Watch(watchTheQueue);
+  files.Calls().Watch(watchTheQueue);
   Done();
   EXPECT_FALSE(isTold) << "before everything was written";
   EXPECT_EQ(CountBroadcasts(), 1);

@@ -10,8 +10,8 @@
 
 #include "app/main_window.h"
 #include "platform/memory/memory_machine.h"
-#include "platform/memory/metered_files.h"
-#include "platform/memory/metered_registry.h"
+#include "platform/memory/recorded_files.h"
+#include "platform/memory/recorded_registry.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/fake_dialogs.h"
 #include "tests/support/registry_support.h"
@@ -107,8 +107,8 @@ class ProgramTest : public testing::Test {
   }
 
   MemoryMachine device;
-  MeteredRegistry registry{device.registry};
-  MeteredFiles files{device.files};
+  RecordedRegistry registry{device.registry};
+  RecordedFiles files{device.files};
   std::unique_ptr<MainWindow> program;
   std::vector<PimCategory> categories;
   FakeDialogs dialogs;

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <fstream>
 
-#include "platform/memory/metered_registry.h"
+#include "platform/memory/recorded_registry.h"
 #include "tests/support/catalog_support.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/utf8.h"
@@ -139,15 +139,15 @@ TEST_F(RegistryText, WhatOneCallRefusesIsAllThatACopyLacks) {
     SetDword(registry, kUser, key, L"x", 1);
     SetDword(registry, kUser, key, L"y", 2);
   }
-  MeteredRegistry metered(registry);
+  RecordedRegistry recorded(registry);
   // A key that is refused takes its values along; the end of a list has none.
   constexpr int kLost[] = {6, 1, 1, 0, 2, 2, 1, 1, 0, 0, 2, 2, 1, 1, 0, 0, 0};
   for (std::size_t call = 0; call <= std::size(kLost); ++call) {
-    metered.Meter().Reset();
-    metered.Meter().FailNth(static_cast<int>(call) + 1);
+    recorded.Calls().Reset();
+    recorded.Calls().FailNth(static_cast<int>(call) + 1);
     ByteSink sink;
     TextWriter writer(sink);
-    const bool isWhole = WriteKeyTree(metered, L"K", writer, TextKind::kCopy);
+    const bool isWhole = WriteKeyTree(recorded, L"K", writer, TextKind::kCopy);
     EXPECT_TRUE(writer.Flush());
     EXPECT_EQ(isWhole, call == std::size(kLost)) << call;
     const int lost = isWhole ? 0 : kLost[call];
@@ -238,29 +238,29 @@ TEST_F(RegistryText, AnImportLeavesExactlyWhatTheRulesSay) {
 }
 
 TEST_F(RegistryText, AKeyThatCannotBeCreatedEndsTheImportThere) {
-  MeteredRegistry metered(registry);
+  RecordedRegistry recorded(registry);
   const std::wstring text = L"\n[A]\n\"x\"=dword:1\n\n[B]\n\"x\"=dword:1\n\n[C]\n";
-  metered.Meter().FailNth(4);  // create, set, create, set: the second section's value is lost
-  EXPECT_TRUE(ImportText(metered, catalog, text));
+  recorded.Calls().FailNth(4);  // create, set, create, set: the second section's value is lost
+  EXPECT_TRUE(ImportText(recorded, catalog, text));
   EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 1\n[B]\n[C]\n");
   registry.DeleteTree(kUser, L"C");
-  metered.Meter().Reset();
-  metered.Meter().FailNth(3);
-  EXPECT_FALSE(ImportText(metered, catalog, text));
+  recorded.Calls().Reset();
+  recorded.Calls().FailNth(3);
+  EXPECT_FALSE(ImportText(recorded, catalog, text));
   EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 1\n[B]\n");
 }
 
 TEST_F(RegistryText, EveryKeyIsOpenedOnceAndEveryValueWrittenOnce) {
-  MeteredRegistry metered(registry);
+  RecordedRegistry recorded(registry);
   const std::wstring text = L"\n[K]\n\"x\"=dword:0\n\"y\"=\"\"\n\n[K\\B]\n\"z\"=\"abcd\"\n";
-  EXPECT_TRUE(ImportText(metered, catalog, text));
-  EXPECT_EQ(metered.Count(RegistryCall::kCreate), 2);
-  EXPECT_EQ(metered.Count(RegistryCall::kFlush), 0);
-  EXPECT_EQ(metered.CountWrites(), 3);
-  EXPECT_EQ(metered.Count(RegistryCall::kQuery), 0);
-  WriteTree(metered);
-  EXPECT_EQ(metered.Count(RegistryCall::kCreate), 2 + 2);
-  EXPECT_EQ(metered.CountWrites(), 3);
+  EXPECT_TRUE(ImportText(recorded, catalog, text));
+  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 2);
+  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 0);
+  EXPECT_EQ(recorded.CountWrites(), 3);
+  EXPECT_EQ(recorded.Count(RegistryCall::kQuery), 0);
+  WriteTree(recorded);
+  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 2 + 2);
+  EXPECT_EQ(recorded.CountWrites(), 3);
 }
 
 }  // namespace

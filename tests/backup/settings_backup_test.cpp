@@ -62,7 +62,7 @@ class SettingsBackupTest : public testing::Test {
   CatalogMachine machine;
   MemoryRegistry& registry = machine.memory.registry;
   MemoryFiles& files = machine.memory.files;
-  SettingsBackup backup{machine.MeteredDoor(), machine.store, machine.catalog};
+  SettingsBackup backup{machine.RecordedMachine(), machine.store, machine.catalog};
   std::string asked;
   bool answer = false;
   std::wstring copy;
@@ -103,11 +103,11 @@ TEST_F(SettingsBackupTest, AFileThatIsNoBackupChangesNothing) {
   answer = true;
   EXPECT_EQ(Import(), ImportResult::kRefused);
   PutText(kBackup, L"\n" + std::wstring(kLargestBackup / 2, L'x'));
-  machine.files.Meter().Reset();
+  machine.files.Calls().Reset();
   EXPECT_EQ(Import(), ImportResult::kRefused);
   EXPECT_LE(machine.files.Count(FileCall::kRead), 1) << "only whether it is a copy";
   PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n");
-  machine.files.Meter().FailEvery(FileCall::kRead);
+  machine.files.Calls().FailEvery(FileCall::kRead);
   EXPECT_EQ(Import(), ImportResult::kRefused);
   EXPECT_EQ(Tree(), tree);
   EXPECT_TRUE(Copies().empty());
@@ -166,10 +166,10 @@ TEST_F(SettingsBackupTest, WithoutACopyTheUserDecides) {
   const std::pair<const char*, std::function<void()>> cases[] = {
       {"full", [&] { files.SetFreeBytes(100); }},
       {"locked", [&] { files.SetWriteProtected(true); }},
-      {"refused value", [&] { machine.registry.Meter().FailNth(2); }}};
+      {"refused value", [&] { machine.registry.Calls().FailNth(2); }}};
   for (const auto& [name, prepare] : cases) {
     asked.clear();
-    machine.registry.Meter().Reset();
+    machine.registry.Calls().Reset();
     prepare();
     EXPECT_EQ(Import(), ImportResult::kDeclined) << name;
     EXPECT_EQ(asked, "no copy?") << name;
@@ -225,18 +225,18 @@ TEST_F(SettingsBackupTest, WhateverFailsABackupIsTheOldOrTheNewOneWhole) {
   const std::string whole = TextOf(kBackup);
   PutText(kBackup, L"old backup");
   for (int call = 3; call <= 5; ++call) {  // after list and create: write, close, replace
-    machine.files.Meter().Reset();
-    machine.files.Meter().FailNth(call);
+    machine.files.Calls().Reset();
+    machine.files.Calls().FailNth(call);
     EXPECT_FALSE(backup.ExportTo(kBackup)) << call;
     EXPECT_EQ(TextOf(kBackup), "old backup") << call;
     EXPECT_FALSE(files.Find(kUnfinished)) << call;
   }
-  machine.files.Meter().Reset();
-  machine.registry.Meter().Reset();
-  machine.registry.Meter().FailNth(1);
+  machine.files.Calls().Reset();
+  machine.registry.Calls().Reset();
+  machine.registry.Calls().FailNth(1);
   EXPECT_FALSE(backup.ExportTo(kBackup)) << "the product's key";
   EXPECT_EQ(TextOf(kBackup), "old backup");
-  machine.files.Meter().Reset();
+  machine.files.Calls().Reset();
   files.SetFreeBytes(whole.size());  // two bytes a unit are twice that
   EXPECT_FALSE(backup.ExportTo(kBackup));
   EXPECT_EQ(TextOf(kBackup), "old backup");

@@ -46,7 +46,7 @@ TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
   SetDword(registry, kUser, kCategories, L"CatColor.Gone", 7);
   SetDword(registry, kUser, kCategories, L"CatColor.C", 8);
   SetBinary(registry, kUser, kCategories, L"CatFilter.C", {1, 2, 3, 4});
-  machine.registry.Meter().Reset();
+  machine.registry.Calls().Reset();
   machine.Start({L"A", L"B \x00DC", L"C"});
   CategoryRecord& c = *catalog.FindCategory(L"C");
   EXPECT_EQ(c.color, 8u);
@@ -77,8 +77,8 @@ TEST_F(Catalog, WhatIsRefusedAtLoadIsADefaultThatDeletesNothing) {
   SetDword(registry, kUser, kCategories, L"CatFilter.A", 8);
   const std::string tree = DumpTree(registry, kUser, kCategories);
   for (int n = 1; n <= 3; ++n) {
-    machine.registry.Meter().Reset();
-    machine.registry.Meter().FailNth(n);
+    machine.registry.Calls().Reset();
+    machine.registry.Calls().FailNth(n);
     machine.Start({L"A"});
     const CategoryRecord& a = *catalog.FindCategory(L"A");
     EXPECT_TRUE(a.color == CategoryRecord::kNoColor || a.filterFlags == 0) << n;
@@ -93,13 +93,13 @@ TEST_F(Catalog, AFiltersFileThatCannotBeReadIsReplacedByNewFiltersAlone) {
   const std::vector<std::byte> own = BytesOf(FormatFilters(filters));
   files.Put(kFiltersFile, own);
   for (const FileCall call : {FileCall::kOpenForReading, FileCall::kRead}) {
-    machine.files.Meter().Reset();
-    machine.files.Meter().FailEvery(call);
-    machine.files.Meter().Watch([&](FileCall present) {  // the card is drawn out, and put back
+    machine.files.Calls().Reset();
+    machine.files.Calls().FailEvery(call);
+    machine.files.Calls().Watch([&](FileCall present) {  // the card is drawn out, and put back
       if (present == call) files.Remove(kFiltersFile);
     });
     EXPECT_FALSE(catalog.LoadFiltersFile());
-    machine.files.Meter().Reset();
+    machine.files.Calls().Reset();
     files.Put(kFiltersFile, own);
     EXPECT_FALSE(catalog.SaveFiltersFile());
     EXPECT_EQ(files.Contents(kFiltersFile), own);
@@ -113,7 +113,7 @@ TEST_F(Catalog, TheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
   ASSERT_TRUE(catalog.SaveFiltersFile());
   const auto old = files.Contents(kFiltersFile);
   ASSERT_EQ(old, BytesOf(FormatFilters(DefaultFilters())));
-  machine.files.Meter().Reset();
+  machine.files.Calls().Reset();
   EXPECT_TRUE(catalog.SaveFiltersFile());
   EXPECT_EQ(machine.files.Count(FileCall::kCreateNew), 0);
 
@@ -121,10 +121,10 @@ TEST_F(Catalog, TheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
   filters[4].title = catalog.Filters()[4].title = L"Fifth";
   const std::vector<std::byte> changed = BytesOf(FormatFilters(filters));
   for (const FileCall call : {FileCall::kWrite, FileCall::kReplace}) {
-    machine.files.Meter().FailEvery(call);
+    machine.files.Calls().FailEvery(call);
     EXPECT_FALSE(catalog.SaveFiltersFile());
     EXPECT_EQ(files.Contents(kFiltersFile), old);
-    machine.files.Meter().Reset();
+    machine.files.Calls().Reset();
   }
   EXPECT_TRUE(catalog.SaveFiltersFile());
   EXPECT_EQ(files.Contents(kFiltersFile), changed);

@@ -1,5 +1,5 @@
 #include "platform/memory/memory_machine.h"
-#include "platform/memory/metered_registry.h"
+#include "platform/memory/recorded_registry.h"
 #include "tests/fuzz/fuzz_targets.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/setting_lines.h"
@@ -67,7 +67,7 @@ struct Device {
 
   ScreenScale scale;
   MemoryMachine machine;
-  MeteredRegistry registry{machine.registry};
+  RecordedRegistry registry{machine.registry};
 };
 
 // The end of a save that has to write every hosted subkey anew.
@@ -119,16 +119,16 @@ void settings_load(Bytes bytes) {
   RequireSame(SettingLines(first).dwords, SettingLines(second).dwords);
   RequireSame(SettingLines(first).strings, SettingLines(second).strings);
   Require(first.tabs == second.tabs);
-  device.registry.Meter().Reset();
+  device.registry.Calls().Reset();
   device.Save(second);
   Require(device.registry.CountWrites() == 0);
 
   SettingsStore third;
-  device.registry.Meter().Reset();
+  device.registry.Calls().Reset();
   if (isForOnce) {
-    device.registry.Meter().FailNth(refused);
+    device.registry.Calls().FailNth(refused);
   } else {
-    device.registry.Meter().FailFrom(refused);
+    device.registry.Calls().FailFrom(refused);
   }
   device.Load(third);
   device.Save(third);

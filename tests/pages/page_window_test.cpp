@@ -1,8 +1,8 @@
 // What every page does beyond its rows: its frame, keys, scrolling, turning, and that it fits its
 // screen in every language.
 #include "pages/general_page.h"
-#include "platform/gdi.h"
 #include "tests/pages/page_host.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 namespace {

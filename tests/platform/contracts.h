@@ -1,5 +1,5 @@
 // What every registry and every file system must do, whoever answers. Each program of tests gives
-// its own answers: the twins in memory, or the system's.
+// its own answers: the fakes in memory, or the system's.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@
 
 namespace tidewell {
 
-// Files with an empty folder for one test, removed at the end, and the deeds of others.
+// Files with an empty folder for one test, removed at the end, and the steps of others.
 class FilesUnderTest {
  public:
   virtual ~FilesUnderTest() = default;

@@ -1,21 +1,21 @@
-// The contracts' answers by the twins in memory.
+// The contracts' answers by the fakes in memory.
 #include "platform/memory/memory_machine.h"
-#include "platform/memory/metered_files.h"
-#include "platform/memory/metered_registry.h"
+#include "platform/memory/recorded_files.h"
+#include "platform/memory/recorded_registry.h"
 #include "tests/platform/contracts.h"
 
 namespace tidewell {
 namespace {
 
-struct MeteredMemoryRegistry {
+struct RecordedMemoryRegistry {
   MemoryRegistry memory;
-  MeteredRegistry metered{memory};
+  RecordedRegistry recorded{memory};
 };
 
 class MemoryFilesUnderTest final : public FilesUnderTest {
  public:
   MemoryFilesUnderTest() { files_.Put(L"\\Temp\\Test\\", ""); }
-  Files& Door() override { return metered_; }
+  Files& Door() override { return recorded_; }
   std::wstring Folder() const override { return L"\\Temp\\Test"; }
   std::shared_ptr<void> Lock(const std::wstring& path) override {
     files_.SetLocked(path, true);
@@ -25,7 +25,7 @@ class MemoryFilesUnderTest final : public FilesUnderTest {
 
  private:
   MemoryFiles files_;
-  MeteredFiles metered_{files_};
+  RecordedFiles recorded_{files_};
 };
 
 }  // namespace
@@ -34,8 +34,8 @@ Answers<Registry> RegistryAnswers() {
   using Order = MemoryRegistry::Order;
   return {[] { return std::make_shared<MemoryRegistry>(Order::kSorted); },
           [] {
-            const auto both = std::make_shared<MeteredMemoryRegistry>();
-            return std::shared_ptr<Registry>(both, &both->metered);
+            const auto both = std::make_shared<RecordedMemoryRegistry>();
+            return std::shared_ptr<Registry>(both, &both->recorded);
           }};
 }
 

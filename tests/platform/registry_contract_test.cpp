@@ -42,11 +42,11 @@ class RegistryContract : public testing::TestWithParam<Answers<Registry>::value_
 INSTANTIATE_TEST_SUITE_P(All, RegistryContract, testing::ValuesIn(RegistryAnswers()));
 
 TEST_P(RegistryContract, KeysAreThereFromTheirCreationToTheirDeletion) {
-  enum Deed { kOpen, kCreate, kDelete };
+  enum Action { kOpen, kCreate, kDelete };
   constexpr RegistryRoot kNone = RegistryRoot::kNone;
   const std::wstring longest = L"Contract\\" + std::wstring(255, L'k');
   const struct {
-    Deed deed;
+    Action action;
     RegistryRoot root;
     std::wstring path;
     bool succeeds;
@@ -79,12 +79,12 @@ TEST_P(RegistryContract, KeysAreThereFromTheirCreationToTheirDeletion) {
   };
   for (const auto& step : steps) {
     SCOPED_TRACE("step " + std::to_string(&step - steps));
-    if (step.deed == kDelete) {
+    if (step.action == kDelete) {
       const RegistryStatus wanted = step.succeeds ? kStatusSuccess : kStatusFileNotFound;
       EXPECT_EQ(registry_->DeleteTree(step.root, step.path), wanted);
     } else {
-      const auto key = step.deed == kOpen ? registry_->Open(step.root, step.path)
-                                          : registry_->Create(step.root, step.path);
+      const auto key = step.action == kOpen ? registry_->Open(step.root, step.path)
+                                            : registry_->Create(step.root, step.path);
       EXPECT_EQ(key != nullptr, step.succeeds);
     }
   }

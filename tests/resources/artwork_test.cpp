@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/gdi.h"
 #include "resources/art/bitmap_ids.h"
 #include "tests/resources/library.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 namespace {

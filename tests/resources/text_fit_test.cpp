@@ -5,9 +5,9 @@
 #include <sstream>
 
 #include "pages/page_list.h"
-#include "platform/gdi.h"
 #include "platform/memory/memory_machine.h"
 #include "tests/resources/library.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 namespace {

@@ -20,11 +20,11 @@ class CatalogueWalkTest : public StoreFixture {
  protected:
   // Saves and returns the names of the values that were set, or deleted, in order.
   std::wstring Save(SettingGroup& group, RegistryCall call) {
-    const FlushedKey key = CreateSettingKey(metered, group.Key());
-    metered.Meter().Reset();
+    const FlushedKey key = CreateSettingKey(recorded, group.Key());
+    recorded.Calls().Reset();
     group.Save(key.Get());
     std::wstring names;
-    for (const std::wstring& path : metered.Meter().Paths(call)) {
+    for (const std::wstring& path : recorded.Calls().Paths(call)) {
       names += path.substr(path.rfind(L'\\') + 1) + L"\n";
     }
     return names;

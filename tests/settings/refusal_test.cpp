@@ -1,5 +1,5 @@
 // A registry that refuses: never a crash, a hang, half a value or a lost one. Every refusal in turn
-// needs thousands of loads; the twin in memory is fast enough for that.
+// needs thousands of loads; the fake in memory is fast enough for that.
 #include <algorithm>
 
 #include "tests/settings/store_fixture.h"
@@ -9,7 +9,7 @@ namespace {
 
 class RefusingRegistryTest : public StoreFixture {
  protected:
-  using Meter = CallMeter<RegistryCall>;
+  using Calls = CallRecorder<RegistryCall>;
 
   // The device of a user with settings of every kind and two plug-ins, none in need of repair.
   void SetUp() override {
@@ -37,12 +37,12 @@ class RefusingRegistryTest : public StoreFixture {
   // have been refused.
   template <typename Arrange>
   int Run(SettingsStore& refused, Arrange arrange) {
-    metered.Meter().Reset();
-    arrange(metered.Meter());
+    recorded.Calls().Reset();
+    arrange(recorded.Calls());
     LoadInto(refused);
     ExpectWholeValues(refused);
-    refused.Save(metered, scale);
-    return metered.Meter().FailableCount();
+    refused.Save(recorded, scale);
+    return recorded.Calls().FailableCount();
   }
 
   // Every value of `store`, which met no refusal, or its default.
@@ -68,17 +68,17 @@ class RefusingRegistryTest : public StoreFixture {
 
 TEST_F(RefusingRegistryTest, ARefusalCostsNoMoreThanWhatItWasFor) {
   const std::string tree = Tree();
-  const int calls = Run(store, [](Meter&) {});
-  EXPECT_EQ(metered.CountWrites(), 0) << "nothing was changed";
+  const int calls = Run(store, [](Calls&) {});
+  EXPECT_EQ(recorded.CountWrites(), 0) << "nothing was changed";
   ASSERT_GT(calls, 480);
   for (int n = 1; n <= calls && !HasFailure(); ++n) {
     SCOPED_TRACE(n);
     SettingsStore once;
-    metered.SetFailure(kStatusMoreData);  // the answer that invites a second question
-    Run(once, [n](Meter& meter) { meter.FailNth(n); });
+    recorded.SetFailure(kStatusMoreData);  // the answer that invites a second question
+    Run(once, [n](Calls& made) { made.FailNth(n); });
     SettingsStore everSince;
-    metered.SetFailure(kStatusAccessDenied);
-    Run(everSince, [n](Meter& meter) { meter.FailFrom(n); });
+    recorded.SetFailure(kStatusAccessDenied);
+    Run(everSince, [n](Calls& made) { made.FailFrom(n); });
     EXPECT_EQ(Tree(), tree);
   }
 }
@@ -95,11 +95,11 @@ TEST_F(RefusingRegistryTest, ASaveThatIsCutOffLeavesEachValueTheOldOrTheNewOne) 
       if (entry.type == TabType::kHosted)
         entry = {entry.type, 8, 2, entry.caption, L"d", L"p", L""};
     }
-    metered.Meter().Reset();
-    if (n > 0) metered.Meter().FailFrom(n);
-    store.Save(metered, scale);
+    recorded.Calls().Reset();
+    if (n > 0) recorded.Calls().FailFrom(n);
+    store.Save(recorded, scale);
     if (n == 0) {
-      calls = metered.Meter().FailableCount();
+      calls = recorded.Calls().FailableCount();
       after = Tree();
     }
     EXPECT_TRUE(IsOldOrNew(before, after, Tree())) << n << Tree();

@@ -17,8 +17,8 @@ class SettingTest : public StoreFixture {
     return setting;
   }
   void Save(Setting& setting) {
-    FlushedKey key = CreateSettingKey(metered, setting.Key());
-    metered.Meter().Reset();
+    FlushedKey key = CreateSettingKey(recorded, setting.Key());
+    recorded.Calls().Reset();
     setting.Save(key.Get());
   }
 };
@@ -76,14 +76,14 @@ TEST_F(SettingTest, ASaveWritesWhatWasSetAndDeletesWhatIsTheDefault) {
 
 TEST_F(SettingTest, AloneItOpensFlushesAndClosesItsOwnKeyAndMakesItWhereItIsMissing) {
   DwordSetting number(kKey, L"Number", 1);
-  number.LoadAlone(metered, {});
+  number.LoadAlone(recorded, {});
   EXPECT_EQ(number.Value(), 1u);
   number.Set(5);
-  number.SaveAlone(metered);
+  number.SaveAlone(recorded);
   EXPECT_EQ(Stored(kKey, L"Number"), 5u);
   for (const RegistryCall call :
        {RegistryCall::kCreate, RegistryCall::kFlush, RegistryCall::kClose})
-    EXPECT_EQ(metered.Count(call), 2);
+    EXPECT_EQ(recorded.Count(call), 2);
 }
 
 TEST_F(SettingTest, FlagsAreRoundedUpToBytesAndFilledWhenAbsent) {

@@ -26,27 +26,27 @@ TEST_F(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIs
   registry.Create(kMachine, L"SOFTWARE\\Microsoft\\Color");
   store.root.OnClick.Set(5);
   Save();
-  EXPECT_TRUE(metered.Meter().Paths(RegistryCall::kCreate).empty()) << "nothing was loaded yet";
+  EXPECT_TRUE(recorded.Calls().Paths(RegistryCall::kCreate).empty()) << "nothing was loaded yet";
   Load();
-  EXPECT_EQ(metered.Meter().Paths(RegistryCall::kOpen),
+  EXPECT_EQ(recorded.Calls().Paths(RegistryCall::kOpen),
             (Texts{L"HKLM\\" + std::wstring(kToday), L"HKLM\\SOFTWARE\\Microsoft\\Color"}));
   Texts created = keys;
   created.insert(created.begin(), {L"HKCU\\Software\\WebIS\\PocketInformant",
                                    L"HKLM\\SOFTWARE\\Developer One, Inc.\\Agenda Fusion"});
-  EXPECT_EQ(metered.Meter().Paths(RegistryCall::kCreate), created);
-  EXPECT_EQ(metered.Count(RegistryCall::kClose), 16);
-  EXPECT_EQ(metered.Count(RegistryCall::kFlush), 15) << "all but the theme's key";
+  EXPECT_EQ(recorded.Calls().Paths(RegistryCall::kCreate), created);
+  EXPECT_EQ(recorded.Count(RegistryCall::kClose), 16);
+  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 15) << "all but the theme's key";
   const std::size_t lines = SettingLines(store).all.size();
-  EXPECT_EQ(metered.Count(RegistryCall::kQuery), static_cast<int>(lines) + 6 + 1)
+  EXPECT_EQ(recorded.Count(RegistryCall::kQuery), static_cast<int>(lines) + 6 + 1)
       << "each value once, six theme colours and the size of their table";
-  EXPECT_EQ(metered.CountWrites(), 0);
+  EXPECT_EQ(recorded.CountWrites(), 0);
 
   Save();
-  EXPECT_EQ(metered.CountWrites(), 0);
-  EXPECT_EQ(metered.Meter().Paths(RegistryCall::kCreate), keys);
-  EXPECT_EQ(metered.Count(RegistryCall::kQuery), 0);
-  EXPECT_EQ(metered.Count(RegistryCall::kFlush), 12);
-  EXPECT_EQ(metered.Count(RegistryCall::kClose), 12);
+  EXPECT_EQ(recorded.CountWrites(), 0);
+  EXPECT_EQ(recorded.Calls().Paths(RegistryCall::kCreate), keys);
+  EXPECT_EQ(recorded.Count(RegistryCall::kQuery), 0);
+  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 12);
+  EXPECT_EQ(recorded.Count(RegistryCall::kClose), 12);
   store.root.OnClick.Set(5);
   store.categories.AdditionalIconsFolder.Set(L"");
   Save();

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/memory/memory_machine.h"
-#include "platform/memory/metered_registry.h"
+#include "platform/memory/recorded_registry.h"
 #include "platform/text.h"
 #include "tests/support/registry_support.h"
 #include "tests/support/setting_lines.h"
@@ -21,19 +21,19 @@ namespace tidewell {
 class StoreFixture : public testing::Test {
  protected:
   void LoadInto(SettingsStore& target) {
-    Machine door{metered, machine.files, machine.locale, machine.libraries, machine.system};
+    Machine door{recorded, machine.files, machine.locale, machine.libraries, machine.system};
     target.Load(door, scale, language);
   }
   void Load() {
-    metered.Meter().Reset();
+    recorded.Calls().Reset();
     LoadInto(store);
   }
   void Save() {
-    metered.Meter().Reset();
-    store.Save(metered, scale);
+    recorded.Calls().Reset();
+    store.Save(recorded, scale);
   }
-  int Sets() const { return metered.Count(RegistryCall::kSet); }
-  int Deletes() const { return metered.Count(RegistryCall::kDeleteValue); }
+  int Sets() const { return recorded.Count(RegistryCall::kSet); }
+  int Deletes() const { return recorded.Count(RegistryCall::kDeleteValue); }
 
   // All below make a setting's key when it is missing.
   FlushedKey KeyOf(SettingKey key) { return CreateSettingKey(registry, key); }
@@ -64,7 +64,7 @@ class StoreFixture : public testing::Test {
 
   MemoryMachine machine;
   MemoryRegistry& registry = machine.registry;
-  MeteredRegistry metered{registry};
+  RecordedRegistry recorded{registry};
   ScreenScale scale{96, 96, false};
   Language language;
   SettingsStore store;

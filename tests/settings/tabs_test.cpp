@@ -52,7 +52,7 @@ TEST_F(TabsTest, TheListHoldsTheTabsByTheirOrdersAndNumbersThemAnew) {
     Load();
     EXPECT_EQ(Strip(), expected) << "loaded again";
     Save();
-    EXPECT_EQ(metered.CountWrites(), 0) << "numbered once";
+    EXPECT_EQ(recorded.CountWrites(), 0) << "numbered once";
   }
   store.tabs.front().enabled = 0;
   store.tabs.reverse();
@@ -88,7 +88,7 @@ TEST_F(TabsTest, HostedTabsStandBehindEqualOrdersAndTheirSubkeysHoldTheListAndNo
   PutHosted(L"Since", 1);  // of whoever made it
   Save();
   const std::wstring deleted = L"HKCU\\" + kTabsPath + L"\\";
-  EXPECT_EQ(metered.Meter().Paths(RegistryCall::kDeleteTree),
+  EXPECT_EQ(recorded.Calls().Paths(RegistryCall::kDeleteTree),
             (std::vector{deleted + L"Again", deleted + L"Bare\\Subkey", deleted + L"Gone"}));
   EXPECT_EQ(Dump(kTabs),
             "[Software\\Velmont\\Tidewell\\TabSettings]\n"
@@ -107,7 +107,7 @@ TEST_F(TabsTest, HostedTabsStandBehindEqualOrdersAndTheirSubkeysHoldTheListAndNo
   for (const bool isNew : {true, false}) {
     Load();
     Save();
-    EXPECT_EQ(metered.CountWrites() > 0, isNew) << "once for the one that has come since";
+    EXPECT_EQ(recorded.CountWrites() > 0, isNew) << "once for the one that has come since";
   }
 }
 

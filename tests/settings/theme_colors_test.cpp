@@ -42,7 +42,7 @@ TEST_F(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDef
 TEST_F(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
   using Colors = std::array<std::uint32_t, 6>;
   const auto expectColors = [&](SystemVersion version, const Colors& expected) {
-    const ThemeColors read = ReadThemeColors(metered, version);
+    const ThemeColors read = ReadThemeColors(recorded, version);
     EXPECT_EQ((Colors{read.color1, read.color2, read.color3, read.color4, read.highlight,
                       read.highlightText}),
               expected)
@@ -51,10 +51,11 @@ TEST_F(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
   expectColors({5, 2}, {0x000000, 0xEF8E73, 0x9C4D2C, 0xFFFFFF, 0x9C4D2C, 0xFFFFFF});
   PutTable(150);
   expectColors({4, 20}, {0x121110, 0x1A1918, 0x222120, 0x262524, 0x9C4D2C, 0xFFFFFF});
-  metered.Meter().Reset();
+  recorded.Calls().Reset();
   expectColors({5, 1}, {0x121110, 0x1A1918, 0x222120, 0x262524, 0x8A8988, 0x8E8D8C});
-  EXPECT_EQ(metered.Count(RegistryCall::kOpen), 1);
-  EXPECT_EQ(metered.Count(RegistryCall::kQuery), 6 + 2) << "six names, the table's size, the table";
+  EXPECT_EQ(recorded.Count(RegistryCall::kOpen), 1);
+  EXPECT_EQ(recorded.Count(RegistryCall::kQuery), 6 + 2)
+      << "six names, the table's size, the table";
 }
 
 TEST_F(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
@@ -68,11 +69,11 @@ TEST_F(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
          L"VerMajor"},
         {kAgendaOne, kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"}}) {
     registry.Create(root, path);
-    EXPECT_FALSE(IsInstalled(metered, program)) << "no value";
+    EXPECT_FALSE(IsInstalled(recorded, program)) << "no value";
     SetRaw(registry, root, path, value, 99, {});
-    EXPECT_TRUE(IsInstalled(metered, program)) << "an empty value of any type";
+    EXPECT_TRUE(IsInstalled(recorded, program)) << "an empty value of any type";
   }
-  EXPECT_EQ(metered.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";
+  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";
 }
 
 }  // namespace

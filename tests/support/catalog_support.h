@@ -9,8 +9,8 @@
 #include "backup/registry_text.h"
 #include "categories/category_catalog.h"
 #include "platform/memory/memory_machine.h"
-#include "platform/memory/metered_files.h"
-#include "platform/memory/metered_registry.h"
+#include "platform/memory/recorded_files.h"
+#include "platform/memory/recorded_registry.h"
 #include "platform/text.h"
 
 namespace tidewell {
@@ -29,13 +29,13 @@ class ListedCategories final : public CategorySource {
 
 struct CatalogMachine {
   MemoryMachine memory;
-  MeteredRegistry registry{memory.registry};
-  MeteredFiles files{memory.files};
+  RecordedRegistry registry{memory.registry};
+  RecordedFiles files{memory.files};
   SettingsStore store;
   Language language;
-  CategoryCatalog catalog{MeteredDoor(), store};
+  CategoryCatalog catalog{RecordedMachine(), store};
 
-  Machine MeteredDoor() {
+  Machine RecordedMachine() {
     return {registry, files, memory.locale, memory.libraries, memory.system};
   }
   // Loads the store and rebuilds the catalogue with these categories.

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/gdi.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 

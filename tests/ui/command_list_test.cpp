@@ -1,11 +1,12 @@
-#include "ui/command_list.h"
+#include "ui/windows/command_list.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
 #include "tests/support/window_support.h"
-#include "ui/look.h"
+#include "ui/windows/look.h"
+#include "win32/tahoma.h"
 
 namespace tidewell {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/file_name_dialog.h"
+#include "ui/windows/file_name_dialog.h"
 
 #include <gtest/gtest.h>
 

@@ -110,7 +110,7 @@ class Gestures : public testing::TestWithParam<Gesture> {
     const auto at = input.find('@');
     const std::uint32_t now =
         at < input.size() ? static_cast<std::uint32_t>(std::stoul(input.substr(at + 1))) : 0;
-    const std::map<std::string, std::function<bool()>> deeds{
+    const std::map<std::string, std::function<bool()>> steps{
         {"down", [&] { return scroller_.PointerDown(first, second, now); }},
         {"move", [&] { return scroller_.PointerMove(first, now); }},
         {"up", [&] { return scroller_.PointerUp(first); }},
@@ -126,7 +126,7 @@ class Gestures : public testing::TestWithParam<Gesture> {
            return true;
          }}};
     if (verb == "run") return Run();
-    const bool consumed = deeds.at(verb)();
+    const bool consumed = steps.at(verb)();
     return (consumed ? "" : "ignored") + recorder_.TakeNotes();
   }
 

@@ -5,7 +5,7 @@
 
 #include "platform/memory/fixed_locale.h"
 #include "platform/memory/memory_files.h"
-#include "platform/memory/metered_files.h"
+#include "platform/memory/recorded_files.h"
 #include "platform/text.h"
 
 namespace tidewell {
@@ -30,13 +30,13 @@ class PathDialogModelTest : public testing::Test {
   }
 
   PathDialogModel ChooseFolder(const std::wstring& present) {
-    return {metered, locale, {L"", present, std::nullopt}, L"up"};
+    return {recorded, locale, {L"", present, std::nullopt}, L"up"};
   }
   PathDialogModel ChooseFile(const std::wstring& present, const std::wstring& pattern = L"*.wav") {
-    return {metered, locale, {L"", present, pattern}, L"up"};
+    return {recorded, locale, {L"", present, pattern}, L"up"};
   }
   MemoryFiles files;
-  MeteredFiles metered{files};
+  RecordedFiles recorded{files};
   FixedLocale locale;
 };
 
@@ -62,7 +62,7 @@ TEST_F(PathDialogModelTest, ShowsFoldersFirstThenTheFilesThatFitAndTheWayUpOnTop
   const PathDialogModel model = ChooseFile(L"\\My Documents\\Sounds\\CHIME.wav");
   EXPECT_THAT(NamesOf(model), ElementsAre(L"up", L"zz old", L"Alarm.WAV", L"chime.wav"));
   EXPECT_EQ(model.Suggested(), 3u) << "the present file";
-  EXPECT_EQ(metered.Count(FileCall::kList), 1);
+  EXPECT_EQ(recorded.Count(FileCall::kList), 1);
   EXPECT_THAT(NamesOf(ChooseFile(L"\\My Documents\\Sounds", L"*.mp3;*.txt")),
               ElementsAre(L"up", L"zz old", L"read me.txt"));
   EXPECT_THAT(NamesOf(ChooseFolder(L"\\My Documents")),
@@ -85,24 +85,24 @@ TEST_F(PathDialogModelTest, AFolderOrAFileIsTakenAndNothingThatIsNeither) {
 
 TEST_F(PathDialogModelTest, ALostRowLeadsBackToTheFolderAndALostFolderToTheNearestAbove) {
   PathDialogModel model = ChooseFolder(L"\\My Documents");
-  metered.Meter().Reset();
-  metered.Meter().FailNth(1);  // the look at the row
+  recorded.Calls().Reset();
+  recorded.Calls().FailNth(1);  // the look at the row
   EXPECT_EQ(model.Take(2), std::nullopt);
   EXPECT_EQ(model.Folder(), L"\\My Documents");
-  EXPECT_EQ(metered.Count(FileCall::kList), 1) << "shown as it is now";
+  EXPECT_EQ(recorded.Count(FileCall::kList), 1) << "shown as it is now";
 
   PathDialogModel file = ChooseFile(L"\\My Documents\\Sounds");
-  metered.Meter().FailEvery(FileCall::kFind);
+  recorded.Calls().FailEvery(FileCall::kFind);
   EXPECT_EQ(file.Take(3), std::nullopt);
   EXPECT_EQ(file.Folder(), L"\\");
 }
 
 TEST_F(PathDialogModelTest, AFolderThatCannotBeReadIsTakenOrLeft) {
-  metered.Meter().FailEvery(FileCall::kList);
+  recorded.Calls().FailEvery(FileCall::kList);
   PathDialogModel model = ChooseFolder(L"\\My Documents\\skins");
   EXPECT_EQ(model.Note(), FolderNote::kUnreadable);
   EXPECT_EQ(model.Take(std::nullopt), L"\\My Documents\\skins");
-  metered.Meter().Reset();
+  recorded.Calls().Reset();
   model.Activate(0);
   EXPECT_EQ(model.Folder(), L"\\My Documents");
   EXPECT_EQ(model.Note(), FolderNote::kNone);

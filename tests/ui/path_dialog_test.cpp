@@ -1,4 +1,4 @@
-#include "ui/path_dialog.h"
+#include "ui/windows/path_dialog.h"
 
 #include <gtest/gtest.h>
 

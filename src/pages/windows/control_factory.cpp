@@ -5,8 +5,9 @@
 #include "pages/windows/settings_page.h"
 #include "platform/text.h"
 #include "resources/text/text_ids.h"
-#include "ui/look.h"
 #include "ui/user_dialogs.h"
+#include "ui/windows/look.h"
+#include "win32/gdi.h"
 
 // Known to a device's list views only.
 #ifndef LVS_EX_NOHSCROLL

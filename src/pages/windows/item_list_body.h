@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "pages/windows/tab_body.h"
-#include "ui/file_icons.h"
+#include "ui/windows/file_icons.h"
 
 namespace tidewell {
 

@@ -8,7 +8,7 @@
 #include <deque>
 #include <optional>
 
-#include "ui/control_hook.h"
+#include "win32/control_hook.h"
 
 namespace tidewell {
 

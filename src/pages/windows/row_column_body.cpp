@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "ui/look.h"
+#include "ui/windows/look.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 

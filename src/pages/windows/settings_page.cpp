@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/window_owner.h"
-#include "ui/common_controls.h"
-#include "ui/look.h"
+#include "ui/windows/look.h"
+#include "win32/common_controls.h"
+#include "win32/tahoma.h"
+#include "win32/window_owner.h"
 
 namespace tidewell {
 

@@ -16,7 +16,7 @@
 #include "pages/page_rules.h"
 #include "pages/windows/key_navigation.h"
 #include "pages/windows/page_window.h"
-#include "platform/gdi.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 

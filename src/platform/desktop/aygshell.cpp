@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "platform/desktop/shell_windows.h"
-#include "platform/gdi.h"
+#include "win32/gdi.h"
 
 using tidewell::ShellWindow;
 using tidewell::ShellWindows;

@@ -10,8 +10,8 @@
 #include "platform/desktop/device_shell.h"
 #include "platform/desktop/shell_look.h"
 #include "platform/desktop/shell_windows.h"
-#include "platform/gdi.h"
-#include "platform/window_owner.h"
+#include "win32/gdi.h"
+#include "win32/window_owner.h"
 
 namespace tidewell {
 

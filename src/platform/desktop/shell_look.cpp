@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cwchar>
+
+#include "win32/tahoma.h"
 
 namespace tidewell {
 
@@ -34,11 +35,7 @@ const ScreenScale& ShellScale() {
 }
 
 Font ShellFont(int height, int weight) {
-  LOGFONTW description{};
-  description.lfHeight = -ShellScale().ScaleY(height);
-  description.lfWeight = weight;
-  std::wcscpy(description.lfFaceName, L"Tahoma");
-  return Font(CreateFontIndirectW(&description));
+  return TahomaFont(ShellScale().ScaleY(height), weight);
 }
 
 void DrawStripBackground(HDC dc, const RECT& area, bool pressed) {

@@ -8,7 +8,7 @@
 #include <numeric>
 
 #include "platform/desktop/shell_look.h"
-#include "platform/gdi.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/desktop/shell_look.h"
-#include "platform/window_owner.h"
+#include "win32/window_owner.h"
 
 namespace tidewell {
 

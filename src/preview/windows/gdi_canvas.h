@@ -3,8 +3,8 @@
 
 #include <windows.h>
 
-#include "platform/gdi.h"
 #include "preview/canvas.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 

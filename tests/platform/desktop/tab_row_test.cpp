@@ -6,7 +6,7 @@
 #include <string>
 
 #include "tests/support/window_support.h"
-#include "ui/common_controls.h"
+#include "win32/common_controls.h"
 
 namespace tidewell {
 namespace {

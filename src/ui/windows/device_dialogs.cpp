@@ -1,0 +1,32 @@
+#include "ui/windows/device_dialogs.h"
+
+#include "ui/windows/file_name_dialog.h"
+#include "ui/windows/path_dialog.h"
+
+namespace tidewell {
+
+void DeviceDialogs::ShowMessage(const std::wstring& text, const std::wstring& caption) {
+  MessageBoxW(context_().parent, text.c_str(), caption.c_str(), MB_OK);
+}
+
+bool DeviceDialogs::Ask(const std::wstring& question, const std::wstring& caption, bool byDefault) {
+  const UINT buttons = MB_YESNO | (byDefault ? MB_DEFBUTTON1 : MB_DEFBUTTON2);
+  return MessageBoxW(context_().parent, question.c_str(), caption.c_str(), buttons) == IDYES;
+}
+
+std::optional<std::wstring> DeviceDialogs::ChooseFolder(const std::wstring& title,
+                                                        const std::wstring& present) {
+  return tidewell::ChooseFolder(context_(), title, present);
+}
+
+std::optional<std::wstring> DeviceDialogs::ChooseFile(const std::wstring& title,
+                                                      const std::wstring& present,
+                                                      const std::wstring& pattern) {
+  return tidewell::ChooseFile(context_(), title, present, pattern);
+}
+
+bool DeviceDialogs::ChooseFileName(FileNameRequest& request) {
+  return RunFileNameDialog(context_(), request) == 1;
+}
+
+}  // namespace tidewell

@@ -1,0 +1,113 @@
+#include "categories/windows/pim_categories.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "platform/pim_properties.h"
+#include "platform/text.h"
+#include "platform/windows/windows_files.h"
+#include "tests/support/catalog_support.h"
+#include "tests/support/utf8.h"
+
+namespace tidewell {
+namespace {
+
+// A bitmap of one black pixel.
+std::vector<std::byte> TinyBitmap() {
+  const BITMAPFILEHEADER file = {0x4D42, sizeof(file) + sizeof(BITMAPINFOHEADER) + 4, 0, 0,
+                                 sizeof(file) + sizeof(BITMAPINFOHEADER)};
+  const BITMAPINFOHEADER info = {sizeof(info), 1, 1, 1, 24, BI_RGB, 4, 0, 0, 0, 0};
+  std::vector<std::byte> bytes(file.bfSize);
+  std::memcpy(bytes.data(), &file, sizeof file);
+  std::memcpy(bytes.data() + sizeof file, &info, sizeof info);
+  return bytes;
+}
+
+class PimCategories : public testing::Test {
+ protected:
+  PimCategories() {
+    wchar_t temporary[MAX_PATH] = {};
+    GetTempPathW(MAX_PATH, temporary);
+    folder = JoinPath(temporary, L"TidewellCategories");
+    files.MakeFolder(folder);
+  }
+  ~PimCategories() override {
+    for (const wchar_t* name : {L"pim.vol", L"Work.bmp"}) {
+      files.Remove(JoinPath(folder, name));
+    }
+    RemoveDirectoryW(folder.c_str());
+  }
+  std::wstring Volume() const { return JoinPath(folder, L"pim.vol"); }
+  void PutFile(const wchar_t* name, std::span<const std::byte> bytes) {
+    const auto stream = files.OpenForWriting(JoinPath(folder, name));
+    ASSERT_TRUE(stream && stream->Write(bytes) && stream->Close());
+  }
+  void Put(std::string_view text) { PutFile(L"pim.vol", std::as_bytes(std::span(text))); }
+  // Reads the volume anew: names, ids, flags and icons, a category a line.
+  std::string Shown() {
+    PimCategorySource source(files, folder, Volume());
+    machine.catalog.Rebuild(source, L"All");
+    std::string text;
+    for (const auto& category : machine.catalog.Categories()) {
+      text += Utf8(category->name) + ' ' + std::to_string(category->pimId) +
+              (category->pimFlag ? " flag" : "") + (category->bitmap ? " icon" : "") + '\n';
+    }
+    return text;
+  }
+
+  WindowsFiles files;
+  std::wstring folder;
+  CatalogMachine machine;
+};
+
+TEST_F(PimCategories, TheDatabaseTellsNameIdAndFlagAndTheFolderTheIcon) {
+  PutFile(L"Work.bmp", TinyBitmap());
+  Put("7 0 Work\n"
+      "327688 1 Home\n"
+      "9 1 work\n"
+      "65534 2 caf\xC3\xA9\n"
+      "131071 1 Id 65535 in its low half\n"
+      "3 1\n"
+      "- 1 No id\n"
+      "2 - No flag\n");
+  EXPECT_EQ(Shown(), "caf\xC3\xA9 65534\nHome 8 flag\nNo flag 2\nWork 7 icon\n");
+}
+
+TEST_F(PimCategories, AVolumeThatIsMissingEmptyOrTooLargeGivesNone) {
+  EXPECT_EQ(Shown(), "");
+  Put("");
+  EXPECT_EQ(Shown(), "");
+  Put("1 0 Work\n" + std::string(256 * 1024, '#'));
+  EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(PimCategories, AClosedDatabaseAnswersNothingAndLeavesNoHandle) {
+  PimDatabase database;
+  EXPECT_EQ(database.Seek(CEDB_SEEK_BEGINNING, 0), 0u);
+  Put("1 0 Work");
+  EXPECT_EQ(database.Open(L"AnotherDB", true, nullptr, nullptr, Volume()), nullptr);
+  ASSERT_TRUE(database.Open(kCategoryDatabase, true, nullptr, nullptr, Volume()));
+  EXPECT_NE(database.Seek(CEDB_SEEK_BEGINNING, 0), 0u);
+  const HANDLE handle = database.Handle();
+  database.Close();
+  EXPECT_EQ(database.Handle(), nullptr);
+  EXPECT_EQ(CeSeekDatabaseEx(handle, CEDB_SEEK_BEGINNING, 0, 0, nullptr), 0u);
+
+  DWORD before = 0;
+  DWORD after = 0;
+  ASSERT_TRUE(GetProcessHandleCount(GetCurrentProcess(), &before));
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(Shown(), "Work 1\n");
+  ASSERT_TRUE(GetProcessHandleCount(GetCurrentProcess(), &after));
+  EXPECT_LT(after, before + 10);
+}
+
+TEST_F(PimCategories, TheSampleDeviceHasElevenCategories) {
+  PimCategorySource source(files, folder, L"" SAMPLE_VOLUME);
+  machine.catalog.Rebuild(source, L"All");
+  EXPECT_EQ(machine.catalog.Categories().size(), 11u);
+  EXPECT_TRUE(machine.catalog.FindCategory(L"Ideas")->pimFlag);
+}
+
+}  // namespace
+}  // namespace tidewell
