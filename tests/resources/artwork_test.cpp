@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "preview/icons.h"
 #include "resources/art/bitmap_ids.h"
 #include "tests/resources/library.h"
 #include "win32/gdi.h"
@@ -13,8 +14,6 @@ namespace {
 struct Picture {
   int width = 0, height = 0, bits = 0;
   std::vector<RGBQUAD> pixels;  // from the bottom left
-
-  RGBQUAD At(int x, int y) const { return pixels[std::size_t(y * width + x)]; }
 };
 
 // Reads a bitmap of a library as the program does. Empty when there is none.
@@ -45,14 +44,15 @@ INSTANTIATE_TEST_SUITE_P(Both, Artwork,
                          testing::Values(std::pair("LowDpiRes.dll", 1),
                                          std::pair("HighDpiRes.dll", 2)));
 
-TEST_P(Artwork, EveryIconIsSquareWithPremultipliedAlpha) {
-  for (int id = IDB_CALENDAR; id <= IDB_TOOLS; ++id) {
+TEST_P(Artwork, EveryIconIsSquareWithPremultipliedAlphaAndShowsTheBackground) {
+  constexpr int kEnd = IDB_FIRST_ITEM_ICON + int(kIconSymbolCount);
+  for (int id = IDB_CALENDAR; id < kEnd; id = id == IDB_TOOLS ? IDB_FIRST_ITEM_ICON : id + 1) {
     const Picture icon = PictureOf(library_, id);
-    ASSERT_EQ(icon.bits, 32) << id;
-    EXPECT_EQ(icon.width, 28 * factor_) << id;
-    ASSERT_EQ(icon.height, 28 * factor_) << id;
-    EXPECT_EQ(icon.At(0, 0).rgbReserved, 0) << id << ": the corner shows the background";
-    EXPECT_EQ(icon.At(icon.width / 2, icon.height / 2).rgbReserved, 255) << id;
+    const int side = (id < IDB_FIRST_ITEM_ICON ? 28 : 12) * factor_;
+    ASSERT_EQ(std::tuple(icon.bits, icon.width, icon.height), std::tuple(32, side, side)) << id;
+    const auto [clear, solid] = std::ranges::minmax_element(icon.pixels, {}, &RGBQUAD::rgbReserved);
+    EXPECT_EQ(std::pair(clear->rgbReserved, solid->rgbReserved), std::pair(BYTE{0}, BYTE{255}))
+        << id;
     for (const RGBQUAD& pixel : icon.pixels) {
       ASSERT_LE(std::max({pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue}), pixel.rgbReserved) << id;
     }
