@@ -14,6 +14,7 @@ constexpr Color kOnColor = Rgb(80, 90, 170);
 constexpr Color kOffColor = Rgb(243, 243, 243);
 constexpr Color kDisabledColor = Rgb(190, 190, 190);
 constexpr std::uint32_t kDisabledWeight = 200;
+constexpr Color kFocusColor = Rgb(255, 160, 0);
 
 constexpr MarkerChoice kAppointmentChoices[] = {
     {kReminderIcon, IDS_ICON_REMINDER, 1},   {kPrivateIcon, IDS_ICON_PRIVATE, 2},
@@ -40,12 +41,25 @@ std::optional<IconSymbol> SymbolOf(std::uint32_t code) {
   return IconOf(item, code);
 }
 
-void DrawCentred(Canvas& canvas, const Rect& cell, const MarkerItem& item, IconSource& icons) {
+void DrawCentred(Canvas& canvas, const Rect& cell, const MarkerItem& item, IconSource* icons) {
   const std::optional<IconSymbol> symbol = SymbolOf(item.value);
-  const Image* icon = symbol ? icons.Find(*symbol) : nullptr;
+  const Image* icon = symbol && icons ? icons->Find(*symbol) : nullptr;
   if (!icon) return;
   PaintIcon(canvas, icon, cell.left + (cell.width - icon->Width()) / 2,
             cell.top + (cell.height - icon->Height()) / 2);
+}
+
+void PaintCell(Canvas& canvas, const Rect& cell, const MarkerItem& item, IconSource* icons) {
+  canvas.Fill(cell, item.state == MarkerState::kOn ? kOnColor : kOffColor);
+  DrawCentred(canvas, cell, item, icons);
+  if (item.state == MarkerState::kDisabled) canvas.Overlay(cell, kDisabledColor, kDisabledWeight);
+}
+
+void DrawFrame(Canvas& canvas, const Rect& cell, int width) {
+  canvas.Fill({cell.left, cell.top, cell.width, width}, kFocusColor);
+  canvas.Fill({cell.left, cell.Bottom() - width, cell.width, width}, kFocusColor);
+  canvas.Fill({cell.left, cell.top, width, cell.height}, kFocusColor);
+  canvas.Fill({cell.Right() - width, cell.top, width, cell.height}, kFocusColor);
 }
 
 }  // namespace
@@ -63,11 +77,10 @@ IconMarkerModel::IconMarkerModel(MarkerMode mode, std::span<const MarkerChoice> 
     : mode_(mode), noneText_(language.Text(IDS_ICON_NONE)) {
   int index = 0;
   for (const MarkerChoice& choice : choices) {
-    const bool isOn = mode == MarkerMode::kMany ? (choice.value & current) != 0  //
-                                                : choice.value == current;
-    items_.push_back({choice.value, isOn ? MarkerState::kOn : MarkerState::kOff,
-                      language.Text(choice.textId), choice.orderKey, index++});
+    items_.push_back(
+        {choice.value, MarkerState::kOff, language.Text(choice.textId), choice.orderKey, index++});
   }
+  SetValue(current);
   std::stable_sort(items_.begin(), items_.end(),
                    [](const MarkerItem& left, const MarkerItem& right) {
                      return left.orderKey < right.orderKey;
@@ -82,13 +95,37 @@ std::uint32_t IconMarkerModel::Value() const {
   return value;
 }
 
-int IconMarkerModel::Width(const ScreenScale& scale) const {
-  if (mode_ == MarkerMode::kOne) return scale.ScaleX(16) + scale.ScaleX(1, true);
-  return scale.ScaleX(1) + scale.ScaleX(16) * static_cast<int>(items_.size());
+void IconMarkerModel::SetValue(std::uint32_t current) {
+  for (MarkerItem& item : items_) {
+    if (item.state == MarkerState::kDisabled) continue;
+    item.state = IsOn(item.value, current) ? MarkerState::kOn : MarkerState::kOff;
+  }
+}
+
+bool IconMarkerModel::IsOn(std::uint32_t value, std::uint32_t current) const {
+  return mode_ == MarkerMode::kMany ? (value & current) != 0 : value == current;
+}
+
+int IconMarkerModel::Width(MarkerMode mode, std::size_t choices, const ScreenScale& scale) {
+  if (mode == MarkerMode::kOne) return scale.ScaleX(16) + scale.ScaleX(1, true);
+  return scale.ScaleX(1) + scale.ScaleX(16) * static_cast<int>(choices);
+}
+
+Rect IconMarkerModel::PlaceOfCell(int cell, const ScreenScale& scale) {
+  const int edge = scale.ScaleX(1);
+  return {edge + cell * scale.ScaleX(16), edge, scale.ScaleX(15), Height(scale) - 2 * edge};
+}
+
+std::wstring IconMarkerModel::NameOfCell(int cell) const {
+  const MarkerItem* chosen = ChosenItem();
+  if (mode_ == MarkerMode::kOne) return chosen ? chosen->name : noneText_;
+  const auto item = std::find_if(items_.begin(), items_.end(),
+                                 [&](const MarkerItem& any) { return any.index == cell; });
+  return item == items_.end() ? std::wstring() : item->name;
 }
 
 const MarkerItem* IconMarkerModel::Tap(int x, const ScreenScale& scale) {
-  MarkerItem* item = ItemOfIndex(x / scale.ScaleX(16));
+  MarkerItem* item = ItemOfIndex(CellAt(x, scale));
   if (item && item->state != MarkerState::kDisabled) {
     item->state = item->state == MarkerState::kOn ? MarkerState::kOff : MarkerState::kOn;
   }
@@ -119,23 +156,19 @@ std::optional<std::uint32_t> IconMarkerModel::Choose(int command) {
 }
 
 void IconMarkerModel::Paint(Canvas& canvas, const Rect& client, const ScreenScale& scale,
-                            IconSource& icons) const {
-  const int edge = scale.ScaleX(1);
-  Rect cell{client.left + edge, client.top + edge, scale.ScaleX(15), client.height - 2 * edge};
+                            IconSource* icons, std::optional<int> focusedCell) const {
+  const auto placeOf = [&](int cell) {
+    return PlaceOfCell(cell, scale).Moved(client.left, client.top);
+  };
+  canvas.Fill(client, mode_ == MarkerMode::kOne ? kOffColor : kStripColor);
   if (mode_ == MarkerMode::kOne) {
-    canvas.Fill(client, kOffColor);
-    const auto isOn = [](const MarkerItem& item) { return item.state == MarkerState::kOn; };
-    const auto chosen = std::find_if(items_.begin(), items_.end(), isOn);
-    if (chosen != items_.end()) DrawCentred(canvas, cell, *chosen, icons);
-    return;
+    if (const MarkerItem* chosen = ChosenItem()) DrawCentred(canvas, placeOf(0), *chosen, icons);
+  } else {
+    for (int cell = 0; cell < CellCount(); ++cell) {
+      PaintCell(canvas, placeOf(cell), items_[static_cast<std::size_t>(cell)], icons);
+    }
   }
-  canvas.Fill(client, kStripColor);
-  for (const MarkerItem& item : items_) {
-    canvas.Fill(cell, item.state == MarkerState::kOn ? kOnColor : kOffColor);
-    DrawCentred(canvas, cell, item, icons);
-    if (item.state == MarkerState::kDisabled) canvas.Overlay(cell, kDisabledColor, kDisabledWeight);
-    cell.left += scale.ScaleX(16);
-  }
+  if (focusedCell) DrawFrame(canvas, placeOf(*focusedCell), scale.ScaleX(1));
 }
 
 void IconMarkerModel::SetState(std::uint32_t value, MarkerState state) {
@@ -148,6 +181,12 @@ MarkerItem* IconMarkerModel::ItemOfIndex(int index) {
   const auto item = std::find_if(items_.begin(), items_.end(),
                                  [&](const MarkerItem& any) { return any.index == index; });
   return item == items_.end() ? nullptr : &*item;
+}
+
+const MarkerItem* IconMarkerModel::ChosenItem() const {
+  const auto isOn = [](const MarkerItem& item) { return item.state == MarkerState::kOn; };
+  const auto chosen = std::find_if(items_.begin(), items_.end(), isOn);
+  return chosen == items_.end() ? nullptr : &*chosen;
 }
 
 }  // namespace tidewell

@@ -61,12 +61,21 @@ class IconMarkerModel {
   const std::vector<MarkerItem>& Items() const { return items_; }
   // The codes that are on: a mask, or one code, or 0.
   std::uint32_t Value() const;
+  // Turns on what `current` says, as above, and the rest off, but for what is disabled.
+  void SetValue(std::uint32_t current);
   void SetOff(std::uint32_t value) { SetState(value, MarkerState::kOff); }
   void SetDisabled(std::uint32_t value) { SetState(value, MarkerState::kDisabled); }
 
   // In pixels.
-  int Width(const ScreenScale& scale) const;
+  static int Width(MarkerMode mode, std::size_t choices, const ScreenScale& scale);
   static int Height(const ScreenScale& scale) { return scale.ScaleX(17); }
+  // Counted from 0, also beside the cells.
+  static int CellAt(int x, const ScreenScale& scale) { return x / scale.ScaleX(16); }
+  // Within the strip, without the lines around it.
+  static Rect PlaceOfCell(int cell, const ScreenScale& scale);
+  int CellCount() const { return mode_ == MarkerMode::kOne ? 1 : static_cast<int>(items_.size()); }
+  // What a cell is called: by its icon or, in a strip of one, by the chosen one's.
+  std::wstring NameOfCell(int cell) const;
 
   // A tap in a strip of many, `x` from its left edge: turns the cell's item on or off unless that
   // is disabled. Returns the item, or null beside the cells.
@@ -77,11 +86,15 @@ class IconMarkerModel {
   // Chooses what a command of the menu says. Returns its value; nothing for another's command.
   std::optional<std::uint32_t> Choose(int command);
 
-  void Paint(Canvas& canvas, const Rect& client, const ScreenScale& scale, IconSource& icons) const;
+  // Without icons where `icons` is null; a cell that keys would work has a frame.
+  void Paint(Canvas& canvas, const Rect& client, const ScreenScale& scale, IconSource* icons,
+             std::optional<int> focusedCell = std::nullopt) const;
 
  private:
+  bool IsOn(std::uint32_t value, std::uint32_t current) const;
   void SetState(std::uint32_t value, MarkerState state);
   MarkerItem* ItemOfIndex(int index);
+  const MarkerItem* ChosenItem() const;
 
   MarkerMode mode_;
   std::vector<MarkerItem> items_;

@@ -121,7 +121,7 @@ LRESULT CALLBACK TestWindow::WindowProc(HWND window, UINT message, WPARAM wParam
         reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
   }
   auto* self = reinterpret_cast<TestWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self) self->messages.push_back({message, wParam});
+  if (self) self->messages.push_back({message, wParam, lParam});
   return DefWindowProcW(window, message, wParam, lParam);
 }
 

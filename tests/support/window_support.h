@@ -52,6 +52,7 @@ class TestWindow {
   struct Message {
     UINT id;
     WPARAM wParam;
+    LPARAM lParam;
   };
 
   TestWindow(DWORD style, DWORD extendedStyle, const RECT& place = {0, 0, 100, 100},

@@ -24,8 +24,8 @@ TEST(IconMarker, OfManyTurnsTheTappedCellOnAndOff) {
   marker.SetDisabled(4);
   marker.SetOff(2);
   EXPECT_EQ(States(marker), "1+ 2- 4x 8- 16- 128+ 64- 256+ ");
-  EXPECT_EQ(marker.Width(kQvga), 129);
-  EXPECT_EQ(marker.Width(kVga), 258);
+  EXPECT_EQ(IconMarkerModel::Width(MarkerMode::kMany, 8, kQvga), 129);
+  EXPECT_EQ(IconMarkerModel::Width(MarkerMode::kMany, 8, kVga), 258);
   for (const int x : {0, 31, 40, 127, 128}) marker.Tap(x, kQvga);
   EXPECT_EQ(States(marker), "1- 2+ 4x 8- 16- 128+ 64- 256- ");
   EXPECT_EQ(marker.Tap(40, kQvga)->value, 4u);
@@ -45,7 +45,7 @@ TEST(IconMarker, OfOneChoosesFromItsMenu) {
     }
     return commands;
   };
-  EXPECT_EQ(marker.Width(kQvga), 17);
+  EXPECT_EQ(IconMarkerModel::Width(MarkerMode::kOne, 8, kQvga), 17);
   EXPECT_EQ(marker.Menu().size(), 9u);
   EXPECT_EQ(checked(), "0 ");
   EXPECT_EQ(marker.Choose(1149), 32u);
@@ -61,15 +61,15 @@ TEST(IconMarker, IsPainted) {
   const MarkerChoice choices[] = {{1, 0, 1}, {32, 0, 2}, {8, 0, 3}};
   IconMarkerModel many(MarkerMode::kMany, choices, 32, {});
   many.SetDisabled(8);
-  many.Paint(canvas, {0, 0, 49, 17}, kQvga, icons);
+  many.Paint(canvas, {0, 0, 49, 17}, kQvga, &icons);
   EXPECT_EQ(canvas.Take(),
             "fill 321414 @0,0 49x17; fill f3f3f3 @1,1 15x15; reminder @3,3; fill aa5a50 @17,1 "
             "15x15; high_importance @19,3; fill f3f3f3 @33,1 15x15; note @35,3; overlay 200 bebebe "
             "@33,1 15x15");
   IconMarkerModel one(MarkerMode::kOne, choices, 8, {});
-  one.Paint(canvas, {0, 0, 17, 17}, kQvga, icons);
+  one.Paint(canvas, {0, 0, 17, 17}, kQvga, &icons);
   one.Choose(0);
-  one.Paint(canvas, {0, 0, 17, 17}, kQvga, icons);
+  one.Paint(canvas, {0, 0, 17, 17}, kQvga, &icons);
   EXPECT_EQ(canvas.Take(), "fill f3f3f3 @0,0 17x17; note @3,3; fill f3f3f3 @0,0 17x17");
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/windows/icon_marker.h"
 #include "ui/windows/look.h"
 #include "win32/common_controls.h"
 #include "win32/tahoma.h"
@@ -118,9 +119,9 @@ LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
       if (LOWORD(wParam) == IDOK) return AskToClose();
       return OnCommand(window_, wParam, lParam);
-    case kPreviewMessage1:
+    case kMarkerTappedMessage:
       return OnPreviewMessage1(window_, wParam, lParam);
-    case kPreviewMessage2:
+    case kMarkerChosenMessage:
       return OnPreviewMessage2(window_, wParam, lParam);
     case WM_NCDESTROY:
       return LetGo(window_, wParam, lParam);

@@ -20,10 +20,6 @@
 
 namespace tidewell {
 
-// Sent to a page by the preview controls in it.
-inline constexpr UINT kPreviewMessage1 = 1788;
-inline constexpr UINT kPreviewMessage2 = 1789;
-
 class SettingsPage : public PageWindow, private NavigationOwner {
  public:
   explicit SettingsPage(PageContext& context);
