@@ -31,6 +31,7 @@ trap 'exit 143' TERM HUP
 program_packages=(
   cmake ninja-build                 # the build
   g++-mingw-w64-x86-64-posix        # the compiler for Windows, with real threads
+  libstb-dev                        # a decoder of TGA pictures
   librsvg2-bin imagemagick          # the artwork, and pictures of the screen
   wine64 fonts-wine                 # the stand-in for a device
   fonts-dejavu-extra                # its letters at 96 dots per inch

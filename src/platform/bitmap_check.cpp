@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/file_start.h"
+#include "platform/image_check.h"
 
 namespace tidewell {
 
@@ -62,8 +63,13 @@ std::optional<Header> ReadHeader(Bytes bytes) {
   return header;
 }
 
+std::uint32_t RowsOf(const Header& header) {
+  return static_cast<std::uint32_t>(header.height < 0 ? -header.height : header.height);
+}
+
 bool IsShowable(const Header& header) {
-  if (header.width <= 0 || header.height == 0 || header.planes != 1) return false;
+  if (header.width <= 0 || header.planes != 1) return false;
+  if (!FitsImageLimits(static_cast<std::uint32_t>(header.width), RowsOf(header))) return false;
   if (header.depth <= 8 && header.colors > (1u << header.depth)) return false;
   switch (header.compression) {
     case kPlain:
@@ -89,10 +95,8 @@ std::uint64_t SizeBeforePixels(const Header& header) {
 
 bool FitsInto(const Header& header, std::uint64_t pixelBytes) {
   const auto width = static_cast<std::uint64_t>(header.width);
-  const auto height =
-      static_cast<std::uint64_t>(header.height < 0 ? -header.height : header.height);
   const std::uint64_t row = (width * header.depth + 31) / 32 * 4;
-  return height <= pixelBytes / row;
+  return RowsOf(header) <= pixelBytes / row;
 }
 
 // Counted from the header on: where the pixels begin (right behind the palette without a place of
@@ -109,7 +113,7 @@ bool IsWhole(Bytes head, std::optional<std::uint64_t> pixels, std::uint64_t end)
 
 bool IsWholeBitmap(Files& files, const std::wstring& path) {
   FileStart file(files, path);
-  if (file.Size() < kFileHeaderSize + kShortHeaderSize) return false;
+  if (file.Size() < kFileHeaderSize + kShortHeaderSize || file.Size() > kMaxImageFile) return false;
   const std::uint64_t size = file.Size() - kFileHeaderSize;
   const auto head = file.At(0, kFileHeaderSize + std::min<std::uint64_t>(size, kHeaderSize));
   if (!head || NumberAt(*head, 0, 2) != kMagic) return false;

@@ -11,7 +11,8 @@
 namespace tidewell {
 
 // True when the headers of a bitmap file are those of a bitmap that a device shows (1 to 32 bits,
-// not compressed) and its palette and pixels lie within the file. Reads the headers alone.
+// not compressed) within the image limits, and its palette and pixels lie within the file. Reads
+// the headers alone.
 bool IsWholeBitmap(Files& files, const std::wstring& path);
 
 // The same of a bitmap as a library holds it: without the file's header, its pixels right behind

@@ -11,7 +11,10 @@ std::optional<std::vector<std::byte>> ReadWholeFile(Files& files, const std::wst
   std::vector<std::byte> bytes;
   std::size_t used = 0;
   for (;;) {
-    if (used == bytes.size()) bytes.resize(std::max<std::size_t>(16 * 1024, used * 2));
+    if (used == bytes.size()) {
+      // One byte more than the limit tells a file that has more.
+      bytes.resize(used + std::min(limit - used, std::max<std::size_t>(16 * 1024, used)) + 1);
+    }
     const std::optional<std::size_t> count = input->Read(std::span(bytes).subspan(used));
     if (!count) return std::nullopt;
     if (*count == 0) break;

@@ -15,9 +15,11 @@ void import_flow(Bytes bytes);
 void filters_file(Bytes bytes);
 void pim_volume(Bytes bytes);
 void settings_load(Bytes bytes);
-// Both tell whether the file is whole.
+// These tell whether the file is whole.
 bool bitmap_check(Bytes bytes);
+bool image_check(Bytes bytes);
 bool library_check(Bytes bytes);
+bool tga(Bytes bytes);
 
 inline void Require(bool promise) {
   if (!promise) std::abort();
