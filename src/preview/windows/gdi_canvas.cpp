@@ -83,6 +83,20 @@ std::unique_ptr<GdiImage> GdiImage::Of(Bitmap bitmap) {
   return std::unique_ptr<GdiImage>(new GdiImage(std::move(bitmap), facts));
 }
 
+std::unique_ptr<GdiImage> GdiImage::Of(const Pixels& pixels) {
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof info.bmiHeader;
+  info.bmiHeader.biWidth = pixels.width;
+  info.bmiHeader.biHeight = -pixels.height;  // from the top
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  void* points = nullptr;
+  Bitmap bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &points, nullptr, 0));
+  if (!bitmap) return nullptr;
+  std::ranges::copy(pixels.points, static_cast<Argb*>(points));
+  return Of(std::move(bitmap));
+}
+
 std::unique_ptr<CanvasFont> GdiCanvas::MakeFont(const LogFont& description) {
   return std::make_unique<GdiFont>(dc_, description);
 }

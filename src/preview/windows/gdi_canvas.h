@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "platform/pixels.h"
 #include "preview/canvas.h"
 #include "win32/gdi.h"
 
@@ -16,6 +17,7 @@ class GdiImage final : public Image {
  public:
   // Null for no bitmap.
   static std::unique_ptr<GdiImage> Of(Bitmap bitmap);
+  static std::unique_ptr<GdiImage> Of(const Pixels& pixels);
 
   HBITMAP Handle() const { return bitmap_.Get(); }
   bool HasAlpha() const { return hasAlpha_; }
