@@ -62,6 +62,8 @@ const wchar_t* KindOf(const Row& row) {
       return L"filled by the page";
     case Stored::kNothing:
       return L"not stored";
+    case Stored::kCodes:
+      return row.kind == RowKind::kIcon ? L"code of an icon" : L"codes of icons";
   }
   return L"";
 }
@@ -106,6 +108,10 @@ class PagesWriter {
 
   std::wstring ChoicesOf(const Row& row) const {
     std::wstring listed;
+    for (const MarkerChoice& icon : row.icons) {
+      listed += (listed.empty() ? L"" : L", ") + Text(icon.textId) + L" = " +
+                FormatDecimal(static_cast<std::int32_t>(icon.value));
+    }
     for (const Choice& choice : row.choices) {
       const std::wstring number = FormatDecimal(static_cast<std::int32_t>(choice.data));
       const std::wstring text = choice.TextIn(language_);

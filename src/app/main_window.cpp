@@ -270,8 +270,8 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
-  pageContext_.emplace(
-      PageContext{machine_, settings_, categories_, language_, scale_, &Dialogs()});
+  pageContext_.emplace(PageContext{machine_, settings_, categories_, language_, scale_, &Dialogs(),
+                                   &*previewIcons_});
   page_ = parts_.createPage(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());

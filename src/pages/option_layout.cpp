@@ -59,6 +59,9 @@ std::vector<int> ControlsOf(const Option& option, const OptionEditor& editor) {
     case RowKind::kOrder:
       ids.insert(ids.end(), {editor.orderId, editor.upId, editor.downId});
       break;
+    case RowKind::kIcon:
+    case RowKind::kIcons:
+      break;  // no option
   }
   return ids;
 }

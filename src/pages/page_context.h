@@ -9,6 +9,7 @@
 
 namespace tidewell {
 
+class IconSource;
 class UserDialogs;
 
 struct PageContext {
@@ -18,6 +19,7 @@ struct PageContext {
   const Language& language;
   ScreenScale scale;
   UserDialogs* dialogs = nullptr;  // null: nothing is asked or told
+  IconSource* icons = nullptr;     // of items; null: they have none
 };
 
 }  // namespace tidewell

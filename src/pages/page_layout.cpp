@@ -64,10 +64,6 @@ int FitCaption(const PageMetrics& metrics, const std::wstring& text, int width, 
   return std::max(oneLine, height);
 }
 
-bool IsNarrow(const PageMetrics& metrics) {
-  return metrics.clientWidth < metrics.scale.ScaleX(kLabelRight + kLeastLabel);
-}
-
 // The label of a row whose control stands in the right column, at the row's top, or below the label
 // on a narrow page. The row, which has its control's height, grows with it. Returns the control's
 // place, `controlHeight` high.
@@ -107,6 +103,10 @@ void PlacePathButtons(const PageMetrics& metrics, int clearId, int browseId, int
 }
 
 }  // namespace
+
+bool IsNarrow(const PageMetrics& metrics) {
+  return metrics.clientWidth < metrics.scale.ScaleX(kLabelRight + kLeastLabel);
+}
 
 std::wstring FitWords(TextMeasure& measure, const std::wstring& text, int width) {
   std::wstring fitted;
@@ -209,6 +209,8 @@ RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring
       break;
     case RowKind::kText:
     case RowKind::kOrder:
+    case RowKind::kIcon:
+    case RowKind::kIcons:
       break;  // stand in no column
   }
   place.height -= metrics.scale.ScaleY(row.reducedSpacing);

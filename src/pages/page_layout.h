@@ -53,6 +53,9 @@ struct RowPlace {
   std::vector<ControlPlace> controls;
 };
 
+// Too narrow for two columns.
+bool IsNarrow(const PageMetrics& metrics);
+
 // Rows by themselves, at `y`, in pixels. A caption that is too long for its column wraps and makes
 // its row higher. Where a page is too narrow for two columns, a label stands above its control.
 RowPlace PlaceCheckRow(const PageMetrics& metrics, int id, const std::wstring& caption, int y);

@@ -24,6 +24,23 @@ Row ListRow(int labelId, int listId, int textId, Stored stored, Choices choices)
   return row;
 }
 
+Row IconRow(RowKind kind, int labelId, int stripId, int textId, DwordSetting& setting,
+            std::span<const MarkerChoice> offered) {
+  Row row = ListRow(labelId, stripId, textId, Stored::kCodes, {});
+  row.kind = kind;
+  row.number = &setting;
+  row.icons = offered;
+  return row;
+}
+
+// The codes of a set that its strip does not offer.
+std::uint32_t OtherCodes(const Row& row) {
+  if (row.kind == RowKind::kIcon) return 0;
+  std::uint32_t codes = row.number->Value();
+  for (const MarkerChoice& icon : row.icons) codes &= ~icon.value;
+  return codes;
+}
+
 int PositionOfData(const Row& row) {
   const auto found =
       std::find_if(row.choices.begin(), row.choices.end(),
@@ -101,6 +118,16 @@ Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting) {
   return row;
 }
 
+Row Icon(int labelId, int stripId, int textId, DwordSetting& setting,
+         std::span<const MarkerChoice> offered) {
+  return IconRow(RowKind::kIcon, labelId, stripId, textId, setting, offered);
+}
+
+Row Icons(int labelId, int stripId, int textId, DwordSetting& setting,
+          std::span<const MarkerChoice> offered) {
+  return IconRow(RowKind::kIcons, labelId, stripId, textId, setting, offered);
+}
+
 Row Text(int textId, StringSetting& setting) {
   Row row;
   row.kind = RowKind::kText;
@@ -149,6 +176,9 @@ ControlState StateOf(const Row& row) {
     case Stored::kNothing:
       state.selection = 0;
       break;
+    case Stored::kCodes:
+      state.data = row.number->Value();
+      break;
     case Stored::kByRules:
       break;
   }
@@ -180,6 +210,9 @@ void Store(const Row& row, const ControlState& state) {
       break;
     case Stored::kText:
       row.text->Set(state.text.substr(0, kPathCapacity));
+      break;
+    case Stored::kCodes:
+      row.number->Set(OtherCodes(row) | state.data);
       break;
     case Stored::kByRules:
     case Stored::kNothing:

@@ -3,12 +3,14 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "platform/language.h"
 #include "settings/setting.h"
+#include "ui/icon_marker_model.h"
 
 namespace tidewell {
 
@@ -36,6 +38,8 @@ enum class RowKind : std::uint8_t {
   kPath,    // a caption, a path that can be read, and two buttons below
   kText,    // a text that can be typed, with a button that clears it; in an option's editor alone
   kOrder,   // lines to be put into order; in an option's editor alone
+  kIcon,    // a caption and a strip that shows one icon; of an icon picker, as is the next
+  kIcons,   // the same with a set of icons
 };
 
 // What a path's second button lets the user choose, under a title that is the same in every
@@ -54,6 +58,7 @@ enum class Stored : std::uint8_t {
   kText,
   kByRules,  // the page's rules fill and store the row
   kNothing,  // the row only steers others
+  kCodes,    // an icon's code or those of a set, as soon as they are chosen
 };
 
 inline constexpr int kNoChoice = -1;
@@ -80,6 +85,7 @@ struct Row {
   DwordSetting* number = nullptr;
   StringSetting* text = nullptr;
   Choices choices;
+  std::span<const MarkerChoice> icons;
   int otherwise = kNoChoice;       // the line shown when none has the stored data
   std::uint32_t ofNoChoice = ~0u;  // the data stored when no line is chosen
   Browse browse;
@@ -99,6 +105,12 @@ Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringS
 // Begins at its first line and is not stored.
 Row Selector(int labelId, int listId, int textId, Choices choices);
 Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting);
+// Of an icon picker. What is offered outlives the row; of a set the codes that are not offered stay
+// as they are stored.
+Row Icon(int labelId, int stripId, int textId, DwordSetting& setting,
+         std::span<const MarkerChoice> offered);
+Row Icons(int labelId, int stripId, int textId, DwordSetting& setting,
+          std::span<const MarkerChoice> offered);
 // Of an option's editor.
 Row Text(int textId, StringSetting& setting);
 Row Order();
@@ -121,7 +133,7 @@ struct ControlState {
 
   bool checked = false;
   int selection = kNoChoice;
-  std::uint32_t data = 0;  // of the selected line
+  std::uint32_t data = 0;  // of the selected line, or the codes of a strip
   std::wstring text;       // typed or, of a drop-down list, the selected line's
 
   bool operator==(const ControlState&) const = default;

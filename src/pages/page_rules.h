@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "pages/page_tabs.h"
+#include "preview/canvas.h"
 
 namespace tidewell {
 
@@ -38,13 +39,13 @@ class PageView {
   virtual void SelectLine(int listId, int line) = 0;
   // Moves the selected line one place; without one, tells the user to select it first.
   virtual void MoveLine(int listId, bool up) = 0;
-  // Paints the room above the body of the tab in view.
+  // Paints the room of the tab in view anew, and only that.
   virtual void Repaint() = 0;
 };
 
 enum class PageEventKind : std::uint8_t {
   kClicked,     // a button or a box
-  kChosen,      // a line of a drop-down list is decided on
+  kChosen,      // a line of a drop-down list, or an icon, is decided on; the icon is stored by then
   kChanged,     // another line of a drop-down list is marked
   kEdited,      // a typed text changed, or a path was browsed for or cleared
   kSelected,    // a line of a list
@@ -72,6 +73,8 @@ class PageRules {
   virtual void OnEvent(PageView&, const PageEvent&) {}
   // Which controls can be used: asked after a tab is built and after each event.
   virtual std::vector<Enabling> Enabled(const PageView&) const { return {}; }
+  // Paints the room of a tab, which is white so far, in pixels from its top left.
+  virtual void PaintRoom(Canvas&, int /*width*/, int /*height*/, int /*tab*/) {}
   // The rows are stored; what they cannot store by themselves is now.
   virtual void Store(const PageView&) {}
 };

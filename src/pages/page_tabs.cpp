@@ -9,8 +9,15 @@ namespace tidewell {
 namespace {
 
 struct IdCollector {
-  void operator()(const RowColumn& column) {
-    for (const Row& row : column.rows) {
+  void operator()(const RowColumn& column) { Collect(column.rows); }
+  void operator()(const IconPickers& tab) {
+    for (const TwoRowPicker& picker : tab.pickers) {
+      Collect(picker.upper);
+      Collect(picker.lower);
+    }
+  }
+  void Collect(const std::vector<Row>& rows) {
+    for (const Row& row : rows) {
       ids.insert({row.labelId, row.controlId, row.clearId, row.browseId});
     }
   }
@@ -28,13 +35,20 @@ struct IdCollector {
 };
 
 struct RowCollector {
-  void operator()(const RowColumn& column) {
-    for (const Row& row : column.rows) rows.push_back(&row);
+  void operator()(const RowColumn& column) { Collect(column.rows); }
+  void operator()(const IconPickers& tab) {
+    for (const TwoRowPicker& picker : tab.pickers) {
+      Collect(picker.upper);
+      Collect(picker.lower);
+    }
   }
   void operator()(const OptionList& list) {
     for (const Option& option : list.options) rows.push_back(&option.editor);
   }
   void operator()(const ItemList&) {}
+  void Collect(const std::vector<Row>& more) {
+    for (const Row& row : more) rows.push_back(&row);
+  }
 
   std::vector<const Row*> rows;
 };

@@ -1,5 +1,6 @@
 // The tabs of a settings page as data. A tab has one body below its title: a column of rows, a list
-// of options with an editor above it, or a list of items.
+// of options with an editor above it, a list of items, or a column of icon pickers; and, if its
+// rules paint something, room for that.
 #pragma once
 
 #include <cstdint>
@@ -67,13 +68,33 @@ struct ItemList {
   std::vector<ItemButton> buttons;
 };
 
+// Strips of icons behind their labels, on two lines.
+struct TwoRowPicker {
+  std::vector<Row> upper;
+  std::vector<Row> lower;
+};
+
+struct IconPickers {
+  std::vector<TwoRowPicker> pickers;
+};
+
+// Where the page's rules paint, over the whole width of the page. A column begins below room that
+// is above it, and moves with either; a list leaves it free by its own place.
+struct PaintedRoom {
+  enum class Place : std::uint8_t { kAbove, kBelow };
+
+  int height = 0;  // at 96 dots per inch; 0 for none
+  Place place = Place::kAbove;
+};
+
 struct PageTab {
   int titleId;
-  std::variant<RowColumn, OptionList, ItemList> body;
+  std::variant<RowColumn, OptionList, ItemList, IconPickers> body;
+  PaintedRoom room = {};
 
   // Of all its controls, whether this device has them or not. Ascending.
   std::vector<int> ControlIds() const;
-  // The rows that show a setting of their own, the options' among them.
+  // The rows that show a setting of their own, those of options and pickers among them.
   std::vector<const Row*> Rows() const;
 };
 using PageTabs = std::vector<PageTab>;

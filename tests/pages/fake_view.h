@@ -35,11 +35,15 @@ class FakeView final : public PageView {
     Tell({id, PageEventKind::kChosen});
     Tell({id, PageEventKind::kChanged});
   }
+  // A strip of icons: these are on now.
+  void ChooseIcons(int id, std::uint32_t codes) {
+    states_[id].data = codes;
+    StoreRows([id](const Row& row) { return row.controlId == id; });
+    Tell({id, PageEventKind::kChosen});
+  }
   // The page closes.
   void Close() {
-    for (const PageTab& tab : tabs_) {
-      for (const Row* row : tab.Rows()) tidewell::Store(*row, states_[row->controlId]);
-    }
+    StoreRows([](const Row& row) { return row.stored != Stored::kCodes; });
     rules_->Store(*this);
   }
   // Those of the ids from `first` to `last` that can be used.
@@ -67,9 +71,19 @@ class FakeView final : public PageView {
   int SelectedLine(int) const override { return kNoChoice; }
   void SelectLine(int, int) override {}
   void MoveLine(int, bool) override {}
-  void Repaint() override {}
+  void Repaint() override { ++repaints; }
+
+  int repaints = 0;
 
  private:
+  template <typename Which>
+  void StoreRows(Which which) {
+    for (const PageTab& tab : tabs_) {
+      for (const Row* row : tab.Rows()) {
+        if (which(*row)) tidewell::Store(*row, states_[row->controlId]);
+      }
+    }
+  }
   void Tell(const PageEvent& event) {
     rules_->OnEvent(*this, event);
     Ask();

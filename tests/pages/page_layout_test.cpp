@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "pages/icon_layout.h"
 #include "pages/scroll_range.h"
 
 namespace tidewell {
@@ -44,6 +45,30 @@ TEST_F(Layout, RowsStandWhereTheyAreExpected) {
             (Places{{1, {10, 8, 120, 20}}, {2, {135, 8, 45, 20}}, {3, {185, 8, 45, 20}}}));
   EXPECT_EQ(PlaceList(qvga.scale, 240, 268, 8), (Rect{10, 76, 220, 164}));
   EXPECT_EQ(PlaceTabRow(qvga.scale, 240, 268), (Rect{-2, 247, 242, 21}));
+}
+
+TEST_F(Layout, StripsOfIconsStandBehindTheirLabelsOnTwoLines) {
+  Row one, set;
+  one.labelId = 1;
+  one.controlId = 2;
+  one.kind = RowKind::kIcon;
+  set.labelId = 3;
+  set.controlId = 4;
+  set.kind = RowKind::kIcons;
+  set.icons = AppointmentMarkerChoices();
+  const TwoRowPicker picker{{one, one}, {set}};
+  const RowPlace place = PlaceTwoRowPicker(qvga, picker, 8);
+  EXPECT_EQ(place.controls, (Places{{1, {0, 10, 98, 18}},
+                                    {2, {100, 10, 17, 17}},
+                                    {1, {120, 10, 98, 18}},
+                                    {2, {220, 10, 17, 17}},
+                                    {3, {0, 31, 98, 18}},
+                                    {4, {100, 31, 129, 17}}}));
+  EXPECT_EQ(place.height, 42);
+  const RowPlace below = PlaceTwoRowPicker(narrow, picker, 16);
+  EXPECT_EQ(below.controls[1].rect, (Rect{198, 62, 34, 34}));
+  EXPECT_EQ(below.controls[5].rect, (Rect{0, 230, 258, 34}));
+  EXPECT_EQ(below.height, 252);
 }
 
 TEST_F(Layout, TwiceTheResolutionIsTwiceTheSize) {

@@ -18,6 +18,8 @@ class Rows : public testing::Test {
   Row data = DataList(1, 2, 3, group.number, Numbers(60, 70, 5));
   Row dataOrSecond = DataList(1, 2, 3, group.number, {{L"15", 15}, {L"30", 30}}, 1, 0);
   Row number = Number(1, 2, 3, group.number, Numbers(80, 600, 20));
+  Row icon = Icon(1, 2, 3, group.number, AppointmentMarkerChoices());
+  Row icons = Icons(1, 2, 3, group.number, AppointmentMarkerChoices());
   Row name = NameList(1, 2, 3, group.text, {40, L"Business", L"Stra\u00DFe", L"\u00C4rzte"});
   Row path = Path(1, 2, 3, 4, 5, group.text, {L"Folder"});
 };
@@ -49,6 +51,14 @@ TEST_F(Rows, ShowTheLineOfTheStoredNumberAndStoreTheNumberOfTheLine) {
     Store(check, StateOf(check));
     EXPECT_EQ(group.number.Value(), stored ? 1u : 0u);
   }
+  group.number.Set(0x403);
+  ControlState codes = StateOf(icons);
+  EXPECT_EQ(codes.data, 0x403u);
+  codes.data = 8;
+  Store(icons, codes);
+  EXPECT_EQ(group.number.Value(), 0x408u) << "and a code that it does not offer";
+  Store(icon, codes);
+  EXPECT_EQ(group.number.Value(), 8u);
   Store(dataOrSecond, ControlState());
   EXPECT_EQ(group.number.Value(), 0u) << "its number for no line";
 }

@@ -5,6 +5,7 @@
 #include "pages/pim_page.h"
 #include "resources/text/text_ids.h"
 #include "tests/pages/fake_view.h"
+#include "tests/pages/icon_page.h"
 #include "tests/pages/page_fixture.h"
 #include "tests/support/fake_dialogs.h"
 
@@ -89,6 +90,21 @@ TEST_F(PimRules, TakeTheCompanionOnlyWhereItIs) {
   EXPECT_EQ(dialogs.shown.size(), 1u);
   EXPECT_EQ(program().Value(), 4u);
   EXPECT_EQ(page.Enabled(1202, 1209), (Ids{1206, 1207, 1209}));
+}
+
+class IconRules : public PageFixture {};
+
+TEST_F(IconRules, StoreAnIconAtOnceAndNothingWhenThePageCloses) {
+  CalendarSettings& s = store.calendar;
+  s.ApptLeftAlignIcon1.Set(3);  // which no strip offers
+  FakeView page(std::make_unique<IconPage>(context));
+  page.ChooseIcons(IconPage::kSetStrip, 9);
+  EXPECT_EQ(s.ClrApptRightIcons.Value(), 9u);
+  EXPECT_EQ(page.repaints, 1);
+  s.ClrApptRightIcons.Set(5);
+  page.Close();
+  EXPECT_EQ(s.ClrApptRightIcons.Value(), 5u);
+  EXPECT_EQ(s.ApptLeftAlignIcon1.Value(), 3u);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "pages/windows/rules_page.h"
 #include "resources/text/text_ids.h"
+#include "tests/pages/icon_page.h"
 #include "tests/pages/page_host.h"
 
 namespace tidewell {
@@ -53,9 +54,9 @@ class SampleRules final : public PageRules {
 
 class TabBodies : public PageHost {
  protected:
-  void SetUp() override {
-    auto page =
-        std::make_unique<RulesPage>(context, std::make_unique<SampleRules>(context, heard_));
+  void SetUp() override { OpenPage(std::make_unique<SampleRules>(context, heard_)); }
+  void OpenPage(std::unique_ptr<PageRules> rules) {
+    auto page = std::make_unique<RulesPage>(context, std::move(rules));
     ASSERT_TRUE(page->Create(host_.Get(), L"SampleWin", L"Sample"));
     page_ = std::move(page);
   }
@@ -122,6 +123,47 @@ TEST_F(TabBodies, ItemsAreTickedMovedAndToldOfAndAMissingControlStoresNothing) {
   EXPECT_EQ(store.messages.MsgsBreakLineStyle.Value(), 2u);
   const std::vector<ListLine> lines{{L"Two", 2, true}, {L"One", 1, true}};
   EXPECT_EQ(SampleRules::lines, lines);
+}
+
+class IconTab : public TabBodies {
+ protected:
+  static constexpr RECT kRoom{0, 58, 240, 100};
+
+  void SetUp() override {
+    store.calendar.ClrApptRightIcons.Set(0x405);
+    OpenPage(std::make_unique<IconPage>(context));
+    PumpMessages();
+  }
+};
+
+TEST_F(IconTab, StoresWhatIsTappedAtOnceAndPaintsTheRoomBelow) {
+  CalendarSettings& s = store.calendar;
+  const HWND strip = Control(IconPage::kSetStrip);
+  EXPECT_EQ(Place(strip).left, 100);
+  EXPECT_EQ(Place(strip).top, 31);
+  EXPECT_EQ(TextOfControl(IconPage::kSet), L"Category");
+  EXPECT_EQ(Screenshot(page_->Window()).At(0, 58), 0x405u);
+  SendMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 4));
+  SendMessageW(strip, WM_LBUTTONUP, 0, MAKELPARAM(20, 4));
+  EXPECT_EQ(s.ClrApptRightIcons.Value(), 0x407u);
+  RECT dirty{};
+  GetUpdateRect(page_->Window(), &dirty, FALSE);
+  EXPECT_TRUE(EqualRect(&dirty, &kRoom)) << "and only it";
+  SendMessageW(Control(IconPage::kFirstStrip), WM_COMMAND, 1146, 0);
+  EXPECT_EQ(s.ApptLeftAlignIcon1.Value(), 4u);
+  PumpMessages();
+  const Screenshot shown(page_->Window());
+  EXPECT_EQ(shown.At(239, 58), 0x407u);
+  EXPECT_EQ(shown.At(0, 99), 0x407u);
+  EXPECT_EQ(shown.At(0, 57), RGB(255, 255, 255));
+  EXPECT_EQ(shown.At(0, 100), RGB(255, 255, 255));
+}
+
+TEST_F(IconTab, IsWorkedByKeys) {
+  EXPECT_EQ(FocusedId(), IconPage::kFirstStrip);
+  for (const WPARAM key : {VK_TAB, VK_DOWN, VK_RIGHT, VK_SPACE}) Press(key);
+  EXPECT_EQ(FocusedId(), IconPage::kSetStrip);
+  EXPECT_EQ(store.calendar.ClrApptRightIcons.Value(), 0x407u);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // The controls of a settings page: how each kind is made, and what is done with them by id.
+#include <algorithm>
 #include <array>
 
+#include "pages/icon_layout.h"
 #include "pages/windows/list_lines.h"
 #include "pages/windows/settings_page.h"
 #include "platform/text.h"
@@ -166,6 +168,37 @@ RowPlace SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const 
   return row;
 }
 
+RowPlace SettingsPage::AddTwoRowPicker(const TwoRowPicker& picker, int y) {
+  FontMeasure measure(window_, TextFont());
+  RowPlace placed = PlaceTwoRowPicker(Metrics(measure), picker, y);
+  auto place = placed.controls.begin();
+  for (const std::vector<Row>* line : {&picker.upper, &picker.lower}) {
+    for (const Row& row : *line) {
+      const Rect& label = place++->rect;
+      MakeControl(WC_STATICW, SS_RIGHT, row.labelId,
+                  FitWords(measure, Text(row.textId), label.width), label);
+      AddStrip(row, place++->rect);
+    }
+  }
+  return placed;
+}
+
+void SettingsPage::AddStrip(const Row& row, const Rect& place) {
+  const auto mode = row.kind == RowKind::kIcon ? MarkerMode::kOne : MarkerMode::kMany;
+  strips_.push_back(std::make_unique<IconMarker>(
+      window_, POINT{place.left, place.top}, row.controlId, row.controlId,
+      IconMarkerModel(mode, row.icons, StateOf(row).data, context_.language), context_.icons,
+      Scale()));
+  navigation_.Add(strips_.back()->Window(), ControlKind::kStrip);
+}
+
+// Null for a control that is no strip.
+IconMarker* SettingsPage::FindStrip(HWND control) const {
+  const auto found = std::find_if(strips_.begin(), strips_.end(),
+                                  [&](const auto& strip) { return strip->Window() == control; });
+  return found == strips_.end() ? nullptr : found->get();
+}
+
 void SettingsPage::AddList(int id, std::span<const int> itemIds, int yOffset) {
   const RECT client = ClientArea(window_);
   const HWND list = AddListView(id, PlaceList(Scale(), client.right, client.bottom, yOffset));
@@ -246,6 +279,8 @@ ControlState SettingsPage::State(int id) const {
       state.data = static_cast<std::uint32_t>(
           Send(id, CB_GETITEMDATA, static_cast<WPARAM>(state.selection)));
     }
+  } else if (const IconMarker* strip = FindStrip(Control(id))) {
+    state.data = strip->Model().Value();
   }
   return state;
 }
@@ -256,6 +291,8 @@ void SettingsPage::SetState(int id, const ControlState& state) const {
     Send(id, BM_SETCHECK, state.checked);
   } else if (IsOfClass(control, WC_COMBOBOXW) && !IsEditable(control)) {
     Send(id, CB_SETCURSEL, static_cast<WPARAM>(state.selection));
+  } else if (IconMarker* strip = FindStrip(control)) {
+    strip->SetValue(state.data);
   } else {
     SetTextOfControl(id, state.text);
     ShowEndOfPath(id);

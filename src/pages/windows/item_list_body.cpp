@@ -8,8 +8,9 @@
 
 namespace tidewell {
 
-ItemListBody::ItemListBody(SettingsPage& page, Raise raise, const ItemList& list)
-    : TabBody(page, std::move(raise)), list_(list) {}
+ItemListBody::ItemListBody(SettingsPage& page, Raise raise, const PaintedRoom& room,
+                           const ItemList& list)
+    : TabBody(page, std::move(raise), room), list_(list) {}
 
 void ItemListBody::Build() {
   const HWND list = Page().AddListView(list_.listId, {});

@@ -10,7 +10,7 @@ namespace tidewell {
 
 class ItemListBody final : public TabBody {
  public:
-  ItemListBody(SettingsPage& page, Raise raise, const ItemList& list);
+  ItemListBody(SettingsPage& page, Raise raise, const PaintedRoom& room, const ItemList& list);
 
   void Build() override;
   void Show(int showCommand) override;

@@ -127,6 +127,7 @@ bool KeyNavigation::OnArrow(const Entry& entry, int direction, bool vertical) {
       break;
     case ControlKind::kEdit:
     case ControlKind::kTabs:
+    case ControlKind::kStrip:
       if (!vertical) return false;
       break;
     case ControlKind::kButton:
@@ -160,6 +161,7 @@ bool KeyNavigation::OnAction(const Entry& entry, bool isSpace) {
       Walk(entry.control, 1);
       return true;
     case ControlKind::kRows:
+    case ControlKind::kStrip:
       return false;
   }
   return false;
@@ -182,7 +184,7 @@ bool KeyNavigation::MarksItself(HWND control) const {
   return std::any_of(entries_.begin(), entries_.end(), [&](const Entry& entry) {
     return entry.control == control &&
            (entry.kind == ControlKind::kList || entry.kind == ControlKind::kRows ||
-            entry.kind == ControlKind::kTabs);
+            entry.kind == ControlKind::kTabs || entry.kind == ControlKind::kStrip);
   });
 }
 

@@ -12,7 +12,16 @@
 
 namespace tidewell {
 
-enum class ControlKind : std::uint8_t { kButton, kCheck, kList, kNumber, kEdit, kRows, kTabs };
+enum class ControlKind : std::uint8_t {
+  kButton,
+  kCheck,
+  kList,
+  kNumber,
+  kEdit,
+  kRows,
+  kTabs,
+  kStrip
+};
 
 // What the keys tell the page whose controls they walk through.
 class NavigationOwner {
@@ -37,7 +46,7 @@ class KeyNavigation {
   // The focus goes to the first usable control, to `preferred` when that is one.
   void FocusFirst(HWND preferred = nullptr);
   bool CanFocus(HWND control) const;
-  // Whether the control itself shows that it has the focus: lists and tabs do.
+  // Whether the control itself shows that it has the focus: lists, tabs and strips do.
   bool MarksItself(HWND control) const;
 
  private:

@@ -14,8 +14,9 @@ constexpr DWORD kTipStyle = 0x2000;  // the shell's own
 
 }  // namespace
 
-OptionListBody::OptionListBody(SettingsPage& page, Raise raise, const OptionList& list)
-    : TabBody(page, std::move(raise)), list_(list) {}
+OptionListBody::OptionListBody(SettingsPage& page, Raise raise, const PaintedRoom& room,
+                               const OptionList& list)
+    : TabBody(page, std::move(raise), room), list_(list) {}
 
 void OptionListBody::Build() {
   std::vector<int> lines;
@@ -130,6 +131,9 @@ int OptionListBody::ControlOf(const Option& option) const {
       return e.textId;
     case RowKind::kOrder:
       return e.orderId;
+    case RowKind::kIcon:
+    case RowKind::kIcons:
+      break;  // no option
   }
   return 0;
 }

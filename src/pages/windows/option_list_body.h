@@ -9,7 +9,7 @@ namespace tidewell {
 
 class OptionListBody final : public TabBody {
  public:
-  OptionListBody(SettingsPage& page, Raise raise, const OptionList& list);
+  OptionListBody(SettingsPage& page, Raise raise, const PaintedRoom& room, const OptionList& list);
 
   void Build() override;
   // Hidden, it stores and leaves its selected option.

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "pages/windows/list_lines.h"
+#include "preview/windows/gdi_canvas.h"
+#include "ui/windows/look.h"
 
 namespace tidewell {
 
@@ -14,6 +16,10 @@ namespace {
 SIZE ClientSize(HWND window) {
   const RECT client = ClientArea(window);
   return {client.right, client.bottom};
+}
+
+RECT ToSystem(const Rect& rect) {
+  return {rect.left, rect.top, rect.Right(), rect.Bottom()};
 }
 
 // What a control's notification means; nothing for those that mean nothing to a page.
@@ -69,6 +75,7 @@ void RulesPage::BuildTab(int tab) {
 void RulesPage::ShowTab(HWND, int showCommand) {
   BuildTab(SelectedTab());
   SelectedBody().Show(showCommand);
+  Repaint();
   if (showCommand != SW_HIDE) rules_->OnShown(*this, SelectedTab());
 }
 
@@ -154,9 +161,41 @@ LRESULT RulesPage::OnOther(HWND window, UINT message, WPARAM wParam, LPARAM lPar
   }
 }
 
+LRESULT RulesPage::OnPreviewMessage1(HWND, WPARAM, LPARAM lParam) {
+  return OnIconChosen(static_cast<int>(lParam));
+}
+
+LRESULT RulesPage::OnPreviewMessage2(HWND, WPARAM, LPARAM lParam) {
+  return OnIconChosen(static_cast<int>(lParam));
+}
+
+// Stored at once, so that a preview shows it.
+LRESULT RulesPage::OnIconChosen(int id) {
+  for (const Row* row : tabs_[static_cast<std::size_t>(SelectedTab())].Rows()) {
+    if (row->controlId == id) Store(*row, State(id));
+  }
+  Tell({id, PageEventKind::kChosen});
+  return 0;
+}
+
+// The room gets there in one block, and nothing else is painted below it.
 void RulesPage::OnEraseBackground(HWND window, HDC dc) {
+  const RECT room = ToSystem(SelectedBody().PlaceOfRoom());
+  const int state = SaveDC(dc);
+  if (room.bottom > room.top) {
+    PaintRoom(dc, room);
+    ExcludeClipRect(dc, room.left, room.top, room.right, room.bottom);
+  }
   SettingsPage::OnEraseBackground(window, dc);
+  RestoreDC(dc, state);
   SelectedBody().PaintBackground(dc);
+}
+
+void RulesPage::PaintRoom(HDC dc, const RECT& place) {
+  const BufferedArea area(dc, place);
+  FillPlain(area.Dc(), area.Area(), kPaper);
+  GdiCanvas canvas(area.Dc());
+  rules_->PaintRoom(canvas, area.Area().right, area.Area().bottom, SelectedTab());
 }
 
 void RulesPage::OnFocusMoved(HWND control) {
@@ -207,7 +246,8 @@ void RulesPage::MoveLine(int listId, bool up) {
 }
 
 void RulesPage::Repaint() {
-  InvalidateRect(Window(), nullptr, TRUE);
+  const RECT room = ToSystem(SelectedBody().PlaceOfRoom());
+  InvalidateRect(Window(), &room, TRUE);
 }
 
 }  // namespace tidewell

@@ -32,6 +32,8 @@ class RulesPage final : public SettingsPage, private PageView {
   LRESULT OnCommand(HWND window, WPARAM wParam, LPARAM lParam) override;
   LRESULT OnNotify(HWND window, NMHDR* header) override;
   LRESULT OnOther(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+  LRESULT OnPreviewMessage1(HWND window, WPARAM wParam, LPARAM lParam) override;
+  LRESULT OnPreviewMessage2(HWND window, WPARAM wParam, LPARAM lParam) override;
   void OnEraseBackground(HWND window, HDC dc) override;
   void OnFocusMoved(HWND control) override;
   bool OnPageKey(int direction) override;
@@ -53,6 +55,8 @@ class RulesPage final : public SettingsPage, private PageView {
   // Tells the rules, and asks them what can be used now.
   void Tell(const PageEvent& event);
   void OnItemChanged(const NMLISTVIEW& change);
+  LRESULT OnIconChosen(int id);
+  void PaintRoom(HDC dc, const RECT& place);
 
   std::unique_ptr<PageRules> rules_;
   PageTabs tabs_;

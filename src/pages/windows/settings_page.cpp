@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "ui/windows/icon_marker.h"
 #include "ui/windows/look.h"
 #include "win32/common_controls.h"
 #include "win32/tahoma.h"

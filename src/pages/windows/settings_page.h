@@ -11,11 +11,13 @@
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "pages/page_layout.h"
 #include "pages/page_rules.h"
 #include "pages/windows/key_navigation.h"
 #include "pages/windows/page_window.h"
+#include "ui/windows/icon_marker.h"
 #include "win32/gdi.h"
 
 namespace tidewell {
@@ -46,6 +48,7 @@ class SettingsPage : public PageWindow, private NavigationOwner {
                       const std::wstring& path, int y);
   RowPlace AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path, int y);
   void AddList(int id, std::span<const int> itemIds, int yOffset);
+  RowPlace AddTwoRowPicker(const TwoRowPicker& picker, int y);
 
   void DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const;
   // Every control of the ids from `firstId` to `lastId` that the page has.
@@ -121,6 +124,8 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   RECT FocusFrame(HWND control) const;
   HWND MakeControl(const wchar_t* windowClass, DWORD style, int id, const std::wstring& text,
                    const Rect& place);
+  void AddStrip(const Row& row, const Rect& place);
+  IconMarker* FindStrip(HWND control) const;
   void AddPathControls(const std::wstring& path, std::span<const ControlPlace> places);
   LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   std::wstring TextOfControl(int id) const;
@@ -134,6 +139,7 @@ class SettingsPage : public PageWindow, private NavigationOwner {
 
   PageContext& context_;
   Font font_;
+  std::vector<std::unique_ptr<IconMarker>> strips_;
   KeyNavigation navigation_{*this};
   HWND focused_ = nullptr;      // the control that has the focus now
   HWND lastFocused_ = nullptr;  // or had it last

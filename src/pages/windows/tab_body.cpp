@@ -1,11 +1,16 @@
 #include "pages/windows/tab_body.h"
 
+#include "pages/windows/icon_picker_body.h"
 #include "pages/windows/item_list_body.h"
 #include "pages/windows/option_list_body.h"
 #include "pages/windows/row_column_body.h"
 #include "ui/user_dialogs.h"
 
 namespace tidewell {
+
+Rect TabBody::PlaceOfRoom() const {
+  return {0, 0, static_cast<int>(ClientArea(page_.Window()).right), Scale().ScaleY(room_.height)};
+}
 
 bool TabBody::RunPathCommand(int id, int pathId, int clearId, int browseId,
                              const Browse& browse) const {
@@ -30,23 +35,27 @@ namespace {
 
 struct BodyMaker {
   std::unique_ptr<TabBody> operator()(const RowColumn& column) {
-    return std::make_unique<RowColumnBody>(page, std::move(raise), column);
+    return std::make_unique<RowColumnBody>(page, std::move(raise), room, column);
   }
   std::unique_ptr<TabBody> operator()(const OptionList& list) {
-    return std::make_unique<OptionListBody>(page, std::move(raise), list);
+    return std::make_unique<OptionListBody>(page, std::move(raise), room, list);
   }
   std::unique_ptr<TabBody> operator()(const ItemList& list) {
-    return std::make_unique<ItemListBody>(page, std::move(raise), list);
+    return std::make_unique<ItemListBody>(page, std::move(raise), room, list);
+  }
+  std::unique_ptr<TabBody> operator()(const IconPickers& pickers) {
+    return std::make_unique<IconPickerBody>(page, std::move(raise), room, pickers);
   }
 
   SettingsPage& page;
   TabBody::Raise raise;
+  const PaintedRoom& room;
 };
 
 }  // namespace
 
 std::unique_ptr<TabBody> MakeBody(const PageTab& tab, SettingsPage& page, TabBody::Raise raise) {
-  return std::visit(BodyMaker{page, std::move(raise)}, tab.body);
+  return std::visit(BodyMaker{page, std::move(raise), tab.room}, tab.body);
 }
 
 }  // namespace tidewell

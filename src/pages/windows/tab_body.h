@@ -16,7 +16,8 @@ class TabBody {
  public:
   using Raise = std::function<void(const PageEvent&)>;
 
-  TabBody(SettingsPage& page, Raise raise) : page_(page), raise_(std::move(raise)) {}
+  TabBody(SettingsPage& page, Raise raise, const PaintedRoom& room)
+      : page_(page), raise_(std::move(raise)), room_(room) {}
   TabBody(const TabBody&) = delete;
   TabBody& operator=(const TabBody&) = delete;
   virtual ~TabBody() = default;
@@ -40,10 +41,13 @@ class TabBody {
   virtual void OnWheel(int /*distance*/) {}
   virtual void OnPointer(UINT /*message*/, POINT /*point*/) {}
   virtual void PaintBackground(HDC /*dc*/) {}
+  // Where the page's rules paint, in pixels of the client area; as high as nothing for none.
+  virtual Rect PlaceOfRoom() const;
 
  protected:
   SettingsPage& Page() const { return page_; }
   const ScreenScale& Scale() const { return page_.Scale(); }
+  const PaintedRoom& Room() const { return room_; }
   void Tell(int id, PageEventKind kind) const { raise_({id, kind}); }
   // Clears a path or browses for one, where the command is that of one of the row's two buttons.
   bool RunPathCommand(int id, int pathId, int clearId, int browseId, const Browse& browse) const;
@@ -51,6 +55,7 @@ class TabBody {
  private:
   SettingsPage& page_;
   Raise raise_;
+  PaintedRoom room_;
 };
 
 // The body of a tab that the page keeps.

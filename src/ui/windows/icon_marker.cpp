@@ -18,6 +18,7 @@ constexpr UINT_PTR kHideNameTimer = 9980;
 constexpr unsigned kShowDelay = 350;   // milliseconds that the finger rests first
 constexpr unsigned kHideDelay = 3200;  // and after which the name goes by itself
 constexpr unsigned kAtOnce = 0;
+constexpr int kOwnSlot = 0;  // of the class's own bytes: the user data is left to a hook
 
 }  // namespace
 
@@ -27,6 +28,7 @@ IconMarker::IconMarker(HWND host, POINT place, LPARAM markerId, int controlId,
   const HINSTANCE instance = GetModuleHandleW(nullptr);
   WNDCLASSW windowClass{};
   windowClass.lpfnWndProc = WindowProc;
+  windowClass.cbWndExtra = sizeof(IconMarker*);
   windowClass.hInstance = instance;
   windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
   windowClass.lpszClassName = kIconMarkerClass;
@@ -59,7 +61,8 @@ void IconMarker::SetDisabled(std::uint32_t value) {
 }
 
 LRESULT CALLBACK IconMarker::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  IconMarker* marker = OwnerOf(&IconMarker::window_, window, message, lParam);
+  IconMarker* marker =
+      OwnerOf(&IconMarker::window_, window, message, lParam, WM_NCCREATE, kOwnSlot);
   return marker ? marker->Handle(message, wParam, lParam)
                 : DefWindowProcW(window, message, wParam, lParam);
 }
@@ -99,7 +102,7 @@ LRESULT IconMarker::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       OnMenuCommand(LOWORD(wParam));
       return 0;
     case WM_NCDESTROY:
-      return LetGo(window_, wParam, lParam);
+      return LetGo(window_, wParam, lParam, kOwnSlot);
     default:
       return DefWindowProcW(window_, message, wParam, lParam);
   }
