@@ -14,8 +14,6 @@ namespace tidewell {
 
 namespace {
 
-constexpr UINT_PTR kSubclassId = 1;
-
 constexpr COLORREF kFocusInk = RGB(30, 90, 160);
 
 // Design lengths.
@@ -49,22 +47,9 @@ HFONT FontOf(HWND window) {
 bool TabRow::Attend(HWND window, const CREATESTRUCTW& created) {
   if (IsName(created.lpszClass, UPDOWN_CLASSW) && IsTabRow(created.hwndParent)) return false;
   if (IsName(created.lpszClass, WC_TABCONTROLW) && (created.style & TCS_BOTTOM)) {
-    auto row = std::unique_ptr<TabRow>(new TabRow(window));
-    if (SetWindowSubclass(window, WindowProc, kSubclassId,
-                          reinterpret_cast<DWORD_PTR>(row.get()))) {
-      row.release();  // the window's, until its last message
-    }
+    Attach(window, std::make_unique<TabRow>());
   }
   return true;
-}
-
-LRESULT CALLBACK TabRow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                    UINT_PTR id, DWORD_PTR row) {
-  auto* tabRow = reinterpret_cast<TabRow*>(row);
-  if (message != WM_NCDESTROY) return tabRow->Handle(message, wParam, lParam);
-  const std::unique_ptr<TabRow> last(tabRow);
-  RemoveWindowSubclass(window, WindowProc, id);
-  return DefSubclassProc(window, message, wParam, lParam);
 }
 
 LRESULT TabRow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -93,7 +78,7 @@ LRESULT TabRow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 // What the system's control does itself, and what changes with it here.
 LRESULT TabRow::AfterSystem(UINT message, WPARAM wParam, LPARAM lParam) {
-  const LRESULT result = DefSubclassProc(window_, message, wParam, lParam);
+  const LRESULT result = PassOn(message, wParam, lParam);
   switch (message) {
     case WM_SIZE:
     case WM_SETFONT:
@@ -109,7 +94,7 @@ LRESULT TabRow::AfterSystem(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-      InvalidateRect(window_, nullptr, FALSE);
+      InvalidateRect(Window(), nullptr, FALSE);
       break;
   }
   return result;
@@ -134,22 +119,22 @@ void TabRow::OnPointerDown(POINT point) {
 
 void TabRow::Select(int index) {
   if (index == SelectedTab()) {
-    SetFocus(window_);
+    SetFocus(Window());
     return;
   }
   const auto tell = [&](UINT code) {
-    NMHDR header{window_, static_cast<UINT_PTR>(GetDlgCtrlID(window_)), code};
-    return SendMessageW(GetParent(window_), WM_NOTIFY, header.idFrom,
+    NMHDR header{Window(), static_cast<UINT_PTR>(GetDlgCtrlID(Window())), code};
+    return SendMessageW(GetParent(Window()), WM_NOTIFY, header.idFrom,
                         reinterpret_cast<LPARAM>(&header));
   };
   if (tell(TCN_SELCHANGING)) return;
-  SendMessageW(window_, TCM_SETCURSEL, static_cast<WPARAM>(index), 0);
+  SendMessageW(Window(), TCM_SETCURSEL, static_cast<WPARAM>(index), 0);
   tell(TCN_SELCHANGE);
 }
 
 void TabRow::Scroll(int first) {
   first_ = std::clamp(first, 0, LastFirst());
-  InvalidateRect(window_, nullptr, FALSE);
+  InvalidateRect(Window(), nullptr, FALSE);
 }
 
 void TabRow::ShowSelected() {
@@ -163,9 +148,9 @@ void TabRow::ShowSelected() {
 
 void TabRow::Measure() {
   widths_.clear();
-  const WindowDc dc(window_);
-  const Selected font(dc.Dc(), FontOf(window_));
-  const auto count = static_cast<int>(SendMessageW(window_, TCM_GETITEMCOUNT, 0, 0));
+  const WindowDc dc(Window());
+  const Selected font(dc.Dc(), FontOf(Window()));
+  const auto count = static_cast<int>(SendMessageW(Window(), TCM_GETITEMCOUNT, 0, 0));
   for (int i = 0; i < count; ++i) {
     const std::wstring title = TitleOf(i);
     SIZE size{};
@@ -173,7 +158,7 @@ void TabRow::Measure() {
     widths_.push_back(size.cx);
   }
   if (count == 0) return;
-  const LONG spare = ClientArea(window_).right - Scaled(kStart) - Length(0, count);
+  const LONG spare = ClientArea(Window()).right - Scaled(kStart) - Length(0, count);
   const LONG padding =
       std::clamp<LONG>(spare / (2 * count), Scaled(kLeastPadding), Scaled(kPadding));
   for (int& width : widths_) width += 2 * padding;
@@ -181,7 +166,7 @@ void TabRow::Measure() {
 }
 
 int TabRow::SelectedTab() const {
-  return static_cast<int>(SendMessageW(window_, TCM_GETCURSEL, 0, 0));
+  return static_cast<int>(SendMessageW(Window(), TCM_GETCURSEL, 0, 0));
 }
 
 std::wstring TabRow::TitleOf(int index) const {
@@ -190,7 +175,7 @@ std::wstring TabRow::TitleOf(int index) const {
   item.mask = TCIF_TEXT;
   item.pszText = text;
   item.cchTextMax = ARRAYSIZE(text);
-  SendMessageW(window_, TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+  SendMessageW(Window(), TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
   return item.pszText;
 }
 
@@ -199,18 +184,18 @@ int TabRow::Length(int from, int to) const {
 }
 
 bool TabRow::Scrolls() const {
-  return Scaled(kStart) + Length(0, Count()) > ClientArea(window_).right;
+  return Scaled(kStart) + Length(0, Count()) > ClientArea(Window()).right;
 }
 
 RECT TabRow::TabsArea() const {
-  RECT area = ClientArea(window_);
+  RECT area = ClientArea(Window());
   area.left += Scaled(kStart);
   if (Scrolls()) area.right = ArrowArea(false).left;
   return area;
 }
 
 RECT TabRow::ArrowArea(bool right) const {
-  RECT area = ClientArea(window_);
+  RECT area = ClientArea(Window());
   const int width = Scrolls() ? Scaled(kArrowWidth) : 0;
   area.left = area.right - (right ? width : 2 * width);
   area.right = area.left + width;
@@ -232,12 +217,12 @@ int TabRow::LastFirst() const {
 }
 
 void TabRow::OnPaint() {
-  const BufferedPaint paint(window_);
+  const BufferedPaint paint(Window());
   const HDC dc = paint.Dc();
   const RECT& client = paint.Client();
   FillPlain(dc, client, kFlatPaper);
   FillPlain(dc, {0, 0, client.right, Scaled(1)}, kFlatEdge);
-  const Selected font(dc, FontOf(window_));
+  const Selected font(dc, FontOf(Window()));
   SetBkMode(dc, TRANSPARENT);
   SaveDC(dc);
   const RECT tabs = TabsArea();
@@ -252,7 +237,7 @@ void TabRow::DrawTab(HDC dc, int index) const {
   RECT area = TabArea(index);
   const int line = Scaled(1);
   const bool isSelected = index == SelectedTab();
-  const bool hasFocus = isSelected && GetFocus() == window_;
+  const bool hasFocus = isSelected && GetFocus() == Window();
   if (isSelected) FillPlain(dc, area, kBoxPaper);
   if (hasFocus) {
     FillPlain(dc, {area.left, area.bottom - Scaled(kFocusBarHeight), area.right, area.bottom},

@@ -8,19 +8,18 @@
 #include <string>
 #include <vector>
 
+#include "platform/desktop/subclass.h"
+
 namespace tidewell {
 
-class TabRow {
+class TabRow final : public Subclass {
  public:
   // For a window that is being created. False when it must not be: the small arrows of a row of
   // tabs.
   static bool Attend(HWND window, const CREATESTRUCTW& created);
 
  private:
-  explicit TabRow(HWND window) : window_(window) {}
-  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                     UINT_PTR id, DWORD_PTR row);
-  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
   LRESULT AfterSystem(UINT message, WPARAM wParam, LPARAM lParam);
   void OnPointerDown(POINT point);
   void OnPaint();
@@ -46,7 +45,6 @@ class TabRow {
   // The first tab that is shown when the row is scrolled to its end.
   int LastFirst() const;
 
-  HWND window_;
   std::vector<int> widths_;  // of each tab, in pixels
   int first_ = 0;            // the leftmost tab that is shown
 };
