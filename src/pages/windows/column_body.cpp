@@ -35,8 +35,7 @@ void ColumnBody::Show(int showCommand) {
 
 // Everything stands anew for the client's size; what was typed, chosen and focused stays.
 void ColumnBody::LayOut() {
-  FontMeasure measure(Page().Window(), Page().TextFont());
-  places_ = PlaceRows(Page().Metrics(measure), FirstRowTop());
+  places_ = PlaceRows(Page().Metrics(), FirstRowTop());
   FitScroll();
   MoveControls(0);
 }

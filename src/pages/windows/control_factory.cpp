@@ -58,18 +58,42 @@ bool IsEditable(HWND combo) {
   return (GetWindowLongW(combo, GWL_STYLE) & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
 }
 
+std::wstring TextOf(HWND control) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control)), L'\0');
+  GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1);
+  return text;
+}
+
+void AddChoices(HWND combo, const Choices& choices, const Language& language) {
+  for (const Choice& choice : choices) {
+    const std::wstring text = choice.TextIn(language);
+    const LRESULT line =
+        SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    if (choice.data) {
+      SendMessageW(combo, CB_SETITEMDATA, static_cast<WPARAM>(line), choice.data);
+    }
+  }
+}
+
+// A path that is longer than its field is told by its end.
+void ShowEnd(HWND path) {
+  const int end = GetWindowTextLengthW(path);
+  SendMessageW(path, EM_SETSEL, static_cast<WPARAM>(end), end);
+  SendMessageW(path, EM_SCROLLCARET, 0, 0);
+}
+
 }  // namespace
 
 int FontMeasure::Width(const std::wstring& text) {
   SIZE size{};
-  GetTextExtentExPointW(dc_.Dc(), text.c_str(), static_cast<int>(text.size()), 0, nullptr, nullptr,
-                        &size);
+  GetTextExtentExPointW(surface_.Dc(), text.c_str(), static_cast<int>(text.size()), 0, nullptr,
+                        nullptr, &size);
   return size.cx;
 }
 
 int FontMeasure::Height(const std::wstring& text, int width) {
   RECT area{0, 0, width, 0};
-  return DrawTextW(dc_.Dc(), text.c_str(), static_cast<int>(text.size()), &area,
+  return DrawTextW(surface_.Dc(), text.c_str(), static_cast<int>(text.size()), &area,
                    DT_CALCRECT | DT_WORDBREAK);
 }
 
@@ -89,8 +113,10 @@ void SettingsPage::AddLabel(int id, int textId, const Rect& place, DWORD style) 
   MakeControl(WC_STATICW, style, id, Text(textId), place);
 }
 
-void SettingsPage::AddEdit(int id, const std::wstring& text, const Rect& place, DWORD style) {
-  navigation_.Add(MakeControl(WC_EDITW, kEditStyle | style, id, text, place), ControlKind::kEdit);
+HWND SettingsPage::AddEdit(int id, const std::wstring& text, const Rect& place, DWORD style) {
+  const HWND edit = MakeControl(WC_EDITW, kEditStyle | style, id, text, place);
+  navigation_.Add(edit, ControlKind::kEdit);
+  return edit;
 }
 
 void SettingsPage::AddButton(int id, int textId, const Rect& place) {
@@ -100,22 +126,23 @@ void SettingsPage::AddButton(int id, int textId, const Rect& place) {
 
 // The field, the button that clears it and the one that browses.
 void SettingsPage::AddPathControls(const std::wstring& path, std::span<const ControlPlace> places) {
-  AddEdit(places[0].id, path, places[0].rect, ES_READONLY);
-  ShowEndOfPath(places[0].id);
+  ShowEnd(AddEdit(places[0].id, path, places[0].rect, ES_READONLY));
   AddButton(places[1].id, IDS_CLEAR, places[1].rect);
   AddButton(places[2].id, IDS_BROWSE, places[2].rect);
 }
 
-void SettingsPage::AddCheck(int id, const std::wstring& text, bool wraps, const Rect& place) {
-  navigation_.Add(
-      MakeControl(WC_BUTTONW, kCheckStyle | (wraps ? BS_MULTILINE : 0), id, text, place),
-      ControlKind::kCheck);
+HWND SettingsPage::AddCheck(int id, const std::wstring& text, bool wraps, const Rect& place) {
+  const DWORD style = kCheckStyle | (wraps ? BS_MULTILINE : 0);
+  const HWND check = MakeControl(WC_BUTTONW, style, id, text, place);
+  navigation_.Add(check, ControlKind::kCheck);
+  return check;
 }
 
-void SettingsPage::AddCombo(int id, bool editable, const Rect& place) {
+HWND SettingsPage::AddCombo(int id, bool editable, const Rect& place) {
   const DWORD style = kComboStyle | (editable ? CBS_DROPDOWN : CBS_DROPDOWNLIST);
-  navigation_.Add(MakeControl(WC_COMBOBOXW, style, id, {}, place),
-                  editable ? ControlKind::kNumber : ControlKind::kList);
+  const HWND combo = MakeControl(WC_COMBOBOXW, style, id, {}, place);
+  navigation_.Add(combo, editable ? ControlKind::kNumber : ControlKind::kList);
+  return combo;
 }
 
 HWND SettingsPage::AddListView(int id, const Rect& place) {
@@ -132,29 +159,27 @@ HWND SettingsPage::AddListView(int id, const Rect& place) {
 }
 
 RowPlace SettingsPage::AddCheckBox(int id, int textId, bool checked, int y) {
-  FontMeasure measure(window_, TextFont());
-  RowPlace row = PlaceCheckRow(Metrics(measure), id, Text(textId), y);
-  AddCheck(id, row.caption, row.wraps, row.controls[0].rect);
-  Send(id, BM_SETCHECK, checked);
+  RowPlace row = PlaceCheckRow(Metrics(), id, Text(textId), y);
+  const HWND check = AddCheck(id, row.caption, row.wraps, row.controls[0].rect);
+  SendMessageW(check, BM_SETCHECK, checked, 0);
   return row;
 }
 
 RowPlace SettingsPage::AddComboRow(int labelId, int comboId, int textId, const Choices& items,
                                    int selection, int y, bool editable) {
-  FontMeasure measure(window_, TextFont());
-  RowPlace row = PlaceComboRow(Metrics(measure), labelId, comboId, Text(textId), y);
+  RowPlace row = PlaceComboRow(Metrics(), labelId, comboId, Text(textId), y);
   MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
-  AddCombo(comboId, editable, row.controls[1].rect);
-  SetChoices(comboId, items);
-  if (std::ssize(items) > selection) Send(comboId, CB_SETCURSEL, static_cast<WPARAM>(selection));
+  const HWND combo = AddCombo(comboId, editable, row.controls[1].rect);
+  AddChoices(combo, items, context_.language);
+  if (std::ssize(items) > selection) {
+    SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(selection), 0);
+  }
   return row;
 }
 
 RowPlace SettingsPage::AddPathRow(int labelId, int editId, int clearId, int browseId, int textId,
                                   const std::wstring& path, int y) {
-  FontMeasure measure(window_, TextFont());
-  RowPlace row =
-      PlacePathRow(Metrics(measure), labelId, editId, clearId, browseId, Text(textId), y);
+  RowPlace row = PlacePathRow(Metrics(), labelId, editId, clearId, browseId, Text(textId), y);
   MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
   AddPathControls(path, std::span(row.controls).subspan(1));
   return row;
@@ -162,21 +187,19 @@ RowPlace SettingsPage::AddPathRow(int labelId, int editId, int clearId, int brow
 
 RowPlace SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path,
                                    int y) {
-  FontMeasure measure(window_, TextFont());
-  RowPlace row = PlacePathEdit(Metrics(measure), editId, clearId, browseId, y);
+  RowPlace row = PlacePathEdit(Metrics(), editId, clearId, browseId, y);
   AddPathControls(path, row.controls);
   return row;
 }
 
 RowPlace SettingsPage::AddTwoRowPicker(const TwoRowPicker& picker, int y) {
-  FontMeasure measure(window_, TextFont());
-  RowPlace placed = PlaceTwoRowPicker(Metrics(measure), picker, y);
+  RowPlace placed = PlaceTwoRowPicker(Metrics(), picker, y);
   auto place = placed.controls.begin();
   for (const std::vector<Row>* line : {&picker.upper, &picker.lower}) {
     for (const Row& row : *line) {
       const Rect& label = place++->rect;
       MakeControl(WC_STATICW, SS_RIGHT, row.labelId,
-                  FitWords(measure, Text(row.textId), label.width), label);
+                  FitWords(measure_, Text(row.textId), label.width), label);
       AddStrip(row, place++->rect);
     }
   }
@@ -252,34 +275,24 @@ void SettingsPage::Enable(std::span<const Enabling> rule) const {
   }
 }
 
-LRESULT SettingsPage::Send(int id, UINT message, WPARAM wParam, LPARAM lParam) const {
-  return SendMessageW(Control(id), message, wParam, lParam);
-}
-
-std::wstring SettingsPage::TextOfControl(int id) const {
-  const HWND control = Control(id);
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control)), L'\0');
-  GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1);
-  return text;
-}
-
 void SettingsPage::SetTextOfControl(int id, const std::wstring& text) const {
   SetWindowTextW(Control(id), text.c_str());
 }
 
 ControlState SettingsPage::State(int id) const {
   ControlState state;
-  if (!Control(id)) return state;
-  state.text = TextOfControl(id);
-  if (IsOfClass(Control(id), WC_BUTTONW)) {
-    state.checked = (Send(id, BM_GETCHECK) & 1) != 0;
-  } else if (IsOfClass(Control(id), WC_COMBOBOXW)) {
-    state.selection = static_cast<int>(Send(id, CB_GETCURSEL));
+  const HWND control = Control(id);
+  if (!control) return state;
+  state.text = TextOf(control);
+  if (IsOfClass(control, WC_BUTTONW)) {
+    state.checked = (SendMessageW(control, BM_GETCHECK, 0, 0) & 1) != 0;
+  } else if (IsOfClass(control, WC_COMBOBOXW)) {
+    state.selection = static_cast<int>(SendMessageW(control, CB_GETCURSEL, 0, 0));
     if (state.selection != CB_ERR) {
       state.data = static_cast<std::uint32_t>(
-          Send(id, CB_GETITEMDATA, static_cast<WPARAM>(state.selection)));
+          SendMessageW(control, CB_GETITEMDATA, static_cast<WPARAM>(state.selection), 0));
     }
-  } else if (const IconMarker* strip = FindStrip(Control(id))) {
+  } else if (const IconMarker* strip = FindStrip(control)) {
     state.data = strip->Model().Value();
   }
   return state;
@@ -288,31 +301,26 @@ ControlState SettingsPage::State(int id) const {
 void SettingsPage::SetState(int id, const ControlState& state) const {
   const HWND control = Control(id);
   if (IsOfClass(control, WC_BUTTONW)) {
-    Send(id, BM_SETCHECK, state.checked);
+    SendMessageW(control, BM_SETCHECK, state.checked, 0);
   } else if (IsOfClass(control, WC_COMBOBOXW) && !IsEditable(control)) {
-    Send(id, CB_SETCURSEL, static_cast<WPARAM>(state.selection));
+    SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(state.selection), 0);
   } else if (IconMarker* strip = FindStrip(control)) {
     strip->SetValue(state.data);
   } else {
-    SetTextOfControl(id, state.text);
+    SetWindowTextW(control, state.text.c_str());
     ShowEndOfPath(id);
   }
 }
 
 void SettingsPage::ShowEndOfPath(int id) const {
-  if (!(GetWindowLongW(Control(id), GWL_STYLE) & ES_READONLY)) return;
-  const int end = GetWindowTextLengthW(Control(id));
-  Send(id, EM_SETSEL, static_cast<WPARAM>(end), end);
-  Send(id, EM_SCROLLCARET);
+  const HWND path = Control(id);
+  if (GetWindowLongW(path, GWL_STYLE) & ES_READONLY) ShowEnd(path);
 }
 
 void SettingsPage::SetChoices(int id, const Choices& choices) const {
-  Send(id, CB_RESETCONTENT);
-  for (const Choice& choice : choices) {
-    const std::wstring text = choice.TextIn(Context().language);
-    const LRESULT line = Send(id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-    if (choice.data) Send(id, CB_SETITEMDATA, static_cast<WPARAM>(line), choice.data);
-  }
+  const HWND combo = Control(id);
+  SendMessageW(combo, CB_RESETCONTENT, 0, 0);
+  AddChoices(combo, choices, context_.language);
 }
 
 void SettingsPage::Place(int id, const Rect& place) const {

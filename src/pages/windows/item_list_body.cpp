@@ -34,8 +34,7 @@ void ItemListBody::Show(int showCommand) {
 }
 
 void ItemListBody::LayOut() {
-  FontMeasure measure(Page().Window(), Page().TextFont());
-  const PageMetrics metrics = Page().Metrics(measure);
+  const PageMetrics metrics = Page().Metrics();
   Page().Place(list_.listId, PlaceOf(metrics, list_.place));
   for (const ItemButton& button : list_.buttons) {
     Page().Place(button.id, PlaceOf(metrics, button.place));

@@ -22,8 +22,7 @@ void OptionListBody::Build() {
   std::vector<int> lines;
   for (const Option& option : list_.options) lines.push_back(option.lineTextId);
   Page().AddList(list_.listId, lines, kOptionListOffset);
-  FontMeasure measure(Page().Window(), Page().TextFont());
-  for (const ControlPlace& part : PlaceOptionEditor(Page().Metrics(measure), list_.editor)) {
+  for (const ControlPlace& part : PlaceOptionEditor(Page().Metrics(), list_.editor)) {
     if (!Page().Control(part.id)) BuildPart(part);
   }
 }
@@ -65,8 +64,7 @@ void OptionListBody::Store() {
 }
 
 void OptionListBody::LayOut() {
-  FontMeasure measure(Page().Window(), Page().TextFont());
-  const PageMetrics metrics = Page().Metrics(measure);
+  const PageMetrics metrics = Page().Metrics();
   for (const ControlPlace& part : PlaceOptionEditor(metrics, list_.editor)) {
     Page().Place(part.id, part.rect);
   }
@@ -111,8 +109,7 @@ void OptionListBody::ShowEditor(const Option& option) const {
 }
 
 void OptionListBody::HideEditor() const {
-  FontMeasure measure(Page().Window(), Page().TextFont());
-  for (const ControlPlace& part : PlaceOptionEditor(Page().Metrics(measure), list_.editor)) {
+  for (const ControlPlace& part : PlaceOptionEditor(Page().Metrics(), list_.editor)) {
     ShowWindow(Page().Control(part.id), SW_HIDE);
   }
 }

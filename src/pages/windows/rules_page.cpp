@@ -55,11 +55,13 @@ int RulesPage::GetTabTitleId(int index) const {
 void RulesPage::OnCreate(HWND window) {
   laidOut_ = ClientSize(window);
   BuildTab(0);
+  Enable(rules_->Enabled(*this));
 }
 
 // The user sees the first tab while the others are built: lists are slow to make.
 void RulesPage::OnPainted(HWND) {
   for (int tab = 0; tab < GetTabCount(); ++tab) BuildTab(tab);
+  Enable(rules_->Enabled(*this));
 }
 
 void RulesPage::BuildTab(int tab) {
@@ -69,7 +71,6 @@ void RulesPage::BuildTab(int tab) {
   place.body->Build();
   rules_->OnBuilt(*this, tab);
   silent_ = wasSilent;
-  Enable(rules_->Enabled(*this));
 }
 
 void RulesPage::ShowTab(HWND, int showCommand) {

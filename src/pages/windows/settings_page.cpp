@@ -288,9 +288,9 @@ int SettingsPage::ViewHeight() const {
   return tabs_ ? TabRowPlace().top : static_cast<int>(ClientArea(window_).bottom);
 }
 
-PageMetrics SettingsPage::Metrics(TextMeasure& measure) const {
+PageMetrics SettingsPage::Metrics() {
   const RECT client = ClientArea(window_);
-  return {Scale(), client.right, client.bottom, measure};
+  return {Scale(), client.right, client.bottom, measure_};
 }
 
 }  // namespace tidewell

@@ -22,6 +22,20 @@
 
 namespace tidewell {
 
+// A control's text is drawn in the page's font, so it is measured in it; in a device context that
+// is kept, because getting a window's takes longer than measuring.
+class FontMeasure final : public TextMeasure {
+ public:
+  explicit FontMeasure(HFONT font)
+      : surface_(WindowDc(nullptr).Dc(), 1, 1), font_(surface_.Dc(), font) {}
+  int Width(const std::wstring& text) override;
+  int Height(const std::wstring& text, int width) override;
+
+ private:
+  MemoryBitmap surface_;
+  Selected font_;
+};
+
 class SettingsPage : public PageWindow, private NavigationOwner {
  public:
   explicit SettingsPage(PageContext& context);
@@ -36,10 +50,10 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   // The control factory. Controls begin hidden; places and `y` are in pixels, an id of 0 in place
   // of a text's leaves a control empty. A row returns where it stands, its height among it.
   void AddLabel(int id, int textId, const Rect& place, DWORD style);
-  void AddEdit(int id, const std::wstring& text, const Rect& place, DWORD style = 0);
+  HWND AddEdit(int id, const std::wstring& text, const Rect& place, DWORD style = 0);
   void AddButton(int id, int textId, const Rect& place);
-  void AddCheck(int id, const std::wstring& text, bool wraps, const Rect& place);
-  void AddCombo(int id, bool editable, const Rect& place);
+  HWND AddCheck(int id, const std::wstring& text, bool wraps, const Rect& place);
+  HWND AddCombo(int id, bool editable, const Rect& place);
   HWND AddListView(int id, const Rect& place);
   RowPlace AddCheckBox(int id, int textId, bool checked, int y);
   RowPlace AddComboRow(int labelId, int comboId, int textId, const Choices& items, int selection,
@@ -74,7 +88,7 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   const ScreenScale& Scale() const { return context_.scale; }
   HFONT TextFont() const { return font_.Get(); }
   // The client area, and text measured in the page's font.
-  PageMetrics Metrics(TextMeasure& measure) const;
+  PageMetrics Metrics();
   // Of the client area above the row of tabs.
   int ViewHeight() const;
 
@@ -127,8 +141,6 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   void AddStrip(const Row& row, const Rect& place);
   IconMarker* FindStrip(HWND control) const;
   void AddPathControls(const std::wstring& path, std::span<const ControlPlace> places);
-  LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-  std::wstring TextOfControl(int id) const;
 
   HWND window_ = nullptr;
   HWND menuBar_ = nullptr;
@@ -139,22 +151,11 @@ class SettingsPage : public PageWindow, private NavigationOwner {
 
   PageContext& context_;
   Font font_;
+  FontMeasure measure_{font_.Get()};
   std::vector<std::unique_ptr<IconMarker>> strips_;
   KeyNavigation navigation_{*this};
   HWND focused_ = nullptr;      // the control that has the focus now
   HWND lastFocused_ = nullptr;  // or had it last
-};
-
-// A control's text is drawn in the page's font, so it is measured in it.
-class FontMeasure final : public TextMeasure {
- public:
-  FontMeasure(HWND window, HFONT font) : dc_(window), font_(dc_.Dc(), font) {}
-  int Width(const std::wstring& text) override;
-  int Height(const std::wstring& text, int width) override;
-
- private:
-  WindowDc dc_;
-  Selected font_;
 };
 
 }  // namespace tidewell
