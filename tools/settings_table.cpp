@@ -72,7 +72,7 @@ struct KeyText {
 };
 
 // In load order.
-constexpr std::array<KeyText, 15> kKeyTexts = {{
+constexpr std::array<KeyText, 16> kKeyTexts = {{
     {L"Today item", L"What the Today screen's own key tells of the installation. Never created."},
     {L"Pocket Informant", L"Where that program keeps its category icons and its database."},
     {L"Agenda Fusion", L"Where that program keeps its category icons."},
@@ -92,6 +92,9 @@ constexpr std::array<KeyText, 15> kKeyTexts = {{
      L"0), `Order` (default 9), `Type` (1), `DLL`, `InstallPath` and `CustomIconName` (default "
      L"empty). The subkey `Contacts` is none of them and stays."},
     {L"Categories", L"The categories as a whole; each category has a record of its own."},
+    {L"Icon set",
+     L"The folders of the chosen icon set by their pictures' size, and one of blank pictures. "
+     L"[icon-sets.md](icon-sets.md) tells more."},
 }};
 
 std::wstring Code(const std::wstring& text) {

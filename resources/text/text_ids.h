@@ -204,6 +204,7 @@
 #define IDS_ICON_ATTACHED 2046      // Own icon
 #define IDS_ICON_ATTENDEES 2047     // Attendees
 #define IDS_ICON_LINK 2048          // Link
+#define IDS_ICON_SET 2049           // Icon set
 
 // Own texts, from 2000 on: dialogs whose texts have no number elsewhere.
 #define IDS_CANCEL 2000             // Cancel

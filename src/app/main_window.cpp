@@ -11,6 +11,7 @@
 #include "app/single_instance.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/text.h"
+#include "preview/windows/decode_image.h"
 #include "preview/windows/resource_icons.h"
 #include "resources/art/bitmap_ids.h"
 #include "resources/text/text_ids.h"
@@ -136,7 +137,7 @@ LRESULT MainWindow::OnCreate() {
   settings_.Load(machine_, scale_, language_);
   NameMessageBoxKeys();
   LoadPictures();
-  previewIcons_.emplace(ResourceIcons(ModuleOf(pictures_.get())));
+  MakeIconCache();
   CreateFonts();
   LoadCategories();
   ShowMainEntries();
@@ -174,6 +175,14 @@ void MainWindow::FixScale() {
 void MainWindow::LoadPictures() {
   const wchar_t* file = scale_.ScaleX(1) < 2 ? L"\\LowDpiRes.dll" : L"\\HighDpiRes.dll";
   pictures_ = machine_.libraries.Load(settings_.installFolder + file);
+}
+
+void MainWindow::MakeIconCache() {
+  const auto decode = [this](const std::wstring& path) {
+    return DecodeImage(machine_.files, imaging_->Factory(), path);
+  };
+  previewIcons_.emplace(settings_.iconSet, scale_, decode,
+                        ResourceIcons(ModuleOf(pictures_.get())));
 }
 
 // A device's message boxes have words of their own.

@@ -80,6 +80,7 @@ class MainWindow {
   void FixScale();
   void NameMessageBoxKeys();
   void LoadPictures();
+  void MakeIconCache();
   void CreateFonts();
   void LoadCategories();
   void ShowEntries(std::span<const MainEntry> entries);

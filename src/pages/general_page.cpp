@@ -1,5 +1,8 @@
 #include "pages/general_page.h"
 
+#include <optional>
+
+#include "addons/icon_sets.h"
 #include "addons/language_packs.h"
 #include "resources/text/text_ids.h"
 
@@ -17,7 +20,14 @@ Choices LandscapeHeights() {
   return choices;
 }
 
-constexpr int kLanguageTab = 1;
+constexpr int kLookTab = 1;
+
+void ShowNames(PageView& view, int listId, const std::vector<std::wstring>& names, int selection) {
+  Choices choices;
+  for (const std::wstring& name : names) choices.emplace_back(name);
+  view.SetChoices(listId, choices);
+  view.SetState(listId, ControlState::OfLine(selection));
+}
 
 class GeneralRules final : public PageRules {
  public:
@@ -29,8 +39,12 @@ class GeneralRules final : public PageRules {
   void Store(const PageView& view) override;
 
  private:
+  void ShowLanguages(PageView& view);
+  void ShowIconSets(PageView& view);
+
   PageContext& context_;
   LanguagePacks packs_;
+  std::optional<IconSets> iconSets_;
 };
 
 PageTabs GeneralRules::Tabs() {
@@ -50,15 +64,17 @@ PageTabs GeneralRules::Tabs() {
               Number(kLandscapeHeightLabel, kLandscapeHeight, IDS_HEIGHT_LIMIT_LANDSCAPE,
                      s.dHeightLimitLandscape, LandscapeHeights()),
           }),
-      RowTab(IDS_GENERAL_TAB_LOOK,
-             {
-                 Path(1211, kSkinPath, kClearSkin, kBrowseSkin, IDS_SKIN_FOLDER, s.SkinPath,
-                      {L"Select Skin Path"}),
-                 FilledByRules(1215, kLanguage, IDS_LANGUAGE, s.SelectedLangResFile),
-                 Check(1217, IDS_SOUND_EFFECTS, s.EnableSoundEffect).ReducedSpacing(2),
-                 Check(1218, IDS_GOOFY_MODE, s.GoofyMode).ReducedSpacing(2),
-                 Check(1219, IDS_INDENT_ITEMS, s.IndentItems).ReducedSpacing(2),
-             }),
+      RowTab(
+          IDS_GENERAL_TAB_LOOK,
+          {
+              Path(1211, kSkinPath, kClearSkin, kBrowseSkin, IDS_SKIN_FOLDER, s.SkinPath,
+                   {L"Select Skin Path"}),
+              FilledByRules(1215, kLanguage, IDS_LANGUAGE, s.SelectedLangResFile),
+              FilledByRules(2000, kIconSet, IDS_ICON_SET, context_.settings.iconSet.InstallPath12),
+              Check(1217, IDS_SOUND_EFFECTS, s.EnableSoundEffect).ReducedSpacing(2),
+              Check(1218, IDS_GOOFY_MODE, s.GoofyMode).ReducedSpacing(2),
+              Check(1219, IDS_INDENT_ITEMS, s.IndentItems).ReducedSpacing(2),
+          }),
       RowTab(IDS_GENERAL_TAB_DPAD,
              {
                  Check(kDPadEnabled, IDS_DPAD_ENABLED, s.DPadEnabled),
@@ -86,14 +102,22 @@ PageTabs GeneralRules::Tabs() {
 }
 
 void GeneralRules::OnBuilt(PageView& view, int tab) {
-  if (tab != kLanguageTab) return;
+  if (tab != kLookTab) return;
+  ShowLanguages(view);
+  ShowIconSets(view);
+}
+
+void GeneralRules::ShowLanguages(PageView& view) {
   const SettingsStore& settings = context_.settings;
   packs_ = ScanLanguagePacks(context_.machine, settings.installFolder,
                              settings.root.SelectedLangResFile.Value());
-  Choices choices;
-  for (const std::wstring& name : packs_.names) choices.emplace_back(name);
-  view.SetChoices(kLanguage, choices);
-  view.SetState(kLanguage, ControlState::OfLine(packs_.selection));
+  ShowNames(view, kLanguage, packs_.names, packs_.selection);
+}
+
+void GeneralRules::ShowIconSets(PageView& view) {
+  const SettingsStore& settings = context_.settings;
+  iconSets_.emplace(context_.machine.files, settings.installFolder);
+  ShowNames(view, kIconSet, iconSets_->Names(), iconSets_->Find(settings.iconSet));
 }
 
 // The limits apply to a height that does not fit itself to the content; of the D-pad's two groups
@@ -110,11 +134,13 @@ std::vector<Enabling> GeneralRules::Enabled(const PageView& view) const {
           {kScrollingLabel, scrolling}, {kScrolling, scrolling}, {kExclusive, dPad}};
 }
 
-// Where no pack is chosen, the present one stays.
+// Where no pack or set is chosen, the present one stays.
 void GeneralRules::Store(const PageView& view) {
   if (const std::wstring* path = packs_.PathOf(view.State(kLanguage).selection)) {
     context_.settings.root.SelectedLangResFile.Set(*path);
   }
+  const int set = view.State(kIconSet).selection;
+  if (iconSets_ && set != kNoChoice) iconSets_->Choose(set, context_.settings.iconSet);
 }
 
 }  // namespace

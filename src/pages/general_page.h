@@ -27,6 +27,7 @@ inline constexpr int kScrollingLabel = 1225;
 inline constexpr int kScrolling = 1226;
 inline constexpr int kDoublePress = 1227;
 inline constexpr int kExclusive = 1228;
+inline constexpr int kIconSet = 2001;  // our own begin at 2000
 }  // namespace general_ids
 
 std::unique_ptr<PageRules> MakeGeneralPage(PageContext& context);

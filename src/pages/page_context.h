@@ -19,7 +19,7 @@ struct PageContext {
   const Language& language;
   ScreenScale scale;
   UserDialogs* dialogs = nullptr;  // null: nothing is asked or told
-  IconSource* icons = nullptr;     // of items; null: they have none
+  IconSource* icons = nullptr;     // of the chosen set, as it is now; null: there are none
 };
 
 }  // namespace tidewell

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "platform/rect.h"
@@ -32,6 +34,9 @@ class Image {
   int width_;
   int height_;
 };
+
+// Null for a file that is missing or cannot be decoded.
+using LoadImageFile = std::function<std::unique_ptr<Image>(const std::wstring& path)>;
 
 // kCentre is the middle of both directions; the others begin at the top.
 enum class TextAlign : std::uint8_t { kLeft, kCentre, kRight };

@@ -6,8 +6,11 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 
+#include "platform/scale.h"
 #include "preview/canvas.h"
+#include "settings/catalogue/icon_set_settings.h"
 
 namespace tidewell {
 
@@ -44,13 +47,22 @@ class IconSource {
 // False, and nothing drawn, where there is no icon.
 bool PaintIcon(Canvas& canvas, const Image* icon, int x, int y);
 
-// Loads each icon when it is first asked for, and only once, also when it is missing.
+// The icons of the chosen set, each loaded when it is first asked for, and only once, also when it
+// is missing. What the set lacks comes from the one that ships.
 class IconCache final : public IconSource {
  public:
   // Returns null for a picture that is missing or broken.
-  using Load = std::function<std::unique_ptr<Image>(IconSymbol symbol)>;
+  using LoadIcon = std::function<std::unique_ptr<Image>(IconSymbol symbol)>;
 
-  explicit IconCache(Load load) : load_(std::move(load)) {}
+  // The settings outlive the cache.
+  IconCache(const IconSetSettings& settings, const ScreenScale& scale, LoadImageFile loadFile,
+            LoadIcon loadShipped)
+      : settings_(settings),
+        size_(scale.ScaleX(12)),
+        loadFile_(std::move(loadFile)),
+        loadShipped_(std::move(loadShipped)) {}
+
+  // Begins anew when the settings name another set: what was found before is gone then.
   const Image* Find(IconSymbol symbol) override;
 
  private:
@@ -59,7 +71,14 @@ class IconCache final : public IconSource {
     std::unique_ptr<Image> image;
   };
 
-  Load load_;
+  const std::wstring& ChosenFolder() const;
+  std::unique_ptr<Image> Load(IconSymbol symbol) const;
+
+  const IconSetSettings& settings_;
+  int size_;  // of an icon, in pixels
+  LoadImageFile loadFile_;
+  LoadIcon loadShipped_;
+  std::wstring folder_;  // empty: the set that ships
   std::array<Slot, kIconSymbolCount> slots_;
 };
 

@@ -2,7 +2,6 @@
 // settings as they stand.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -16,9 +15,6 @@
 #include "settings/settings_store.h"
 
 namespace tidewell {
-
-// Null for a file that is missing or cannot be decoded.
-using LoadImageFile = std::function<std::unique_ptr<Image>(const std::wstring& path)>;
 
 // One per page. All that it is given by reference outlives it.
 class TodayPreview {

@@ -7,7 +7,7 @@ namespace tidewell {
 
 namespace {
 
-constexpr std::array<KeyLocation, 15> kLocations = {{
+constexpr std::array<KeyLocation, 16> kLocations = {{
     {RegistryRoot::kLocalMachine, L"Software\\Microsoft\\today\\items\\Tidewell"},
     {RegistryRoot::kCurrentUser, L"Software\\WebIS\\PocketInformant"},
     {RegistryRoot::kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion"},
@@ -23,6 +23,7 @@ constexpr std::array<KeyLocation, 15> kLocations = {{
     {RegistryRoot::kCurrentUser, L"Software\\Velmont\\Tidewell\\CustomPIM"},
     {RegistryRoot::kCurrentUser, L"Software\\Velmont\\Tidewell\\TabSettings"},
     {RegistryRoot::kCurrentUser, L"Software\\Velmont\\Tidewell\\Categories"},
+    {RegistryRoot::kCurrentUser, L"Software\\Velmont\\Tidewell\\IconSet"},
 }};
 
 }  // namespace

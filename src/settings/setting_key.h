@@ -25,6 +25,7 @@ enum class SettingKey : std::int32_t {
   kCustomPim = 12,
   kTabSettings = 13,
   kCategories = 14,
+  kIconSet = 15,
 };
 
 struct KeyLocation {

@@ -62,10 +62,10 @@ bool IsPermutation(std::span<DwordSetting* const> settings) {
 SettingsStore::SettingsStore() = default;
 SettingsStore::~SettingsStore() = default;
 
-std::array<SettingGroup*, 15> SettingsStore::Groups() {
-  return {&today, &pocketInformant, &agendaFusion, &root,        &calendar,
-          &tasks, &notes,           &contacts,     &messages,    &specialEvents,
-          &fonts, &colors,          &customPim,    &tabSettings, &categories};
+std::array<SettingGroup*, 16> SettingsStore::Groups() {
+  return {&today,     &pocketInformant, &agendaFusion, &root,          &calendar, &tasks,
+          &notes,     &contacts,        &messages,     &specialEvents, &fonts,    &colors,
+          &customPim, &tabSettings,     &categories,   &iconSet};
 }
 
 void SettingsStore::Load(Machine& machine, const ScreenScale& scale, Language& language) {
@@ -99,6 +99,7 @@ void SettingsStore::Load(Machine& machine, const ScreenScale& scale, Language& l
   LoadTabs(registry, context, language);
   ChooseActiveTab();
   LoadGroup(registry, categories, context);
+  LoadGroup(registry, iconSet, context);
   isLoaded_ = true;
 }
 
@@ -180,6 +181,7 @@ void SettingsStore::Save(Registry& registry, const ScreenScale& scale) {
   SaveGroup(registry, customPim);
   SaveTabs(registry);
   SaveGroup(registry, categories);
+  SaveGroup(registry, iconSet);
 }
 
 void SettingsStore::SaveTabs(Registry& registry) {

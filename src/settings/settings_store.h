@@ -16,6 +16,7 @@
 #include "settings/catalogue/contacts_settings.h"
 #include "settings/catalogue/custom_pim_settings.h"
 #include "settings/catalogue/fonts_settings.h"
+#include "settings/catalogue/icon_set_settings.h"
 #include "settings/catalogue/messages_settings.h"
 #include "settings/catalogue/notes_settings.h"
 #include "settings/catalogue/pocket_informant_settings.h"
@@ -48,7 +49,7 @@ class SettingsStore {
   bool IsLoaded() const { return isLoaded_; }
 
   // In load order.
-  std::array<SettingGroup*, 15> Groups();
+  std::array<SettingGroup*, 16> Groups();
 
   bool twelveHourClock = true;  // times are shown with AM and PM
   TodayItemSettings today;
@@ -70,6 +71,7 @@ class SettingsStore {
   TabSettings tabSettings;
   TabList tabs;
   CategoriesSettings categories;
+  IconSetSettings iconSet;
 
  private:
   void LoadInstallPaths(Registry& registry, LoadContext& context);

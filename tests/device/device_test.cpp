@@ -46,9 +46,13 @@ TEST_F(DeviceTest, KeysOpenAPageAndWorkItAndWhatTheyChangedIsStored) {
     const struct {
       int tabs, down;  // steps of the D-pad
       std::vector<WPARAM> keys;
-    } changes[] = {{0, 1, {VK_RIGHT}},      {0, 2, {VK_RETURN, VK_DOWN, VK_RETURN}},
-                   {0, 4, {'2', '3', '4'}}, {1, 4, {VK_RIGHT}},
-                   {0, 5, {VK_SPACE}},      {1, 3, {VK_LEFT, VK_RETURN, VK_ESCAPE}}};
+    } changes[] = {{0, 1, {VK_RIGHT}},
+                   {0, 2, {VK_RETURN, VK_DOWN, VK_RETURN}},
+                   {0, 4, {'2', '3', '4'}},
+                   {1, 4, {VK_RIGHT}},
+                   {0, 5, {VK_RIGHT}},
+                   {0, 6, {VK_SPACE}},
+                   {1, 3, {VK_LEFT, VK_RETURN, VK_ESCAPE}}};
     for (const auto& change : changes) {
       program.Press(VK_RIGHT, change.tabs);
       program.Press(VK_DOWN, change.down);
@@ -69,6 +73,10 @@ TEST_F(DeviceTest, KeysOpenAPageAndWorkItAndWhatTheyChangedIsStored) {
     OnClick = REG_DWORD 0x1
     OnDoubleClick = REG_DWORD 0x1
     SelectedLangResFile = REG_SZ \Program Files\Velmont\Tidewell\LangRes\TWGerRc.dll
+[\IconSet]
+    InstallPath12 = REG_SZ \Program Files\Velmont\Tidewell\IconSets\Mono\12
+    InstallPath18 = REG_SZ \Program Files\Velmont\Tidewell\IconSets\Mono\18
+    InstallPath24 = REG_SZ \Program Files\Velmont\Tidewell\IconSets\Mono\24
 )");
 
   DrivenProgram program;

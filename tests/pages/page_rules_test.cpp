@@ -51,6 +51,40 @@ TEST_F(GeneralRules, StoreTheLanguageOfTheChosenSlot) {
   visit(2, 1);
 }
 
+TEST_F(GeneralRules, StoreTheFoldersOfTheChosenIconSet) {
+  const std::wstring sets = L"\\Program Files\\Velmont\\Tidewell\\IconSets\\";
+  for (const wchar_t* path :
+       {L"tidewell\\12\\note.png", L"Zebra\\24\\", L"Mono\\Blank\\", L"Read.me"}) {
+    machine.files.Put(sets + path);
+  }
+  IconSetSettings& set = store.iconSet;
+  const auto stored = [&] {
+    return std::vector{set.InstallPath12.Value(), set.InstallPath18.Value(),
+                       set.InstallPath24.Value(), set.InstallPathBlank.Value()};
+  };
+  // Chooses a line, or leaves the one that is shown.
+  const auto visit = [&](int shown, int line) {
+    FakeView page(MakeGeneralPage(context));
+    EXPECT_EQ(page.ChoicesOf(general_ids::kIconSet).size(), 3u);
+    EXPECT_EQ(page.State(general_ids::kIconSet).selection, shown);
+    if (line != shown) page.Choose(general_ids::kIconSet, line);
+    page.Close();
+    return stored();
+  };
+  const std::vector<std::wstring> none(4);
+  const std::vector mono = {sets + L"Mono\\12", sets + L"Mono\\18", sets + L"Mono\\24",
+                            sets + L"Mono\\Blank"};
+  const std::vector zebra = {sets + L"Zebra\\12", sets + L"Zebra\\18", sets + L"Zebra\\24",
+                             std::wstring()};
+  EXPECT_EQ(visit(0, 0), none);
+  EXPECT_EQ(visit(0, 1), mono);
+  EXPECT_EQ(visit(1, 2), zebra);
+  set.InstallPath18.Set(L"\\elsewhere");
+  const auto own = stored();
+  EXPECT_EQ(visit(kNoChoice, kNoChoice), own) << "what no line stands for stays";
+  EXPECT_EQ(visit(kNoChoice, 0), none);
+}
+
 class PimRules : public PageFixture {
  protected:
   DwordSetting& program() { return store.customPim.PimSw; }

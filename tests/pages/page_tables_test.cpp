@@ -30,8 +30,10 @@ const Setting* SettingOf(const Row& row) {
   return row.text;
 }
 
-// What is saved and on no page, because the user shall not edit it...
-const std::set<std::wstring> kNotForTheUser = {L"FirstTimeSettingsMsg"};
+// What is saved and on no page, because the user shall not edit it, or because it is stored with
+// another...
+const std::set<std::wstring> kNotForTheUser = {L"FirstTimeSettingsMsg", L"InstallPath18",
+                                               L"InstallPath24", L"InstallPathBlank"};
 // ... or because its page is yet to come.
 const std::set<SettingKey> kPagesToCome = {
     SettingKey::kCalendar, SettingKey::kTasks,  SettingKey::kNotes,       SettingKey::kContacts,

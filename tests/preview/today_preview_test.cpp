@@ -143,17 +143,51 @@ TEST_F(Preview, SortsTasksByTheKeysInTurnAndTheSubjectLast) {
   EXPECT_TRUE(IsHidden(early, tasks));
 }
 
-TEST(IconCache, AsksForEachIconOnce) {
+// A set with a picture of the link, and the set that ships without one of the note.
+TEST(IconCache, LooksIntoTheChosenSetForEachIconOnce) {
+  IconSetSettings settings;
   std::string asked;
-  IconCache cache([&](IconSymbol symbol) {
-    asked += Utf8(SymbolName(symbol)) + " ";
-    return symbol == IconSymbol::kLink ? nullptr : std::make_unique<RecordedImage>("icon", 1, 1);
-  });
-  for (int time = 0; time < 2; ++time) {
-    EXPECT_EQ(cache.Find(IconSymbol::kLink), nullptr);
-    EXPECT_NE(cache.Find(IconSymbol::kRegenerated), nullptr);
+  const auto icon = [] { return std::make_unique<RecordedImage>("icon", 1, 1); };
+  const auto cacheAt = [&](int dpi) {
+    return IconCache(
+        settings, ScreenScale(dpi, 96, false),
+        [&](const std::wstring& path) {
+          asked += Utf8(path) + " ";
+          return path.ends_with(L"link.tga") ? icon() : nullptr;
+        },
+        [&](IconSymbol symbol) {
+          asked += "shipped ";
+          return symbol == IconSymbol::kNote ? nullptr : icon();
+        });
+  };
+  IconCache cache = cacheAt(96);
+  const auto ask = [&](IconSymbol symbol, bool isThere) {
+    asked.clear();
+    EXPECT_EQ(cache.Find(symbol) != nullptr, isThere);
+    const std::string first = asked;
+    asked.clear();
+    cache.Find(symbol);
+    EXPECT_EQ(asked, "");
+    return first;
+  };
+  EXPECT_EQ(ask(IconSymbol::kLink, true), "shipped ");
+  settings.InstallPath12.Set(L"\\set");
+  EXPECT_EQ(ask(IconSymbol::kLink, true), "\\set\\link.png \\set\\link.tga ");
+  EXPECT_EQ(ask(IconSymbol::kNote, false),
+            "\\set\\note.png \\set\\note.tga \\set\\note.bmp shipped ");
+  settings.InstallPath12.Set(L"");
+  EXPECT_EQ(ask(IconSymbol::kLink, true), "shipped ");
+
+  settings.InstallPath12.Set(L"\\12");
+  settings.InstallPath18.Set(L"\\18");
+  settings.InstallPath24.Set(L"\\24");
+  const std::pair<int, const char*> folders[] = {{72, "\\12\\"},  {139, "\\12\\"}, {140, "\\18\\"},
+                                                 {187, "\\18\\"}, {188, "\\24\\"}, {288, "\\24\\"}};
+  for (const auto& [dpi, folder] : folders) {
+    asked.clear();
+    cacheAt(dpi).Find(IconSymbol::kLink);
+    EXPECT_EQ(asked.substr(0, 4), folder) << dpi;
   }
-  EXPECT_EQ(asked, "link regenerated ");
 }
 
 }  // namespace

@@ -18,8 +18,9 @@ class SettingsStoreTest : public StoreFixture {
 TEST_F(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIsWritten) {
   const std::wstring product = L"HKCU\\Software\\Velmont\\Tidewell";
   Texts keys = {product};
-  for (const wchar_t* name : {L"Calendar", L"Tasks", L"Notes", L"Contacts", L"Messages", L"SEvents",
-                              L"Fonts", L"Colors", L"CustomPIM", L"TabSettings", L"Categories"}) {
+  for (const wchar_t* name :
+       {L"Calendar", L"Tasks", L"Notes", L"Contacts", L"Messages", L"SEvents", L"Fonts", L"Colors",
+        L"CustomPIM", L"TabSettings", L"Categories", L"IconSet"}) {
     keys.push_back(product + L"\\" + name);
   }
   registry.Create(kMachine, kToday);
@@ -34,8 +35,8 @@ TEST_F(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIs
   created.insert(created.begin(), {L"HKCU\\Software\\WebIS\\PocketInformant",
                                    L"HKLM\\SOFTWARE\\Developer One, Inc.\\Agenda Fusion"});
   EXPECT_EQ(recorded.Calls().Paths(RegistryCall::kCreate), created);
-  EXPECT_EQ(recorded.Count(RegistryCall::kClose), 16);
-  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 15) << "all but the theme's key";
+  EXPECT_EQ(recorded.Count(RegistryCall::kClose), 17);
+  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 16) << "all but the theme's key";
   const std::size_t lines = SettingLines(store).all.size();
   EXPECT_EQ(recorded.Count(RegistryCall::kQuery), static_cast<int>(lines) + 6 + 1)
       << "each value once, six theme colours and the size of their table";
@@ -45,8 +46,8 @@ TEST_F(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIs
   EXPECT_EQ(recorded.CountWrites(), 0);
   EXPECT_EQ(recorded.Calls().Paths(RegistryCall::kCreate), keys);
   EXPECT_EQ(recorded.Count(RegistryCall::kQuery), 0);
-  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 12);
-  EXPECT_EQ(recorded.Count(RegistryCall::kClose), 12);
+  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 13);
+  EXPECT_EQ(recorded.Count(RegistryCall::kClose), 13);
   store.root.OnClick.Set(5);
   store.categories.AdditionalIconsFolder.Set(L"");
   Save();

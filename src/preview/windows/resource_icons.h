@@ -1,5 +1,4 @@
-// The icons of a resolution library, which the preview shows where no other set is chosen. Windows
-// only.
+// The icons of a resolution library: the set that ships. Windows only.
 #pragma once
 
 #include <windows.h>
@@ -7,17 +6,17 @@
 #include "preview/icons.h"
 #include "preview/windows/gdi_canvas.h"
 #include "resources/art/bitmap_ids.h"
+#include "win32/bitmaps.h"
 
 namespace tidewell {
 
-// Of `module`, which outlives the cache; null stands for a library without any.
-inline IconCache ResourceIcons(HMODULE module) {
-  return IconCache([module](IconSymbol symbol) -> std::unique_ptr<Image> {
+// Of `module`, which outlives what is returned; null stands for a library without any.
+inline IconCache::LoadIcon ResourceIcons(HMODULE module) {
+  return [module](IconSymbol symbol) -> std::unique_ptr<Image> {
     if (!module) return nullptr;
     const int id = IDB_FIRST_ITEM_ICON + static_cast<int>(symbol);
-    return GdiImage::Of(Bitmap(static_cast<HBITMAP>(
-        LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION))));
-  });
+    return GdiImage::Of(LoadBitmapResource(module, static_cast<WORD>(id)));
+  };
 }
 
 }  // namespace tidewell
