@@ -11,6 +11,7 @@ programs=(
   "vga start_bench"
   "vga store_bench"
   "vga backup_bench"
+  "vga icons_bench"
   "qvga list_bench"
   "vga list_bench"
   "qvga page_bench"
