@@ -64,13 +64,13 @@ locale_of() {
   esac
 }
 
-# Takes the pictures of one screen in one language on the virtual display. The tour runs inside the
-# Wine desktop; it says "picture NAME", and goes on when it is answered.
-take_tour() {
-  local language=$1 word name count=0
+# Takes the pictures that a program of tools/ shows on one screen in one language on the virtual
+# display. It runs inside the Wine desktop, says "picture NAME", and goes on when it is answered.
+take_pictures() {
+  local program=$1 language=$2 word name count=0
   use_language "$language"
   wine_environment+=("LC_ALL=$(locale_of "$language")")
-  coproc tour { on_screen "Z:$build/windows/tools/tour.exe" 2>/dev/null; }
+  coproc tour { on_screen "Z:$build/windows/tools/$program.exe" 2>/dev/null; }
   local from=${tour[0]} to=${tour[1]}
   while read -r -t 60 -u "$from" word name; do
     name=${name%$'\r'}
@@ -80,18 +80,18 @@ take_tour() {
         count=$((count + 1))
         echo >&"$to"
         ;;
-      trouble) fail "The tour at $screen in \"$language\" stopped: $name." ;;
+      trouble) fail "The $program at $screen in \"$language\" stopped: $name." ;;
       end) break ;;
     esac
   done
-  [[ $word == end* ]] || fail "The tour at $screen in \"$language\" broke off after $count pictures."
+  [[ $word == end* ]] || fail "The $program at $screen in \"$language\" broke off after $count pictures."
   wait "$tour_PID" 2>/dev/null || true
-  say "  $screen, $language: $count pictures"
+  say "  $screen, $language, $program: $count pictures"
 }
 
 write_pictures() {
   say "Building the program"
-  build_preset windows device tour || exit
+  build_preset windows device tour preview_sheet || exit
   mkdir -p "$pictures"
   pictures=$(cd "$pictures" && pwd)
   forget_device pictures  # the pictures show the program as it is on its first day
@@ -102,7 +102,10 @@ write_pictures() {
   for tour_screen in ${chosen_screen:-${screens[@]}}; do
     use_screen "$tour_screen"
     use_virtual_display
-    for tour_language in ${chosen_language:-${languages[@]}}; do take_tour "$tour_language"; done
+    for tour_language in ${chosen_language:-${languages[@]}}; do
+      take_pictures tour "$tour_language"
+      take_pictures preview_sheet "$tour_language"
+    done
   done
 }
 

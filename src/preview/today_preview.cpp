@@ -27,45 +27,41 @@ TodayPreview::TodayPreview(const SettingsStore& settings, const ScreenScale& sca
       taskSubject_(language.Text(IDS_SAMPLE_TASK)) {}
 
 void TodayPreview::DrawAppointment(Canvas& page, int width, int y) {
-  const TodayLook look = ReadTodayLook(settings_);
-  const int today = DayNumber(locale_.Now());
-  TodayItem item = SampleAppointment(today, appointmentSubject_, appointmentLocation_);
-  const ItemTexts texts = FormatTexts(item, today, look, locale_);
-  const CanvasFont& font = rowFont_.Get(page, look.appointment.font);
-  RowStyle style{font, look.appointment.color, look.appointmentSlots, look.appointmentIcons};
-  Draw(page, width, y, look, [&](const RowSetting& setting, DrawPass pass, const Rect& row) {
-    style.pass = pass;
-    return DrawAppointmentRow(setting, style, item, texts, row);
-  });
+  DrawItem(page, SampleAppointment(Today(), appointmentSubject_, appointmentLocation_), width, y);
 }
 
 void TodayPreview::DrawTask(Canvas& page, int width, int y) {
-  const TodayLook look = ReadTodayLook(settings_);
-  const int today = DayNumber(locale_.Now());
-  TodayItem item = SampleTask(today, taskSubject_);
-  const ItemTexts texts = FormatTexts(item, today, look, locale_);
-  const CanvasFont& font = rowFont_.Get(page, look.task.font);
-  RowStyle style{font, look.task.color, look.taskSlots, look.taskIcons};
-  Draw(page, width, y, look, [&](const RowSetting& setting, DrawPass pass, const Rect& row) {
-    style.pass = pass;
-    return DrawTaskRow(setting, style, item, texts, row, kTaskFolding);
-  });
+  DrawItem(page, SampleTask(Today(), taskSubject_), width, y);
 }
 
 // The row stands in the middle of the strip, by the height that it measures.
-void TodayPreview::Draw(Canvas& page, int width, int y, const TodayLook& look,
-                        const DrawRow& drawRow) {
+void TodayPreview::DrawItem(Canvas& page, TodayItem item, int width, int y) {
   if (width <= 0) return;
+  const TodayLook look = ReadTodayLook(settings_);
+  const ItemTexts texts = FormatTexts(item, Today(), look, locale_);
+  RowStyle style = StyleOf(page, item, look);
   PrepareStrips(page, width);
   const int timeColumn =
       MeasureTimeColumn(page, columnFont_.Get(page, look.columnMeasure.font), look, scale_);
   const RowSetting setting{
       *strip_, icons_, scale_, look, generalFont_.Get(page, look.general.font), timeColumn};
-  const int rowRoom = scale_.ScaleX(200);
-  const int height = drawRow(setting, DrawPass::kMeasure, {0, 0, width, rowRoom});
+  const auto drawRow = [&](DrawPass pass, int top) {
+    const Rect row{0, top, width, scale_.ScaleX(200)};
+    style.pass = pass;
+    return item.IsTask() ? DrawTaskRow(setting, style, item, texts, row, kTaskFolding)
+                         : DrawAppointmentRow(setting, style, item, texts, row);
+  };
+  const int height = drawRow(DrawPass::kMeasure, 0);
   strip_->Copy(*background_, {0, 0, width, scale_.ScaleY(kStripHeight)});
-  drawRow(setting, DrawPass::kDraw, {0, scale_.ScaleX(21) - height / 2, width, rowRoom});
+  drawRow(DrawPass::kDraw, scale_.ScaleX(21) - height / 2);
   page.Copy(*strip_, {0, y, width, Height()});
+}
+
+RowStyle TodayPreview::StyleOf(Canvas& page, const TodayItem& item, const TodayLook& look) {
+  const FontAndColor& text = item.IsTask() ? look.task : look.appointment;
+  const CanvasFont& font = rowFont_.Get(page, text.font);
+  if (item.IsTask()) return {font, text.color, look.taskSlots, look.taskIcons};
+  return {font, text.color, look.appointmentSlots, look.appointmentIcons};
 }
 
 // Made anew only after the screen was turned.

@@ -26,12 +26,13 @@ class TodayPreview {
   // In pixels; `width` is that of the strip, which begins at the page's left edge.
   void DrawAppointment(Canvas& page, int width, int y);
   void DrawTask(Canvas& page, int width, int y);
+  // Any other item, as it is seen today.
+  void DrawItem(Canvas& page, TodayItem item, int width, int y);
   int Height() const { return scale_.ScaleX(42); }
 
  private:
-  using DrawRow = std::function<int(const RowSetting& setting, DrawPass pass, const Rect& row)>;
-
-  void Draw(Canvas& page, int width, int y, const TodayLook& look, const DrawRow& drawRow);
+  int Today() { return DayNumber(locale_.Now()); }
+  RowStyle StyleOf(Canvas& page, const TodayItem& item, const TodayLook& look);
   void PrepareStrips(Canvas& page, int width);
   void PaintBackground(Canvas& background, int width);
   void PaintWatermark(Canvas& background, int width);
