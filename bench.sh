@@ -16,6 +16,8 @@ programs=(
   "vga list_bench"
   "qvga page_bench"
   "vga page_bench"
+  "qvga preview_bench"
+  "vga preview_bench"
 )
 
 print_size() {

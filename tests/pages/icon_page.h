@@ -7,7 +7,7 @@
 
 namespace tidewell {
 
-class IconPage final : public PageRules {
+class IconPage : public PageRules {
  public:
   enum : int { kFirst = 1240, kFirstStrip, kSecond, kSecondStrip, kSet, kSetStrip };
 

@@ -2,9 +2,12 @@
 #include <gmock/gmock.h>
 
 #include "pages/windows/rules_page.h"
+#include "preview/today_preview.h"
+#include "preview/windows/gdi_canvas.h"
 #include "resources/text/text_ids.h"
 #include "tests/pages/icon_page.h"
 #include "tests/pages/page_host.h"
+#include "ui/windows/look.h"
 
 namespace tidewell {
 namespace {
@@ -157,6 +160,46 @@ TEST_F(IconTab, StoresWhatIsTappedAtOnceAndPaintsTheRoomBelow) {
   EXPECT_EQ(shown.At(0, 99), 0x407u);
   EXPECT_EQ(shown.At(0, 57), RGB(255, 255, 255));
   EXPECT_EQ(shown.At(0, 100), RGB(255, 255, 255));
+}
+
+class PreviewPage final : public IconPage {
+ public:
+  explicit PreviewPage(PageContext& context)
+      : IconPage(context),
+        preview_(context.settings, context.scale, context.machine.locale, context.language,
+                 *context.icons, [](const std::wstring&) { return nullptr; }) {}
+  void PaintRoom(Canvas& canvas, int width, int, int) override {
+    preview_.DrawAppointment(canvas, width, 0);
+  }
+
+ private:
+  TodayPreview preview_;
+};
+
+// One object left behind by each would show; a few are the system's own.
+TEST_F(IconTab, LeavesNoDrawingObjectsBehind) {
+  IconCache icons(
+      [](IconSymbol) { return GdiImage::Of(Bitmap(CreateBitmap(12, 12, 1, 32, nullptr))); });
+  context.icons = &icons;
+  const auto visit = [&](int redraws) {
+    Close();
+    OpenPage(std::make_unique<PreviewPage>(context));
+    while (redraws-- > 0) {
+      RedrawWindow(page_->Window(), nullptr, nullptr,
+                   RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+    PumpMessages();
+  };
+  visit(1);
+  const int before = CountDrawingObjects();
+  {
+    const Brush brush(CreateSolidBrush(kInk));
+    ASSERT_EQ(CountDrawingObjects(), before + 1) << "they are counted at all";
+  }
+  visit(1000);
+  EXPECT_LT(CountDrawingObjects(), before + 10) << "1,000 redraws";
+  for (int opening = 0; opening < 200; ++opening) visit(0);
+  EXPECT_LT(CountDrawingObjects(), before + 10) << "200 openings";
 }
 
 TEST_F(IconTab, IsWorkedByKeys) {

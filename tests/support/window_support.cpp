@@ -86,6 +86,18 @@ int Screenshot::FirstDrawnRow(int top) const {
   return height_;
 }
 
+// Wine's GetGuiResources tells nothing, but its table of handles takes the lower halves alone.
+int CountDrawingObjects() {
+  if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) {
+    return static_cast<int>(count);
+  }
+  int count = 0;
+  for (UINT_PTR handle = 1; handle <= 0xFFFF; ++handle) {
+    count += GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0;
+  }
+  return count;
+}
+
 TestWindow::TestWindow(DWORD style, DWORD extendedStyle, const RECT& place, HWND owner) {
   WNDCLASSW windowClass{};
   windowClass.lpfnWndProc = WindowProc;

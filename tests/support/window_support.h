@@ -43,6 +43,9 @@ class Screenshot {
   MemoryBitmap copy_;
 };
 
+// The pens, brushes, fonts, bitmaps and device contexts that this process has.
+int CountDrawingObjects();
+
 // Where the system is to place a program's main window.
 constexpr RECT kDefaultPlace{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
 

@@ -3,6 +3,9 @@
 #include <aygshell.h>
 
 #include <algorithm>
+#include <functional>
+#include <map>
+#include <string>
 
 namespace tidewell {
 
@@ -21,10 +24,25 @@ class GdiFont final : public CanvasFont {
 
   HFONT Handle() const { return font_.Get(); }
   int LineHeight() const { return lineHeight_; }
+  int WidthOf(HDC dc, std::wstring_view text) const {
+    const auto known = widths_.find(text);
+    if (known != widths_.end()) return known->second;
+    const Selected selected(dc, font_.Get());
+    SIZE size{};
+    GetTextExtentExPointW(dc, text.data(), static_cast<int>(text.size()), 0, nullptr, nullptr,
+                          &size);
+    if (widths_.size() == kKnownWidths) widths_.clear();
+    widths_.emplace(text, size.cx);
+    return size.cx;
+  }
 
  private:
+  static constexpr std::size_t kKnownWidths = 64;
+
   Font font_;
   int lineHeight_ = 0;
+  // The same texts are measured each time that something is painted.
+  mutable std::map<std::wstring, int, std::less<>> widths_;
 };
 
 class OffscreenCanvas final : private MemoryBitmap, public GdiCanvas {
@@ -106,11 +124,7 @@ int GdiCanvas::LineHeight(const CanvasFont& font) {
 }
 
 int GdiCanvas::LineWidth(const CanvasFont& font, std::wstring_view text) {
-  const Selected selected(dc_, HandleOf(font));
-  SIZE size{};
-  GetTextExtentExPointW(dc_, text.data(), static_cast<int>(text.size()), 0, nullptr, nullptr,
-                        &size);
-  return size.cx;
+  return static_cast<const GdiFont&>(font).WidthOf(dc_, text);
 }
 
 void GdiCanvas::Write(const Rect& area, std::wstring_view text, const CanvasFont& font, Color color,
