@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "device_fixture.h"
-#include "tests/support/registry_support.h"
 
 namespace tidewell::device {
 
@@ -33,14 +32,6 @@ class BackupDeviceTest : public DeviceTest {
     DeviceTest::TearDown();
   }
 
-  // The 32 filters that a device has at first, as its file holds them.
-  static std::string DefaultFilters() {
-    DrivenProgram program;
-    EXPECT_TRUE(program.WaitForMainWindow());
-    program.TapOk();
-    EXPECT_TRUE(program.Ended());
-    return ReadFileBytes(kFiltersFile);
-  }
   // The tool's dialog, with the backup's name in its field; null when it never came.
   static HWND OpenDialog(DrivenProgram& program, Tool tool,
                          const std::wstring& name = L"device_test") {
@@ -112,36 +103,6 @@ class BackupDeviceTest : public DeviceTest {
   std::mt19937 random_{20261115};
 };
 
-TEST_F(BackupDeviceTest, AWipedDeviceIsTheSameAfterTheImportOfItsBackup) {
-  std::string filters = DefaultFilters();
-  ASSERT_TRUE(ImportRegistry(R"(
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell\Categories]
-"CatColor.Business"=dword:000000ff
-"CatFilter.Business"=dword:80000001
-"CatColor.Home"=dword:00000000
-
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell\Notes\Folders\Deep]
-"Not ours"="kept as well"
-)"));
-  const std::string tree = QueryProductTree();
-  const std::size_t digit = filters.find('2');  // of the second filter's title
-  ASSERT_LT(digit, filters.size());
-  filters[digit] = 'X';
-  WriteFileBytes(kFiltersFile, filters);
-  ASSERT_FALSE(Export().empty());
-  ASSERT_EQ(QueryProductTree(), tree);
-
-  ForgetProductKeys();
-  DeleteFileW(kFiltersFile);
-  Broadcasts();
-  DrivenProgram program;
-  ASSERT_TRUE(RunTool(program, Tool::kImport));
-  EXPECT_TRUE(program.Ended());
-  EXPECT_EQ(Broadcasts(), 1);
-  EXPECT_EQ(QueryProductTree(), tree);
-  EXPECT_EQ(ReadFileBytes(kFiltersFile), filters);
-}
-
 TEST_F(BackupDeviceTest, AKilledExportLeavesTheOldBackupOrTheNewOne) {
   ASSERT_TRUE(ImportRegistry(ManyValues(1)));
   const std::string old = Export();
@@ -197,42 +158,6 @@ TEST_F(BackupDeviceTest, AKilledImportLeavesWhatWasThereOrACopyThatBringsItBack)
   ASSERT_TRUE(RunTool(program, Tool::kImport));
   EXPECT_TRUE(program.Ended());
   EXPECT_EQ(Export(), old);
-}
-
-// Thirty hosted tabs whose types and orders are put right at Done, none to or from a default.
-std::string HostedTabs() {
-  const std::string key = "\n[HKEY_CURRENT_USER\\Software\\Velmont\\Tidewell\\TabSettings";
-  std::string text = key + "]\n\"SEventsTabOrder\"=dword:9\n";
-  for (int i = 1; i <= 30; ++i) {
-    const std::string number = std::to_string(i + 100);
-    text += key + "\\Plug-in " + number + "]\n\"Order\"=dword:" + (i > 3 ? number : "8") +
-            "\n\"Type\"=dword:4d\n\"Enabled\"=dword:1\n\"DLL\"=\"plug-in " + number +
-            ".dll\"\n\"InstallPath\"=\"of " + number + "\"\n\"CustomIconName\"=\"icon " + number +
-            "\"\n";
-  }
-  return text;
-}
-
-TEST_F(BackupDeviceTest, AKilledDoneLeavesFiltersAndHostedTabsEachTheOldOrTheNewOne) {
-  ASSERT_TRUE(ImportRegistry(HostedTabs()));
-  const std::string before = QueryProductTree();
-  const std::string defaults = DefaultFilters();
-  const std::string after = QueryProductTree();
-  ASSERT_EQ(defaults.size(), 6362u);
-  ASSERT_NE(before, after);
-  const std::string cutOff = defaults.substr(0, 3000);  // read as the defaults, so written anew
-  for (int i = 0; i < kKills / 2; ++i) {
-    WriteFileBytes(kFiltersFile, cutOff);
-    ASSERT_TRUE(ImportRegistry(HostedTabs()));
-    DrivenProgram program;
-    ASSERT_TRUE(program.WaitForMainWindow());
-    ConfirmAndKill(program, program.Main(), 40);
-    EXPECT_THAT(ReadFileBytes(kFiltersFile), testing::AnyOf(cutOff, defaults)) << i;
-    const std::string left = QueryProductTree();
-    EXPECT_TRUE(IsOldOrNew(before, after, left)) << i << left;
-  }
-  DrivenProgram program;
-  EXPECT_TRUE(program.WaitForMainWindow());
 }
 
 }  // namespace

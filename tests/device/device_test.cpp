@@ -6,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "categories/filters_file.h"
 #include "device_fixture.h"
 
 namespace tidewell::device {
@@ -21,9 +20,6 @@ class HiddenFile {
     EXPECT_TRUE(MoveFileW(path_.c_str(), hidden_.c_str())) << "not installed";
   }
   ~HiddenFile() { MoveFileExW(hidden_.c_str(), path_.c_str(), MOVEFILE_REPLACE_EXISTING); }
-
-  const std::wstring& Path() const { return path_; }
-  std::string Bytes() const { return ReadFileBytes(hidden_.c_str()); }
 
  private:
   std::wstring path_;
@@ -168,66 +164,6 @@ TEST_F(DeviceTest, MissingLibrariesLeaveAUsableProgram) {
     EXPECT_TRUE(program.Ended());
     EXPECT_EQ(QueryProductTree(), "");
   }
-}
-
-// 64 by 64 points of 24 bits need 12,342 bytes.
-std::string BitmapCutAt4000() {
-  std::string bytes("BM\x36\x30\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x40\0\0\0\x40\0\0\0\1\0\x18", 29);
-  bytes.resize(4000);
-  return bytes;
-}
-
-TEST_F(DeviceTest, DamagedFilesCountAsMissingAndCostNothing) {
-  constexpr wchar_t kFilters[] = L"C:\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
-  FilterSet filters = DefaultFilters();
-  filters[31].title = L"Last";
-  const std::wstring text = FormatFilters(filters);
-  const std::string filtersBytes(reinterpret_cast<const char*>(text.data()), 2 * text.size());
-  WriteFileBytes(kFilters, filtersBytes);
-  ASSERT_TRUE(ImportRegistry(R"(
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell]
-"OnClick"=dword:00000001
-
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell\Categories]
-"CatColor.Holiday"=dword:000000ff
-"CatFilter.Home"=dword:00000005
-
-[HKEY_CURRENT_USER\Software\Velmont\Tidewell\TabSettings\Weather]
-"DLL"="\\Windows\\weather.dll"
-"Enabled"=dword:00000001
-"Order"=dword:00000007
-"Type"=dword:00000001
-)"));
-  const struct {
-    const wchar_t* name;
-    std::size_t size;  // that is left; 0 for the bitmap
-    bool isGerman;     // else English, and the page is opened that lists every language
-  } cases[] = {{L"LangRes\\TWGerRc.dll", 8192, false},
-               {L"CategoryIcons\\Holiday.bmp", 0, true},
-               {L"LangRes\\TWGerRc.dll", 4096, true},
-               {L"LangRes\\TWGerRc.dll", 8192, true}};
-  const auto german = L"\"" + std::wstring(kInstallFolder).substr(2) + L"\\LangRes\\TWGerRc.dll\"";
-  for (const auto& c : cases) {
-    SCOPED_TRACE(testing::PrintToString(std::wstring(c.name)) + " " + std::to_string(c.size));
-    if (c.isGerman) {
-      ASSERT_TRUE(AddValue(L"", L"SelectedLangResFile", L"REG_SZ", german));
-    }
-    const std::string before = QueryProductTree();
-    const HiddenFile whole(c.name);
-    const std::string bytes = c.size ? whole.Bytes().substr(0, c.size) : BitmapCutAt4000();
-    WriteFileBytes(whole.Path().c_str(), bytes);
-    DrivenProgram program;
-    ASSERT_TRUE(program.WaitForMainWindow());
-    if (!c.isGerman) {
-      program.Press(VK_RETURN);
-      program.TapOk();
-    }
-    program.TapOk();
-    EXPECT_TRUE(program.Ended());
-    EXPECT_EQ(QueryProductTree(), before);
-    EXPECT_TRUE(ReadFileBytes(kFilters) == filtersBytes);
-  }
-  DeleteFileW(kFilters);
 }
 
 }  // namespace
