@@ -11,11 +11,11 @@
 #include "bench/figures.h"
 #include "bench/stopwatch.h"
 #include "categories/windows/pim_categories.h"
-#include "platform/memory/memory_machine.h"
 #include "platform/replacement_file.h"
 #include "platform/text.h"
 #include "platform/whole_file.h"
 #include "platform/windows/windows_machine.h"
+#include "tests/support/test_device.h"
 
 namespace tidewell::bench {
 
@@ -74,18 +74,11 @@ bool RunReg(std::wstring commandLine) {
   return exitCode == 0;
 }
 
-// A catalogue on a machine in memory, for what needs one and does not use it.
-struct IdleCatalog {
-  MemoryMachine memory;
-  SettingsStore store;
-  CategoryCatalog catalog{memory.Door(), store};
-};
-
 bool CompareWithReg() {
   constexpr int kRounds = 7;
   WindowsRegistry registry;
   WindowsFiles files;
-  IdleCatalog idle;
+  TestDevice idle;
   const std::wstring ours = BelowTemp(L"bench.twsb");
   const std::wstring theirs = BelowTemp(L"bench.reg");
   const std::wstring quotedTheirs = L'"' + theirs + L'"';
@@ -138,16 +131,16 @@ struct Speed {
 };
 
 Speed MeasureInMemory(int keys) {
-  IdleCatalog idle;
+  TestDevice idle;
   const std::vector<std::byte> bytes = BytesOf(TextOfTree(kTree, keys));
   Speed speed{static_cast<double>(bytes.size()) / 1e6, 0, 0};
   const Stopwatch readWatch;
-  Import(idle.memory.registry, idle.catalog, bytes);
+  Import(idle.registry, idle.catalog, bytes);
   speed.reading = speed.megabytes * 1000 / readWatch.Milliseconds();
   CountingSink sink;
   TextWriter writer(sink);
   const Stopwatch writeWatch;
-  WriteKeyTree(idle.memory.registry, kTree, writer);
+  WriteKeyTree(idle.registry, kTree, writer);
   writer.Flush();
   speed.writing = static_cast<double>(sink.count) / 1e3 / writeWatch.Milliseconds();
   return speed;

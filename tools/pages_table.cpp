@@ -5,8 +5,8 @@
 #include <string>
 
 #include "pages/page_list.h"
-#include "platform/memory/memory_machine.h"
 #include "platform/text.h"
+#include "tests/support/test_device.h"
 #include "tools/document.h"
 
 namespace tidewell {
@@ -129,32 +129,16 @@ class PagesWriter {
   std::wstring text_;
 };
 
-void InstallOtherPrograms(Registry& registry) {
-  const std::tuple<RegistryRoot, const wchar_t*, const wchar_t*> programs[] = {
-      {RegistryRoot::kCurrentUser, L"Software\\WebIS\\PocketInformant", L"version"},
-      {RegistryRoot::kCurrentUser, L"Software\\Developer One\\Agenda One", L"InstallPath"},
-      {RegistryRoot::kLocalMachine, L"Software\\Developer One, Inc.\\Agenda Fusion", L"VerMajor"},
-  };
-  for (const auto& [root, key, value] : programs) {
-    registry.Create(root, key)->Set(value, kTypeString, {});
-  }
-}
-
 // Markdown in plain ASCII, lines ended by a line feed.
 std::string PagesDocument(const char* textIds) {
-  MemoryMachine machine;
-  machine.system.screen = {480, 640, 192, 192};
-  machine.libraries.Put(L"English", ReadTexts(textIds));
-  InstallOtherPrograms(machine.registry);
-  Machine door = machine.Door();
-  SettingsStore store;
-  CategoryCatalog categories(door, store);
-  Language language;
-  language.Load(machine.libraries, L"English", {});
-  PageContext context{door, store, categories, language, ScreenScale(192, 192, false)};
-  PagesWriter writer(language);
+  TestDevice device;
+  device.UseScreen(480, 640, 192);
+  device.memory.libraries.Put(L"English", ReadTexts(textIds));
+  device.InstallOtherPrograms();
+  device.language.Load(device.memory.libraries, L"English", {});
+  PagesWriter writer(device.language);
   for (const PageEntry& page : kPages) {
-    if (page.make) writer.Page(page, page.make(context)->Tabs());
+    if (page.make) writer.Page(page, page.make(device.context)->Tabs());
   }
   const std::wstring text = kIntroduction + writer.Take();
   return {text.begin(), text.end()};

@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "pages/page_list.h"
-#include "platform/memory/memory_machine.h"
 #include "platform/text.h"
 #include "tests/device/driven_program.h"
+#include "tests/support/test_device.h"
 
 namespace tidewell::device {
 
@@ -94,13 +94,8 @@ std::string NameOf(const PageEntry& page) {
 }
 
 std::size_t CountTabs(const PageEntry& page) {
-  MemoryMachine device;
-  Machine machine = device.Door();
-  SettingsStore store;
-  CategoryCatalog categories(machine, store);
-  const Language language;
-  PageContext context{machine, store, categories, language, {}};
-  return page.make(context)->Tabs().size();
+  TestDevice device;
+  return page.make(device.context)->Tabs().size();
 }
 
 // Every tab: from the page's first control, Up leads to the row of tabs, and Right turns it.

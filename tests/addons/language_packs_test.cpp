@@ -2,28 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_machine.h"
 #include "platform/text.h"
 #include "resources/text/text_ids.h"
+#include "tests/support/test_device.h"
 
 namespace tidewell {
 namespace {
 
-class Packs : public testing::Test {
+class Packs : public testing::Test, protected TestDevice {
  protected:
   // A file that is a library with a name, with texts but no name (null), or none at all.
   void PutPack(const std::wstring& file, const wchar_t* name) {
     const std::wstring path = L"\\Tidewell\\LangRes\\" + file;
-    machine.files.Put(path, "MZ");
-    machine.libraries.Put(path, name ? MemoryLibraries::Texts{{IDS_LANGUAGE_NAME, name}}
-                                     : MemoryLibraries::Texts{{IDS_LANGUAGE, L"Language"}});
+    files.Put(path, "MZ");
+    memory.libraries.Put(path, name ? MemoryLibraries::Texts{{IDS_LANGUAGE_NAME, name}}
+                                    : MemoryLibraries::Texts{{IDS_LANGUAGE, L"Language"}});
   }
   LanguagePacks Scan(const std::wstring& present = L"") {
-    Machine door = machine.Door();
-    return ScanLanguagePacks(door, L"\\Tidewell", present);
+    return ScanLanguagePacks(machine, L"\\Tidewell", present);
   }
-
-  MemoryMachine machine;
 };
 
 TEST_F(Packs, NoFolderOffersNothing) {
@@ -35,8 +32,8 @@ TEST_F(Packs, NoFolderOffersNothing) {
 
 // Two packs may have one name.
 TEST_F(Packs, WhatIsNoLibraryTakesNoSlotButALibraryWithoutANameDoes) {
-  machine.files.Put(L"\\Tidewell\\LangRes\\Aaa.dll", "not a library");
-  machine.files.Put(L"\\Tidewell\\LangRes\\Folder.dll\\");
+  files.Put(L"\\Tidewell\\LangRes\\Aaa.dll", "not a library");
+  files.Put(L"\\Tidewell\\LangRes\\Folder.dll\\");
   PutPack(L"Bbb.dll", nullptr);
   PutPack(L"TWEngRc.dll", L"English");
   PutPack(L"TWOldRc.dll", L"English");
@@ -47,7 +44,7 @@ TEST_F(Packs, WhatIsNoLibraryTakesNoSlotButALibraryWithoutANameDoes) {
   ASSERT_TRUE(packs.PathOf(1));
   EXPECT_EQ(*packs.PathOf(1), L"\\Tidewell\\LangRes\\TWEngRc.dll");
   EXPECT_EQ(Scan(L"\\Tidewell\\LangRes\\twoldrc.dll").selection, 0) << "by its exact path";
-  EXPECT_EQ(machine.libraries.LoadedCount(), 0);
+  EXPECT_EQ(memory.libraries.LoadedCount(), 0);
 }
 
 TEST_F(Packs, TheFirstTwentyAreOffered) {

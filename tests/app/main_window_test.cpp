@@ -54,7 +54,7 @@ constexpr wchar_t kFiltersFile[] = L"\\Program Files\\Velmont\\Tidewell\\TWFilte
 
 TEST_F(DoneTest, SavesTheSettingsTheCategoriesAndTheFiltersFile) {
   categories = {{L"Work", 1, false}, {L"Home", 2, false}};
-  device.files.Put(kFiltersFile, "an older one");
+  files.Put(kFiltersFile, "an older one");
   Start();
   program->Settings().root.OnClick.Set(1);
   program->Categories().FindCategory(L"Work")->color = 0x0000FF;
@@ -63,15 +63,15 @@ TEST_F(DoneTest, SavesTheSettingsTheCategoriesAndTheFiltersFile) {
     MSG message;
     isTold = isTold || PeekMessageW(&message, listener.Get(), kBroadcast, kBroadcast, PM_NOREMOVE);
   };
-  registry.Calls().Watch(watchTheQueue);
-  files.Calls().Watch(watchTheQueue);
+  recorded.Calls().Watch(watchTheQueue);
+  recordedFiles.Calls().Watch(watchTheQueue);
   Done();
   EXPECT_FALSE(isTold) << "before everything was written";
   EXPECT_EQ(CountBroadcasts(), 1);
-  EXPECT_TRUE(HasValue(L"OnClick"));
-  EXPECT_TRUE(HasValue(L"CatColor.Work", L"\\Categories"));
-  EXPECT_FALSE(HasValue(L"CatColor.Home", L"\\Categories"));
-  EXPECT_GT(device.files.Contents(kFiltersFile)->size(), 1000u);
+  EXPECT_TRUE(Stored(SettingKey::kRoot, L"OnClick"));
+  EXPECT_TRUE(Stored(SettingKey::kCategories, L"CatColor.Work"));
+  EXPECT_FALSE(Stored(SettingKey::kCategories, L"CatColor.Home"));
+  EXPECT_GT(files.Contents(kFiltersFile)->size(), 1000u);
 }
 
 // The system swallows what goes wrong while it has a window made.
@@ -84,17 +84,17 @@ struct BreakingLibraries final : ResourceLibraries {
 
 TEST_F(DoneTest, AStartThatBrokeOffSaysSoAndSavesAndTellsNothing) {
   BreakingLibraries breaking;
-  SetDword(L"dHeightLimitLandscape", 1);
-  device.files.Put(kFiltersFile, "an older one");
+  Put(SettingKey::kRoot, L"dHeightLimitLandscape", 1);
+  files.Put(kFiltersFile, "an older one");
   for (ResourceLibraries* libraries : {static_cast<ResourceLibraries*>(&breaking),
-                                       static_cast<ResourceLibraries*>(&device.libraries)}) {
+                                       static_cast<ResourceLibraries*>(&memory.libraries)}) {
     dialogs.shown.clear();
     MainWindowParts parts = Parts();
     parts.openCategories = [&](const std::wstring& path) {
       breaking.Load(path);
       return nullptr;
     };
-    StartOn({registry, device.files, device.locale, *libraries, device.system}, std::move(parts));
+    StartOn({recorded, files, memory.locale, *libraries, memory.system}, std::move(parts));
     EXPECT_FALSE(program->IsComplete());
     Done();
     EXPECT_TRUE(IsOpen());
@@ -104,8 +104,8 @@ TEST_F(DoneTest, AStartThatBrokeOffSaysSoAndSavesAndTellsNothing) {
                                                        L"restart the device."
                                                      : L"text 2020";
     EXPECT_EQ(dialogs.shown, std::vector{L"TW Options: " + said});
-    EXPECT_EQ(registry.CountWrites(), 0);
-    EXPECT_EQ(device.files.Contents(kFiltersFile)->size(), 12u);
+    EXPECT_EQ(recorded.CountWrites(), 0);
+    EXPECT_EQ(files.Contents(kFiltersFile)->size(), 12u);
     EXPECT_EQ(CountBroadcasts(), 0);
   }
 }
@@ -154,14 +154,14 @@ TEST_F(DoneTest, DoneClosesAPageFirstAndTheWindowsEndThePageToo) {
   SendMessageW(Window(), WM_CLOSE, 0, 0);
   EXPECT_FALSE(IsOpen());
   EXPECT_EQ(pagesDestroyed, 2);
-  EXPECT_FALSE(HasValue(L"OnClick")) << "closed from outside, nothing is saved";
+  EXPECT_FALSE(Stored(SettingKey::kRoot, L"OnClick")) << "closed from outside, nothing is saved";
   PumpMessages();
   EXPECT_EQ(CountBroadcasts(), 0);
 }
 
 TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
-  device.files.MakeFolder(L"\\My Documents");
-  SetDword(L"OnClick", 2);
+  files.MakeFolder(L"\\My Documents");
+  Put(SettingKey::kRoot, L"OnClick", 2);
   Start();
   TapBar(true);
   RunRow(0);
@@ -182,8 +182,9 @@ TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
   EXPECT_FALSE(IsOpen());
   PumpMessages();
   EXPECT_EQ(CountBroadcasts(), 1);
-  EXPECT_FALSE(HasValue(L"IndentItems")) << "edits of before are not saved over the import";
-  EXPECT_TRUE(device.files.Find(L"\\My Documents\\TW_BeforeImport_2008_03_14_090500.twsb"));
+  EXPECT_FALSE(Stored(SettingKey::kRoot, L"IndentItems"))
+      << "edits of before are not saved over the import";
+  EXPECT_TRUE(files.Find(L"\\My Documents\\TW_BeforeImport_2008_03_14_090500.twsb"));
 }
 
 TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
@@ -193,8 +194,8 @@ TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
   Start();
   TapBar(true);
   RunRow(1);
-  device.files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n"));
-  device.files.SetWriteProtected(true);
+  files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n"));
+  files.SetWriteProtected(true);
   RunRow(0);
   RunRow(1);
   EXPECT_EQ(dialogs.shown,
@@ -202,8 +203,8 @@ TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
                                        L"text 608: text 607 \"" + backup + L"\"\n\ntext 2030",
                                        L"text 2037: text 2036 [no]"}));
   dialogs.shown.clear();
-  device.files.SetWriteProtected(false);
-  device.files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n\n[\\A]\n"));
+  files.SetWriteProtected(false);
+  files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n\n[\\A]\n"));
   RunRow(1);
   EXPECT_EQ(dialogs.shown, std::vector{outside});
   dialogs.shown.clear();

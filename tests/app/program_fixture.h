@@ -9,21 +9,15 @@
 #include <vector>
 
 #include "app/main_window.h"
-#include "platform/memory/memory_machine.h"
-#include "platform/memory/recorded_files.h"
-#include "platform/memory/recorded_registry.h"
-#include "tests/support/catalog_support.h"
-#include "tests/support/fake_dialogs.h"
-#include "tests/support/registry_support.h"
+#include "tests/support/test_device.h"
 #include "tests/support/window_support.h"
 
 namespace tidewell {
 
-inline constexpr wchar_t kRootKey[] = L"Software\\Velmont\\Tidewell";
 inline constexpr wchar_t kEnglishLibrary[] =
     L"\\Program Files\\Velmont\\Tidewell\\LangRes\\TWEngRc.dll";
 
-class ProgramTest : public testing::Test {
+class ProgramTest : public testing::Test, protected TestDevice {
  protected:
   ProgramTest() {
     MemoryLibraries::Texts texts;
@@ -32,7 +26,7 @@ class ProgramTest : public testing::Test {
           613,  614,  617,  618,  619,  620,  621,  622,  624,  625, 626, 1259, 1260, 1432}) {
       texts[id] = L"text " + std::to_wstring(id);
     }
-    device.libraries.Put(kEnglishLibrary, std::move(texts));
+    memory.libraries.Put(kEnglishLibrary, std::move(texts));
   }
   // What a test leaves of the end of the loop must not end the next one.
   ~ProgramTest() override {
@@ -40,11 +34,9 @@ class ProgramTest : public testing::Test {
     PumpMessages();
   }
 
-  void Start() {
-    StartOn({registry, files, device.locale, device.libraries, device.system}, Parts());
-  }
-  void StartOn(Machine machine, MainWindowParts parts) {
-    program = std::make_unique<MainWindow>(GetModuleHandleW(nullptr), machine, std::move(parts));
+  void Start() { StartOn(machine, Parts()); }
+  void StartOn(const Machine& itsMachine, MainWindowParts parts) {
+    program = std::make_unique<MainWindow>(GetModuleHandleW(nullptr), itsMachine, std::move(parts));
     ASSERT_TRUE(program->Create());
     PumpMessages();
   }
@@ -53,14 +45,6 @@ class ProgramTest : public testing::Test {
     return {[this](int page, HWND host, PageContext&) { return MakePage(page, host); },
             [this](const std::wstring&) { return std::make_unique<ListedCategories>(categories); },
             &dialogs};
-  }
-
-  void SetDword(const std::wstring& name, std::uint32_t value) {
-    tidewell::SetDword(device.registry, RegistryRoot::kCurrentUser, kRootKey, name, value);
-  }
-  bool HasValue(const std::wstring& name, const wchar_t* subkey = L"") {
-    const std::wstring key = std::wstring(kRootKey) + subkey;
-    return FindDword(device.registry, RegistryRoot::kCurrentUser, key, name).has_value();
   }
 
   HWND Window() const { return program->Window(); }
@@ -106,12 +90,8 @@ class ProgramTest : public testing::Test {
     return made;
   }
 
-  MemoryMachine device;
-  RecordedRegistry registry{device.registry};
-  RecordedFiles files{device.files};
   std::unique_ptr<MainWindow> program;
   std::vector<PimCategory> categories;
-  FakeDialogs dialogs;
   bool hasPages = false;
   int pageAsked = -1;
   HWND pageWindow = nullptr;

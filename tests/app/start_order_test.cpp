@@ -15,29 +15,29 @@ TEST_F(ProgramTest, TheLibrariesAndTheCategoriesFollowTheSettingsAndAreLetGo) {
   const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell";
   for (const auto& c : cases) {
     SCOPED_TRACE(c.dpi);
-    device.libraries = {};
-    device.libraries.Put(kEnglishLibrary, {});
-    device.libraries.Put(folder + c.pictures, {});
-    device.system.screen.dpiX = device.system.screen.dpiY = c.dpi;
-    SetDword(L"MyVgaMode", c.vgaMode);
+    memory.libraries = {};
+    memory.libraries.Put(kEnglishLibrary, {});
+    memory.libraries.Put(folder + c.pictures, {});
+    memory.system.screen.dpiX = memory.system.screen.dpiY = c.dpi;
+    Put(SettingKey::kRoot, L"MyVgaMode", c.vgaMode);
     MainWindowParts parts = Parts();
     std::wstring icons;
     parts.openCategories = [&](const std::wstring& iconsFolder) {
       icons = iconsFolder;
       return std::make_unique<ListedCategories>(categories);
     };
-    StartOn(device.Door(), std::move(parts));
-    EXPECT_EQ(device.libraries.LoadedCount(), 2);
+    StartOn(memory.Door(), std::move(parts));
+    EXPECT_EQ(memory.libraries.LoadedCount(), 2);
     EXPECT_EQ(icons, folder + L"\\CategoryIcons");
     DestroyWindow(Window());
-    EXPECT_EQ(device.libraries.LoadedCount(), 0);
+    EXPECT_EQ(memory.libraries.LoadedCount(), 0);
     EXPECT_TRUE(PumpMessages()) << "the message loop ends";
   }
 }
 
 TEST_F(ProgramTest, TheWindowFillsItsPlaceWithoutAFrameAndAnExitWritesAndTellsNothing) {
   const TestWindow full(0x14000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kDefaultPlace);
-  SetDword(L"dHeightLimitLandscape", 1);  // which a save repairs
+  Put(SettingKey::kRoot, L"dHeightLimitLandscape", 1);  // which a save repairs
   Start();
   const RECT place = WindowRect(Window());
   const RECT wanted = WindowRect(full.Get());
@@ -49,7 +49,7 @@ TEST_F(ProgramTest, TheWindowFillsItsPlaceWithoutAFrameAndAnExitWritesAndTellsNo
   RunRow(2);
   PumpMessages();
   EXPECT_FALSE(IsOpen());
-  EXPECT_EQ(registry.CountWrites(), 0);
+  EXPECT_EQ(recorded.CountWrites(), 0);
   EXPECT_EQ(full.Count(RegisterWindowMessageW(L"VelmontTidewellSettingsChanged")), 0);
 }
 

@@ -5,9 +5,8 @@
 #include <algorithm>
 #include <fstream>
 
-#include "platform/memory/recorded_registry.h"
-#include "tests/support/catalog_support.h"
-#include "tests/support/registry_support.h"
+#include "tests/support/backup_text.h"
+#include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
 #include "tests/text_format/rules_file.h"
 
@@ -19,36 +18,24 @@ using namespace std::string_literals;
 constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kRoot(kProductKey);
 
-class RegistryText : public testing::Test {
+class RegistryText : public testing::Test, protected TestDevice {
  protected:
   static std::string WriteTree(Registry& from) {
-    ByteSink sink;
-    TextWriter writer(sink);
-    WriteKeyTree(from, L"K", writer);
-    EXPECT_TRUE(writer.Flush());
-    return Utf8(TextOfBytes(sink.bytes));
+    return Utf8(Written([&](TextWriter& writer) { WriteKeyTree(from, L"K", writer); }));
   }
-  std::string Dump(const std::wstring& path) { return DumpTree(registry, kUser, path); }
-  void Put(const wchar_t* name, std::uint32_t type, std::span<const std::byte> data) {
-    SetRaw(registry, kUser, L"K", name, type, data);
-  }
-
-  CatalogMachine machine;
-  MemoryRegistry& registry = machine.memory.registry;
-  CategoryCatalog& catalog = machine.catalog;
 };
 
 // ---- Writing
 
 TEST_F(RegistryText, ABackupHoldsTheTreeDepthFirstThenCategoriesThenFilters) {
-  machine.Start({L"Work", L"caf\x00E9"});
-  registry.DeleteTree(kUser, kRoot);
-  SetString(registry, kUser, kRoot, L"SkinPath", L"\\My \"Skin\"");
-  SetDword(registry, kUser, kRoot, L"Color", 0xFFFFFFFF);
-  SetDword(registry, kUser, kRoot + L"\\B\\Inner", L"Deep", 1);
-  SetBinary(registry, kUser, kRoot + L"\\B", L"State", {1, 2});
-  SetDword(registry, kUser, kRoot + L"\\B", L"After", 0x80000000);
-  SetString(registry, kUser, kRoot + L"\\A", L"", L"unnamed\nwith a break");
+  LoadWith({L"Work", L"caf\x00E9"});
+  Delete(kRoot);
+  Put(kRoot, L"SkinPath", L"\\My \"Skin\"");
+  Put(kRoot, L"Color", 0xFFFFFFFF);
+  Put(kRoot + L"\\B\\Inner", L"Deep", 1);
+  PutBytes(kRoot + L"\\B", L"State", {1, 2});
+  Put(kRoot + L"\\B", L"After", 0x80000000);
+  Put(kRoot + L"\\A", L"", L"unnamed\nwith a break");
   catalog.FindCategory(L"Work")->filterFlags = 0x80000001;
   catalog.FindCategory(L"Work")->color = 0x00FF8000;
   catalog.Filters()[31] = {L"Last", 3, false, true, 32};
@@ -86,11 +73,11 @@ TEST_F(RegistryText, AValueThatDoesNotFitEndsTheListOfItsKeyAlone) {
                         {1, kTypeBinary, 257, false},
                         {255, kTypeDword, 4, true},
                         {256, kTypeDword, 4, false}}) {
-    registry.DeleteTree(kUser, L"K");
-    SetDword(registry, kUser, L"K", L"before", 1);
-    Put(std::wstring(c.nameUnits, L'n').c_str(), c.type, std::vector<std::byte>(c.bytes));
-    SetDword(registry, kUser, L"K", L"after", 2);
-    SetDword(registry, kUser, L"K\\Sub", L"in", 3);
+    Delete(L"K");
+    Put(L"K", L"before", 1);
+    PutRaw(L"K", std::wstring(c.nameUnits, L'n'), c.type, std::vector<std::byte>(c.bytes));
+    Put(L"K", L"after", 2);
+    Put(L"K\\Sub", L"in", 3);
     const std::string text = WriteTree(registry);
     EXPECT_TRUE(text.starts_with("\n[K]\n\"before\"=dword:1\n")) << c.bytes;
     EXPECT_EQ(text.find("\"after\"") != std::string::npos, c.fits);
@@ -102,20 +89,20 @@ TEST_F(RegistryText, DataIsWrittenAsFarAsItIsText) {
   EXPECT_EQ(WriteTree(registry), "\n[K]\n");
   EXPECT_EQ(Dump(L"K"), "[K]\n") << "a missing key is created";
   const std::vector<std::byte> ab = BytesOf(L"ab");
-  Put(L"1", kTypeString, ab);
-  Put(L"2", kTypeString, std::span(ab).first(3));
-  Put(L"3", kTypeString, {});
-  Put(L"4", kTypeString, BytesOf(L"x\0y"s));
-  Put(L"5", kTypeDword, std::span(ab).first(3));
-  Put(L"6", kTypeDword, {});
-  Put(L"7", 2, BytesOf(L"%windir%"));
+  PutRaw(L"K", L"1", kTypeString, ab);
+  PutRaw(L"K", L"2", kTypeString, std::span(ab).first(3));
+  PutRaw(L"K", L"3", kTypeString, {});
+  PutRaw(L"K", L"4", kTypeString, BytesOf(L"x\0y"s));
+  PutRaw(L"K", L"5", kTypeDword, std::span(ab).first(3));
+  PutRaw(L"K", L"6", kTypeDword, {});
+  PutRaw(L"K", L"7", 2, BytesOf(L"%windir%"));
   EXPECT_EQ(WriteTree(registry),
             "\n[K]\n\"1\"=\"ab\"\n\"2\"=\"a\"\n\"3\"=\"\"\n\"4\"=\"x\"\n"
             "\"5\"=dword:6422625\n\"6\"=dword:0\n");
 }
 
 TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
-  machine.Start({std::wstring(786, L'c'), std::wstring(787, L'd')});
+  LoadWith({std::wstring(786, L'c'), std::wstring(787, L'd')});
   catalog.Filters()[0].title = std::wstring(784, L't');
   catalog.Filters()[1].title = std::wstring(785, L'u');
   const std::wstring text = ExportText(registry, catalog);
@@ -128,7 +115,7 @@ TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
 
   std::wstring deep = L"K";
   for (int i = 0; i < 4; ++i) deep += L'\\' + std::wstring(255, L'k');
-  SetDword(registry, kUser, deep, L"lost", 1);
+  Put(deep, L"lost", 1);
   EXPECT_EQ(std::ranges::count(WriteTree(registry), '['), 4) << "769 units fit, 1025 do not";
 }
 
@@ -136,22 +123,21 @@ TEST_F(RegistryText, WhatDoesNotFitALineIsLeftOutWhole) {
 
 TEST_F(RegistryText, WhatOneCallRefusesIsAllThatACopyLacks) {
   for (const wchar_t* key : {L"K", L"K\\A", L"K\\B"}) {
-    SetDword(registry, kUser, key, L"x", 1);
-    SetDword(registry, kUser, key, L"y", 2);
+    Put(key, L"x", 1);
+    Put(key, L"y", 2);
   }
-  RecordedRegistry recorded(registry);
   // A key that is refused takes its values along; the end of a list has none.
   constexpr int kLost[] = {6, 1, 1, 0, 2, 2, 1, 1, 0, 0, 2, 2, 1, 1, 0, 0, 0};
   for (std::size_t call = 0; call <= std::size(kLost); ++call) {
     recorded.Calls().Reset();
     recorded.Calls().FailNth(static_cast<int>(call) + 1);
-    ByteSink sink;
-    TextWriter writer(sink);
-    const bool isWhole = WriteKeyTree(recorded, L"K", writer, TextKind::kCopy);
-    EXPECT_TRUE(writer.Flush());
+    bool isWhole = false;
+    const std::wstring text = Written([&](TextWriter& writer) {
+      isWhole = WriteKeyTree(recorded, L"K", writer, TextKind::kCopy);
+    });
     EXPECT_EQ(isWhole, call == std::size(kLost)) << call;
     const int lost = isWhole ? 0 : kLost[call];
-    EXPECT_EQ(std::ranges::count(TextOfBytes(sink.bytes), L':'), 6 - lost) << call;
+    EXPECT_EQ(std::ranges::count(text, L':'), 6 - lost) << call;
   }
 }
 
@@ -162,7 +148,7 @@ TEST_F(RegistryText, OnlyTheMarkOnTheSecondLineMakesACopy) {
   EXPECT_EQ(Dump(L"K").find("a = 7"), std::string::npos);
   EXPECT_EQ(Dump(L"K").find("long"), std::string::npos);
   EXPECT_TRUE(ImportText(registry, catalog, L"\n" + std::wstring(kCopyMark) + section));
-  EXPECT_EQ(FindDword(registry, kUser, L"K", L"a"), 7u);
+  EXPECT_EQ(Stored(L"K", L"a"), 7u);
   EXPECT_NE(Dump(L"K").find("long"), std::string::npos);
 }
 
@@ -228,7 +214,7 @@ TEST_F(RegistryText, AnImportLeavesExactlyWhatTheRulesSay) {
     std::wstring left;
     while (std::getline(rules, line) && !line.empty()) left += Expanded(line);
     MemoryRegistry empty;
-    machine.Start({L"Work"});
+    LoadWith({L"Work"});
     catalog.FindCategory(L"Work")->filterFlags = 9;
     catalog.FindCategory(L"Work")->color = 8;
     EXPECT_TRUE(ImportText(empty, catalog, text));
@@ -238,12 +224,11 @@ TEST_F(RegistryText, AnImportLeavesExactlyWhatTheRulesSay) {
 }
 
 TEST_F(RegistryText, AKeyThatCannotBeCreatedEndsTheImportThere) {
-  RecordedRegistry recorded(registry);
   const std::wstring text = L"\n[A]\n\"x\"=dword:1\n\n[B]\n\"x\"=dword:1\n\n[C]\n";
   recorded.Calls().FailNth(4);  // create, set, create, set: the second section's value is lost
   EXPECT_TRUE(ImportText(recorded, catalog, text));
   EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 1\n[B]\n[C]\n");
-  registry.DeleteTree(kUser, L"C");
+  Delete(L"C");
   recorded.Calls().Reset();
   recorded.Calls().FailNth(3);
   EXPECT_FALSE(ImportText(recorded, catalog, text));
@@ -251,7 +236,6 @@ TEST_F(RegistryText, AKeyThatCannotBeCreatedEndsTheImportThere) {
 }
 
 TEST_F(RegistryText, EveryKeyIsOpenedOnceAndEveryValueWrittenOnce) {
-  RecordedRegistry recorded(registry);
   const std::wstring text = L"\n[K]\n\"x\"=dword:0\n\"y\"=\"\"\n\n[K\\B]\n\"z\"=\"abcd\"\n";
   EXPECT_TRUE(ImportText(recorded, catalog, text));
   EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 2);

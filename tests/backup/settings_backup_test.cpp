@@ -4,14 +4,13 @@
 
 #include <algorithm>
 
-#include "tests/support/catalog_support.h"
-#include "tests/support/registry_support.h"
+#include "platform/text.h"
+#include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
-constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kRoot(kProductKey);
 const std::wstring kFiltersFile = L"\\Program Files\\Velmont\\Tidewell\\TWFilters.txt";
 const std::wstring kBackup = L"\\My Documents\\a.twsb";
@@ -19,14 +18,14 @@ const std::wstring kCopy = L"\\My Documents\\TW_BeforeImport_2026_11_15_235907.t
 const std::wstring kSecondCopy = L"\\My Documents\\TW_BeforeImport_2026_11_15_235907_2.twsb";
 const std::wstring kUnfinished = L"\\My Documents\\~TidewellSettings1.tmp";
 
-class SettingsBackupTest : public testing::Test {
+class SettingsBackupTest : public testing::Test, protected TestDevice {
  protected:
   SettingsBackupTest() {
     files.Put(L"\\My Documents\\");
     files.Put(L"\\Program Files\\Velmont\\Tidewell\\");
-    SetDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays", 14);
-    machine.memory.locale.now = {2026, 11, 15, 23, 59, 7};
-    machine.Start({L"Home", L"Work"});
+    Put(SettingKey::kCalendar, L"dNumOfDays", 14);
+    memory.locale.now = {2026, 11, 15, 23, 59, 7};
+    LoadWith({L"Home", L"Work"});
   }
 
   ImportResult Import(const std::wstring& path = kBackup) {
@@ -38,8 +37,7 @@ class SettingsBackupTest : public testing::Test {
                                       asked += "no copy?";
                                       return answer;
                                     }};
-    const ImportOutcome outcome =
-        backup.ImportFrom(path, questions, ScreenScale(), machine.language);
+    const ImportOutcome outcome = backup.ImportFrom(path, questions, scale, language);
     copy = outcome.copy;
     return outcome.result;
   }
@@ -57,12 +55,9 @@ class SettingsBackupTest : public testing::Test {
   std::string TextOf(const std::wstring& path) {
     return Utf8(TextOfBytes(files.Contents(path).value_or(std::vector<std::byte>())));
   }
-  std::string Tree() { return DumpTree(registry, kUser, kRoot); }
+  std::string Tree() { return Dump(kRoot); }
 
-  CatalogMachine machine;
-  MemoryRegistry& registry = machine.memory.registry;
-  MemoryFiles& files = machine.memory.files;
-  SettingsBackup backup{machine.RecordedMachine(), machine.store, machine.catalog};
+  SettingsBackup backup{machine, store, catalog};
   std::string asked;
   bool answer = false;
   std::wstring copy;
@@ -73,25 +68,25 @@ TEST_F(SettingsBackupTest, TheDefaultNameBearsTheDate) {
 }
 
 TEST_F(SettingsBackupTest, AnExportedAndImportedDeviceIsTheSameAndItsStoresAreSaved) {
-  SetString(registry, kUser, kRoot, L"a b%", L"100% \"quoted\" =dword: [\x0100]");
-  SetString(registry, kUser, kRoot + L"\\Tab [1]\\\x4E2D", L"n", std::wstring(127, L'\x20AC'));
-  machine.catalog.FindCategory(L"Work")->color = 0xFF;
-  machine.catalog.Filters()[0].title = L"Mine";
-  machine.catalog.SaveCategoryValues();
-  machine.catalog.SaveFiltersFile();
+  Put(kRoot, L"a b%", L"100% \"quoted\" =dword: [\x0100]");
+  Put(kRoot + L"\\Tab [1]\\\x4E2D", L"n", std::wstring(127, L'\x20AC'));
+  catalog.FindCategory(L"Work")->color = 0xFF;
+  catalog.Filters()[0].title = L"Mine";
+  catalog.SaveCategoryValues();
+  catalog.SaveFiltersFile();
   const std::string tree = Tree();
   const std::string filters = TextOf(kFiltersFile);
   ASSERT_TRUE(backup.ExportTo(kBackup));
 
-  registry.DeleteTree(kUser, kRoot);
+  Delete(kRoot);
   files.Remove(kFiltersFile);
-  machine.Start({L"Home", L"Work"});
-  SetDword(registry, kUser, kRoot + L"\\Later", L"x", 1);
-  EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 7u);
+  LoadWith({L"Home", L"Work"});
+  Put(kRoot + L"\\Later", L"x", 1);
+  EXPECT_EQ(store.calendar.dNumOfDays.Value(), 7u);
   ASSERT_EQ(Import(), ImportResult::kDone);
   EXPECT_EQ(Tree(), tree);
   EXPECT_EQ(TextOf(kFiltersFile), filters);
-  EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 14u);
+  EXPECT_EQ(store.calendar.dNumOfDays.Value(), 14u);
 }
 
 TEST_F(SettingsBackupTest, AFileThatIsNoBackupChangesNothing) {
@@ -103,37 +98,37 @@ TEST_F(SettingsBackupTest, AFileThatIsNoBackupChangesNothing) {
   answer = true;
   EXPECT_EQ(Import(), ImportResult::kRefused);
   PutText(kBackup, L"\n" + std::wstring(kLargestBackup / 2, L'x'));
-  machine.files.Calls().Reset();
+  recordedFiles.Calls().Reset();
   EXPECT_EQ(Import(), ImportResult::kRefused);
-  EXPECT_LE(machine.files.Count(FileCall::kRead), 1) << "only whether it is a copy";
+  EXPECT_LE(recordedFiles.Count(FileCall::kRead), 1) << "only whether it is a copy";
   PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n");
-  machine.files.Calls().FailEvery(FileCall::kRead);
+  recordedFiles.Calls().FailEvery(FileCall::kRead);
   EXPECT_EQ(Import(), ImportResult::kRefused);
   EXPECT_EQ(Tree(), tree);
   EXPECT_TRUE(Copies().empty());
 }
 
 TEST_F(SettingsBackupTest, ThePresentSettingsAreCopiedBeforeTheImportAndComeBackFromTheCopy) {
-  SetString(registry, kUser, kRoot, L"SkinPath", std::wstring(9000, L's'));
-  SetBinary(registry, kUser, kRoot, L"Huge", std::vector<unsigned char>(5'000'000));
-  machine.Start({L"A\nB"});
-  machine.catalog.FindCategory(L"A\nB")->color = 5;
-  machine.catalog.Filters()[2].title = std::wstring(2000, L't');
-  machine.catalog.SaveCategoryValues();
+  Put(kRoot, L"SkinPath", std::wstring(9000, L's'));
+  PutBytes(kRoot, L"Huge", std::vector<unsigned char>(5'000'000));
+  LoadWith({L"A\nB"});
+  catalog.FindCategory(L"A\nB")->color = 5;
+  catalog.Filters()[2].title = std::wstring(2000, L't');
+  catalog.SaveCategoryValues();
   const std::string tree = Tree();
   PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n\"OnClick\"=dword:1\n");
   ASSERT_EQ(Import(), ImportResult::kDone);
-  EXPECT_EQ(FindDword(registry, kUser, kRoot, L"OnClick"), 1u);
-  EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays"), std::nullopt);
+  EXPECT_EQ(Stored(kRoot, L"OnClick"), 1u);
+  EXPECT_EQ(Stored(SettingKey::kCalendar, L"dNumOfDays"), std::nullopt);
   const std::string original = TextOf(kCopy);
   ASSERT_GT(original.size(), kLargestBackup / 2);
-  machine.catalog.FindCategory(L"A\nB")->color = 6;
-  machine.catalog.Filters()[2].title.clear();
+  catalog.FindCategory(L"A\nB")->color = 6;
+  catalog.Filters()[2].title.clear();
   ASSERT_EQ(Import(), ImportResult::kDone) << "in the same second";
   EXPECT_EQ(L"\\My Documents\\" + copy, kSecondCopy);
   ASSERT_EQ(Import(kCopy), ImportResult::kDone);
   EXPECT_EQ(Tree(), tree);
-  EXPECT_EQ(machine.catalog.Filters()[2].title, std::wstring(2000, L't'));
+  EXPECT_EQ(catalog.Filters()[2].title, std::wstring(2000, L't'));
   EXPECT_EQ(TextOf(kCopy), original);
 }
 
@@ -147,7 +142,7 @@ TEST_F(SettingsBackupTest, OfTheCopiesTheFiveNewestStay) {
                                  L"TW_BeforeImport_mine.twsb"};
   for (const std::wstring& name : others) PutText(L"\\My Documents\\" + name, L"a user's");
   for (int i = 0; i < 12; ++i) ASSERT_EQ(Import(), ImportResult::kDone);
-  machine.memory.locale.now = {2003, 1, 1, 0, 0, 0};
+  memory.locale.now = {2003, 1, 1, 0, 0, 0};
   ASSERT_EQ(Import(), ImportResult::kDone);
   std::vector<std::wstring> expected(std::begin(others), std::end(others));
   expected.push_back(L"TW_BeforeImport_2003_01_01_000000.twsb");
@@ -166,10 +161,10 @@ TEST_F(SettingsBackupTest, WithoutACopyTheUserDecides) {
   const std::pair<const char*, std::function<void()>> cases[] = {
       {"full", [&] { files.SetFreeBytes(100); }},
       {"locked", [&] { files.SetWriteProtected(true); }},
-      {"refused value", [&] { machine.registry.Calls().FailNth(2); }}};
+      {"refused value", [&] { recorded.Calls().FailNth(2); }}};
   for (const auto& [name, prepare] : cases) {
     asked.clear();
-    machine.registry.Calls().Reset();
+    recorded.Calls().Reset();
     prepare();
     EXPECT_EQ(Import(), ImportResult::kDeclined) << name;
     EXPECT_EQ(asked, "no copy?") << name;
@@ -182,8 +177,8 @@ TEST_F(SettingsBackupTest, WithoutACopyTheUserDecides) {
   files.SetFreeBytes(100);
   answer = true;
   EXPECT_EQ(Import(), ImportResult::kDone);
-  EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Tasks", L"x"), 1u);
-  EXPECT_EQ(FindDword(registry, kUser, kRoot + L"\\Calendar", L"dNumOfDays"), std::nullopt);
+  EXPECT_EQ(Stored(SettingKey::kTasks, L"x"), 1u);
+  EXPECT_EQ(Stored(SettingKey::kCalendar, L"dNumOfDays"), std::nullopt);
 }
 
 TEST_F(SettingsBackupTest, WhatWritesOutsideTheProductIsImportedOnlyWhenTheUserWants) {
@@ -195,16 +190,16 @@ TEST_F(SettingsBackupTest, WhatWritesOutsideTheProductIsImportedOnlyWhenTheUserW
   EXPECT_TRUE(Copies().empty());
   answer = true;
   EXPECT_EQ(Import(), ImportResult::kDone);
-  EXPECT_EQ(FindDword(registry, kUser, L"Control Panel", L"x"), 1u);
+  EXPECT_EQ(Stored(L"Control Panel", L"x"), 1u);
 }
 
 TEST_F(SettingsBackupTest, TheCategoriesOfTheRecordsWinOverTheirImportedValues) {
-  machine.catalog.FindCategory(L"Work")->color = 0xFF;
+  catalog.FindCategory(L"Work")->color = 0xFF;
   PutText(kBackup,
           L"\n[Software\\Velmont\\Tidewell]\n\n[Software\\Velmont\\Tidewell\\Categories]\n"
           L"\"CatColor.Work\"=dword:1\n\"CatFilter.Work\"=dword:2\n\"CatColor.Gone\"=dword:3\n");
   ASSERT_EQ(Import(), ImportResult::kDone);
-  EXPECT_EQ(DumpTree(registry, kUser, kRoot + L"\\Categories"),
+  EXPECT_EQ(Dump(SettingKey::kCategories),
             "[Software\\Velmont\\Tidewell\\Categories]\nCatColor.Gone = 3\nCatColor.Work = 255\n");
 }
 
@@ -214,7 +209,7 @@ TEST_F(SettingsBackupTest, AKeyThatCannotBeCreatedLeavesAPartWithoutAReloadAndTh
   answer = true;
   EXPECT_EQ(Import(), ImportResult::kReplacedInPart);
   EXPECT_EQ(L"\\My Documents\\" + copy, kCopy);
-  EXPECT_EQ(machine.store.calendar.dNumOfDays.Value(), 14u);
+  EXPECT_EQ(store.calendar.dNumOfDays.Value(), 14u);
   EXPECT_NE(Tree(), tree);
   EXPECT_EQ(Import(kCopy), ImportResult::kDone);
   EXPECT_EQ(Tree(), tree);
@@ -225,18 +220,18 @@ TEST_F(SettingsBackupTest, WhateverFailsABackupIsTheOldOrTheNewOneWhole) {
   const std::string whole = TextOf(kBackup);
   PutText(kBackup, L"old backup");
   for (int call = 3; call <= 5; ++call) {  // after list and create: write, close, replace
-    machine.files.Calls().Reset();
-    machine.files.Calls().FailNth(call);
+    recordedFiles.Calls().Reset();
+    recordedFiles.Calls().FailNth(call);
     EXPECT_FALSE(backup.ExportTo(kBackup)) << call;
     EXPECT_EQ(TextOf(kBackup), "old backup") << call;
     EXPECT_FALSE(files.Find(kUnfinished)) << call;
   }
-  machine.files.Calls().Reset();
-  machine.registry.Calls().Reset();
-  machine.registry.Calls().FailNth(1);
+  recordedFiles.Calls().Reset();
+  recorded.Calls().Reset();
+  recorded.Calls().FailNth(1);
   EXPECT_FALSE(backup.ExportTo(kBackup)) << "the product's key";
   EXPECT_EQ(TextOf(kBackup), "old backup");
-  machine.files.Calls().Reset();
+  recordedFiles.Calls().Reset();
   files.SetFreeBytes(whole.size());  // two bytes a unit are twice that
   EXPECT_FALSE(backup.ExportTo(kBackup));
   EXPECT_EQ(TextOf(kBackup), "old backup");

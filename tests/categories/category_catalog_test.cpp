@@ -3,34 +3,28 @@
 #include <gtest/gtest.h>
 
 #include "categories/filters_file.h"
-#include "tests/support/catalog_support.h"
-#include "tests/support/registry_support.h"
+#include "platform/text.h"
+#include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
-constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kRoot = L"Software\\Velmont\\Tidewell\\";
-const std::wstring kCategories = kRoot + L"Categories";
+constexpr SettingKey kCategories = SettingKey::kCategories;
 const std::wstring kFiltersFile = L"\\Card\\TWFilters.txt";
 
-class Catalog : public testing::Test {
+class Catalog : public testing::Test, protected TestDevice {
  protected:
   Catalog() {
     files.Put(L"\\Card\\");
-    SetString(registry, kUser, std::wstring(kProductKey), L"TWFiltersFileFolder", L"\\Card");
-    machine.Start();
+    Put(SettingKey::kRoot, L"TWFiltersFileFolder", L"\\Card");
+    LoadWith({});
   }
-
-  CatalogMachine machine;
-  MemoryRegistry& registry = machine.memory.registry;
-  MemoryFiles& files = machine.memory.files;
-  CategoryCatalog& catalog = machine.catalog;
 };
 
 TEST_F(Catalog, CategoriesStandByNameAndTheFirstOfEqualNamesStays) {
-  machine.Start({L"Old", L"b"});
+  LoadWith({L"Old", L"b"});
   ListedCategories source(
       {{L"b", 5}, {L"A", 3}, {L"B", 6}, {L"", 7}, {L"d", PimCategory::kNoId}, {L"c", 65534}});
   catalog.Rebuild(source, L"Everything");
@@ -43,15 +37,15 @@ TEST_F(Catalog, CategoriesStandByNameAndTheFirstOfEqualNamesStays) {
 }
 
 TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
-  SetDword(registry, kUser, kCategories, L"CatColor.Gone", 7);
-  SetDword(registry, kUser, kCategories, L"CatColor.C", 8);
-  SetBinary(registry, kUser, kCategories, L"CatFilter.C", {1, 2, 3, 4});
-  machine.registry.Calls().Reset();
-  machine.Start({L"A", L"B \x00DC", L"C"});
+  Put(kCategories, L"CatColor.Gone", 7);
+  Put(kCategories, L"CatColor.C", 8);
+  PutBytes(kCategories, L"CatFilter.C", {1, 2, 3, 4});
+  recorded.Calls().Reset();
+  LoadWith({L"A", L"B \x00DC", L"C"});
   CategoryRecord& c = *catalog.FindCategory(L"C");
   EXPECT_EQ(c.color, 8u);
   EXPECT_EQ(c.filterFlags, 0x04030201u) << "four bytes of any type";
-  EXPECT_EQ(machine.registry.Count(RegistryCall::kCreate), 1);
+  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 1);
 
   c.color = CategoryRecord::kNoColor;
   c.filterFlags = 0;
@@ -62,28 +56,28 @@ TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
       "CatColor.A = 0\nCatColor.Gone = 7\nCatFilter.B \xC3\x9C = 2147483648\n";
   for (int save = 1; save <= 2; ++save) {
     catalog.SaveCategoryValues();
-    EXPECT_EQ(DumpTree(registry, kUser, kCategories), saved);
-    EXPECT_EQ(machine.registry.CountWrites(), 4);
+    EXPECT_EQ(Dump(kCategories), saved);
+    EXPECT_EQ(recorded.CountWrites(), 4);
   }
   // Whatever wrote the values since, the records win.
-  SetBinary(registry, kUser, kCategories, L"CatColor.A", {0, 0, 0, 0});
-  SetDword(registry, kUser, kCategories, L"CatFilter.C", 1);
+  PutBytes(kCategories, L"CatColor.A", {0, 0, 0, 0});
+  Put(kCategories, L"CatFilter.C", 1);
   catalog.SaveCategoryValues();
-  EXPECT_EQ(DumpTree(registry, kUser, kCategories), saved);
+  EXPECT_EQ(Dump(kCategories), saved);
 }
 
 TEST_F(Catalog, WhatIsRefusedAtLoadIsADefaultThatDeletesNothing) {
-  SetDword(registry, kUser, kCategories, L"CatColor.A", 7);
-  SetDword(registry, kUser, kCategories, L"CatFilter.A", 8);
-  const std::string tree = DumpTree(registry, kUser, kCategories);
+  Put(kCategories, L"CatColor.A", 7);
+  Put(kCategories, L"CatFilter.A", 8);
+  const std::string tree = Dump(kCategories);
   for (int n = 1; n <= 3; ++n) {
-    machine.registry.Calls().Reset();
-    machine.registry.Calls().FailNth(n);
-    machine.Start({L"A"});
+    recorded.Calls().Reset();
+    recorded.Calls().FailNth(n);
+    LoadWith({L"A"});
     const CategoryRecord& a = *catalog.FindCategory(L"A");
     EXPECT_TRUE(a.color == CategoryRecord::kNoColor || a.filterFlags == 0) << n;
     catalog.SaveCategoryValues();
-    EXPECT_EQ(DumpTree(registry, kUser, kCategories), tree) << n;
+    EXPECT_EQ(Dump(kCategories), tree) << n;
   }
 }
 
@@ -93,13 +87,13 @@ TEST_F(Catalog, AFiltersFileThatCannotBeReadIsReplacedByNewFiltersAlone) {
   const std::vector<std::byte> own = BytesOf(FormatFilters(filters));
   files.Put(kFiltersFile, own);
   for (const FileCall call : {FileCall::kOpenForReading, FileCall::kRead}) {
-    machine.files.Calls().Reset();
-    machine.files.Calls().FailEvery(call);
-    machine.files.Calls().Watch([&](FileCall present) {  // the card is drawn out, and put back
+    recordedFiles.Calls().Reset();
+    recordedFiles.Calls().FailEvery(call);
+    recordedFiles.Calls().Watch([&](FileCall present) {  // the card is drawn out, and put back
       if (present == call) files.Remove(kFiltersFile);
     });
     EXPECT_FALSE(catalog.LoadFiltersFile());
-    machine.files.Calls().Reset();
+    recordedFiles.Calls().Reset();
     files.Put(kFiltersFile, own);
     EXPECT_FALSE(catalog.SaveFiltersFile());
     EXPECT_EQ(files.Contents(kFiltersFile), own);
@@ -113,18 +107,18 @@ TEST_F(Catalog, TheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
   ASSERT_TRUE(catalog.SaveFiltersFile());
   const auto old = files.Contents(kFiltersFile);
   ASSERT_EQ(old, BytesOf(FormatFilters(DefaultFilters())));
-  machine.files.Calls().Reset();
+  recordedFiles.Calls().Reset();
   EXPECT_TRUE(catalog.SaveFiltersFile());
-  EXPECT_EQ(machine.files.Count(FileCall::kCreateNew), 0);
+  EXPECT_EQ(recordedFiles.Count(FileCall::kCreateNew), 0);
 
   FilterSet filters = DefaultFilters();
   filters[4].title = catalog.Filters()[4].title = L"Fifth";
   const std::vector<std::byte> changed = BytesOf(FormatFilters(filters));
   for (const FileCall call : {FileCall::kWrite, FileCall::kReplace}) {
-    machine.files.Calls().FailEvery(call);
+    recordedFiles.Calls().FailEvery(call);
     EXPECT_FALSE(catalog.SaveFiltersFile());
     EXPECT_EQ(files.Contents(kFiltersFile), old);
-    machine.files.Calls().Reset();
+    recordedFiles.Calls().Reset();
   }
   EXPECT_TRUE(catalog.SaveFiltersFile());
   EXPECT_EQ(files.Contents(kFiltersFile), changed);
@@ -154,10 +148,10 @@ TEST_F(Catalog, EveryViewHasItsOwnCategoryByItsExactNameElseAFilterElseAll) {
       {kSpecialEvents, L"SEvents", 0, "all"}};
   for (const bool isExact : {false, true}) {
     for (const auto& [view, name, filter, shown] : views) {
-      SetDword(registry, kUser, kRoot + name, name + L"SelFilter", filter);
-      SetString(registry, kUser, kRoot + name, name + L"SelCategory", isExact ? name : L"TASKS");
+      Put(kRoot + name, name + L"SelFilter", filter);
+      Put(kRoot + name, name + L"SelCategory", isExact ? name : L"TASKS");
     }
-    machine.Start({L"Calendar", L"Tasks", L"Contacts", L"SEvents"});
+    LoadWith({L"Calendar", L"Tasks", L"Contacts", L"SEvents"});
     for (const auto& [view, name, filter, shown] : views) {
       EXPECT_EQ(Show(catalog.Selected(view)), isExact ? Utf8(name) : shown);
     }

@@ -1,7 +1,7 @@
 #include "backup/settings_backup.h"
+#include "platform/text.h"
 #include "tests/fuzz/fuzz_targets.h"
-#include "tests/support/catalog_support.h"
-#include "tests/support/registry_support.h"
+#include "tests/support/test_device.h"
 
 namespace tidewell::fuzz {
 
@@ -38,32 +38,30 @@ void Fill(Registry& registry, Bytes& input) {
 // nothing, the settings that an import brought can be saved and loaded, and the copy brings back
 // all that was there.
 void import_flow(Bytes bytes) {
-  CatalogMachine machine;
-  MemoryRegistry& registry = machine.memory.registry;
-  const std::wstring root(kProductKey);
-  machine.memory.files.Put(L"\\My Documents\\");
-  Fill(registry, bytes);
-  machine.memory.files.Put(kFile, bytes);
-  machine.Start();
+  TestDevice device;
+  device.files.Put(L"\\My Documents\\");
+  Fill(device.registry, bytes);
+  device.files.Put(kFile, bytes);
+  device.LoadWith({});
   // The store repairs what it loads, now as after going back.
-  machine.store.Save(registry, ScreenScale());
-  const std::string before = DumpTree(registry, kUser, root);
+  device.Save();
+  const std::string before = device.Dump(SettingKey::kRoot);
 
-  SettingsBackup backup(machine.memory.Door(), machine.store, machine.catalog);
+  SettingsBackup backup(device.machine, device.store, device.catalog);
   const ImportQuestions questions{[](const std::wstring&) { return true; }, [] { return false; }};
   const auto import = [&](const std::wstring& path) {
-    return backup.ImportFrom(path, questions, ScreenScale(), machine.language);
+    return backup.ImportFrom(path, questions, device.scale, device.language);
   };
   const ImportOutcome outcome = import(kFile);
   Require(outcome.result != ImportResult::kDeclined);
   if (outcome.result == ImportResult::kRefused) {
-    Require(DumpTree(registry, kUser, root) == before);
+    Require(device.Dump(SettingKey::kRoot) == before);
     return;
   }
-  machine.store.Save(registry, ScreenScale());
-  machine.Start();
+  device.Save();
+  device.LoadWith({});
   Require(import(L"\\My Documents\\" + outcome.copy).result == ImportResult::kDone);
-  Require(DumpTree(registry, kUser, root) == before);
+  Require(device.Dump(SettingKey::kRoot) == before);
 }
 
 }  // namespace tidewell::fuzz

@@ -1,14 +1,14 @@
 #include "tests/fuzz/fuzz_targets.h"
-#include "tests/support/catalog_support.h"
+#include "tests/support/backup_text.h"
+#include "tests/support/test_device.h"
 
 namespace tidewell::fuzz {
 
 // Whatever was read, the device has a backup that the reader takes, no line of it too long.
 void registry_text(Bytes bytes) {
-  static MemoryMachine machine;
-  static const SettingsStore store;
+  static TestDevice device;
   MemoryRegistry registry;
-  CategoryCatalog catalog(machine.Door(), store);
+  CategoryCatalog catalog(device.machine, device.store);
   catalog.Add({L"Home", 1, false});
   catalog.Add({L"Work", 2, true});
   ImportBytes(registry, catalog, bytes);

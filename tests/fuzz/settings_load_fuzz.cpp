@@ -1,8 +1,6 @@
-#include "platform/memory/memory_machine.h"
-#include "platform/memory/recorded_registry.h"
 #include "tests/fuzz/fuzz_targets.h"
-#include "tests/support/registry_support.h"
 #include "tests/support/setting_lines.h"
+#include "tests/support/test_device.h"
 
 namespace tidewell::fuzz {
 
@@ -53,28 +51,18 @@ void Fill(Registry& registry, Bytes input) {
 }
 
 // A registry with what the input says.
-struct Device {
-  Device(const ScreenScale& itsScale, Bytes input) : scale(itsScale) {
-    Fill(machine.registry, input);
+struct Device : TestDevice {
+  Device(const ScreenScale& itsScale, Bytes input) {
+    scale = itsScale;
+    Fill(registry, input);
+    Load();
   }
-  void Load(SettingsStore& store) {
-    Machine door{registry, machine.files, machine.locale, machine.libraries, machine.system};
-    Language language;
-    store.Load(door, scale, language);
-  }
-  void Save(SettingsStore& store) { store.Save(registry, scale); }
-  std::string Tree() { return DumpTree(machine.registry, kUser, L"Software"); }
-
-  ScreenScale scale;
-  MemoryMachine machine;
-  RecordedRegistry registry{machine.registry};
+  std::string Tree() { return Dump(L"Software"); }
 };
 
 // The end of a save that has to write every hosted subkey anew.
 std::string TreeWrittenAnew(const ScreenScale& scale, Bytes input) {
   Device device(scale, input);
-  SettingsStore store;
-  device.Load(store);
   const auto key = device.registry.Create(kUser, kTabs);
   std::wstring name;
   for (std::uint32_t index = 0; key->EnumSubkey(index, 256, name) == kStatusSuccess;) {
@@ -84,7 +72,7 @@ std::string TreeWrittenAnew(const ScreenScale& scale, Bytes input) {
       device.registry.DeleteTree(kUser, kTabs + L"\\" + name);
     }
   }
-  device.Save(store);
+  device.Save();
   return device.Tree();
 }
 
@@ -108,30 +96,25 @@ void settings_load(Bytes bytes) {
   const ScreenScale scale(dpi, dpi, false);
 
   Device device(scale, bytes);
-  SettingsStore first;
-  device.Load(first);
-  device.Save(first);
+  device.Save();
   const std::string tree = device.Tree();
   Require(tree == TreeWrittenAnew(scale, bytes));
 
   SettingsStore second;
-  device.Load(second);
-  RequireSame(SettingLines(first).dwords, SettingLines(second).dwords);
-  RequireSame(SettingLines(first).strings, SettingLines(second).strings);
-  Require(first.tabs == second.tabs);
-  device.registry.Calls().Reset();
-  device.Save(second);
-  Require(device.registry.CountWrites() == 0);
+  second.Load(device.machine, scale, device.language);
+  RequireSame(SettingLines(device.store).dwords, SettingLines(second).dwords);
+  RequireSame(SettingLines(device.store).strings, SettingLines(second).strings);
+  Require(device.store.tabs == second.tabs);
+  CallRecorder<RegistryCall>& calls = device.recorded.Calls();
+  calls.Reset();
+  second.Save(device.recorded, scale);
+  Require(device.recorded.CountWrites() == 0);
 
   SettingsStore third;
-  device.registry.Calls().Reset();
-  if (isForOnce) {
-    device.registry.Calls().FailNth(refused);
-  } else {
-    device.registry.Calls().FailFrom(refused);
-  }
-  device.Load(third);
-  device.Save(third);
+  calls.Reset();
+  isForOnce ? calls.FailNth(refused) : calls.FailFrom(refused);
+  third.Load(device.machine, scale, device.language);
+  third.Save(device.recorded, scale);
   Require(device.Tree() == tree);
 }
 

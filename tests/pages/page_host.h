@@ -5,23 +5,23 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <gtest/gtest.h>
 
 #include "pages/page_list.h"
 #include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_libraries.h"
-#include "tests/pages/page_fixture.h"
-#include "tests/support/fake_dialogs.h"
+#include "tests/support/test_device.h"
 #include "tests/support/window_support.h"
 
 namespace tidewell {
 
-class PageHost : public PageFixture {
+class PageHost : public testing::Test, protected TestDevice {
  protected:
   PageHost() {
     [[maybe_unused]] static const bool installed = (InstallDeviceShell(), true);
-    context.dialogs = &dialogs_;
+    for (const wchar_t* name : {L"Business", L"Family"}) catalog.Add({name, 1});
     UseScreen(240, 320, 96);
     UseLanguage(L"TWEngRc.dll");
   }
@@ -29,14 +29,13 @@ class PageHost : public PageFixture {
     if (page_) Close();
   }
   void UseScreen(int width, int height, int dpi, bool vgaMode = false) {
-    PageFixture::UseScreen(width, height, dpi);
-    context.scale = ScreenScale(dpi, dpi, vgaMode);
+    TestDevice::UseScreen(width, height, dpi, vgaMode);
     const int strip = 26 * dpi / 96;
     MoveWindow(host_.Get(), 0, strip, width, height - strip, FALSE);
   }
   void UseLanguage(const std::wstring& library) {
-    WindowsFiles files;
-    WindowsLibraries libraries(files);
+    WindowsFiles windowsFiles;
+    WindowsLibraries libraries(windowsFiles);
     ASSERT_TRUE(language.Load(libraries, LANGUAGE_FOLDER + library, {})) << "not built";
   }
 
@@ -117,7 +116,6 @@ class PageHost : public PageFixture {
     return GetDlgCtrlID(GetParent(focus) == page_->Window() ? focus : GetParent(focus));
   }
 
-  FakeDialogs dialogs_;
   TestWindow host_{WS_POPUP | WS_VISIBLE, 0};
   std::unique_ptr<PageWindow> page_;
 };

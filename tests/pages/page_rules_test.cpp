@@ -6,17 +6,20 @@
 #include "resources/text/text_ids.h"
 #include "tests/pages/fake_view.h"
 #include "tests/pages/icon_page.h"
-#include "tests/pages/page_fixture.h"
-#include "tests/support/fake_dialogs.h"
+#include "tests/support/test_device.h"
 
 namespace tidewell {
 namespace {
 
 using Ids = std::vector<int>;
 
-class GeneralRules : public PageFixture {};
+class Rules : public testing::Test, protected TestDevice {
+ protected:
+  Rules() { Load(); }
+  DwordSetting& program() { return store.customPim.PimSw; }
+};
 
-TEST_F(GeneralRules, GreyWhatCannotBeUsed) {
+TEST_F(Rules, GreyWhatCannotBeUsed) {
   using namespace general_ids;
   FakeView page(MakeGeneralPage(context));
   EXPECT_EQ(page.Enabled(1206, 1210), Ids{1206});
@@ -30,7 +33,7 @@ TEST_F(GeneralRules, GreyWhatCannotBeUsed) {
 }
 
 // A library without a name has no line, but a slot: here English has the second one.
-TEST_F(GeneralRules, StoreTheLanguageOfTheChosenSlot) {
+TEST_F(Rules, StoreTheLanguageOfTheChosenSlot) {
   const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\";
   const auto visit = [&](std::size_t lines, int selection) {
     FakeView page(MakeGeneralPage(context));
@@ -45,17 +48,17 @@ TEST_F(GeneralRules, StoreTheLanguageOfTheChosenSlot) {
       {L"TWEngRc.dll", {{IDS_LANGUAGE_NAME, L"English"}}},
       {L"TWGerRc.dll", {{IDS_LANGUAGE_NAME, L"Deutsch"}}}};
   for (const auto& [name, texts] : packs) {
-    machine.files.Put(folder + name, "MZ");
-    machine.libraries.Put(folder + name, texts);
+    files.Put(folder + name, "MZ");
+    memory.libraries.Put(folder + name, texts);
   }
   visit(2, 1);
 }
 
-TEST_F(GeneralRules, StoreTheFoldersOfTheChosenIconSet) {
+TEST_F(Rules, StoreTheFoldersOfTheChosenIconSet) {
   const std::wstring sets = L"\\Program Files\\Velmont\\Tidewell\\IconSets\\";
   for (const wchar_t* path :
        {L"tidewell\\12\\note.png", L"Zebra\\24\\", L"Mono\\Blank\\", L"Read.me"}) {
-    machine.files.Put(sets + path);
+    files.Put(sets + path);
   }
   IconSetSettings& set = store.iconSet;
   const auto stored = [&] {
@@ -85,12 +88,7 @@ TEST_F(GeneralRules, StoreTheFoldersOfTheChosenIconSet) {
   EXPECT_EQ(visit(kNoChoice, 0), none);
 }
 
-class PimRules : public PageFixture {
- protected:
-  DwordSetting& program() { return store.customPim.PimSw; }
-};
-
-TEST_F(PimRules, StoreAProgramAtOnceAndGreyWhatItDoesNotHave) {
+TEST_F(Rules, StoreAProgramAtOnceAndGreyWhatItDoesNotHave) {
   InstallOtherPrograms();
   FakeView page(MakePimPage(context));
   struct Case {
@@ -109,9 +107,7 @@ TEST_F(PimRules, StoreAProgramAtOnceAndGreyWhatItDoesNotHave) {
   }
 }
 
-TEST_F(PimRules, TakeTheCompanionOnlyWhereItIs) {
-  FakeDialogs dialogs;
-  context.dialogs = &dialogs;
+TEST_F(Rules, TakeTheCompanionOnlyWhereItIs) {
   program().Set(1);  // which is not there any more
   FakeView page(MakePimPage(context));
   EXPECT_EQ(page.State(pim_ids::kProgram).selection, 0);
@@ -126,9 +122,7 @@ TEST_F(PimRules, TakeTheCompanionOnlyWhereItIs) {
   EXPECT_EQ(page.Enabled(1202, 1209), (Ids{1206, 1207, 1209}));
 }
 
-class IconRules : public PageFixture {};
-
-TEST_F(IconRules, StoreAnIconAtOnceAndNothingWhenThePageCloses) {
+TEST_F(Rules, StoreAnIconAtOnceAndNothingWhenThePageCloses) {
   CalendarSettings& s = store.calendar;
   s.ApptLeftAlignIcon1.Set(3);  // which no strip offers
   FakeView page(std::make_unique<IconPage>(context));

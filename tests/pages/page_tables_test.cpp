@@ -1,17 +1,20 @@
 // What holds for the tables of all pages.
+#include <gtest/gtest.h>
+
 #include <map>
 #include <set>
 
 #include "pages/page_list.h"
-#include "tests/pages/page_fixture.h"
 #include "tests/support/setting_lines.h"
+#include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
-class Tables : public PageFixture {
+class Tables : public testing::Test, protected TestDevice {
  protected:
+  Tables() { UseScreen(480, 640, 192); }  // has every row
   // Of every page there is.
   std::vector<Row> AllRows() {
     std::vector<Row> rows;
@@ -62,8 +65,8 @@ TEST_F(Tables, LeaveOutTheRowsThatTheDeviceCannotUse) {
                         {640, {4, 20}, true, false},
                         {240, {3, 0}, false, false}};
   for (const Case& c : cases) {
-    machine.system.screen.width = c.width;
-    machine.system.version = c.version;
+    memory.system.screen.width = c.width;
+    memory.system.version = c.version;
     std::set<int> textIds;
     for (const Row& row : AllRows()) textIds.insert(row.textId);
     EXPECT_EQ(textIds.contains(1029), c.wide) << c.width;

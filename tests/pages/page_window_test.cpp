@@ -158,7 +158,7 @@ TEST_F(PageWindow, APathThatIsLongerThanItsFieldShowsItsEnd) {
   TurnScreen();
   TurnScreen();
   EXPECT_TRUE(endIsSeen());
-  dialogs_.answer = L"\\Storage Card\\Program Files\\Skins\\Blue and green";
+  dialogs.answer = L"\\Storage Card\\Program Files\\Skins\\Blue and green";
   TapControl(general_ids::kBrowseSkin);
   EXPECT_TRUE(endIsSeen());
 }

@@ -172,9 +172,9 @@ TEST_F(PageHost, AsksForTheSkinFolder) {
   Turn(1);
   Type(general_ids::kSkinPath, L"it can only be read");
   TapControl(general_ids::kBrowseSkin);
-  EXPECT_THAT(dialogs_.shown, ElementsAre(L"Select Skin Path: \\My Documents\\Skins"));
+  EXPECT_THAT(dialogs.shown, ElementsAre(L"Select Skin Path: \\My Documents\\Skins"));
   EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"\\My Documents\\Skins") << "cancelled";
-  dialogs_.answer = L"\\Storage Card\\Skins";
+  dialogs.answer = L"\\Storage Card\\Skins";
   TapControl(general_ids::kBrowseSkin);
   EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"\\Storage Card\\Skins");
   TapControl(general_ids::kClearSkin);
@@ -184,7 +184,7 @@ TEST_F(PageHost, AsksForTheSkinFolder) {
 TEST_F(PageHost, RefusesAProgramAndGreysByFingerAndByKey) {
   Open(PageIndex::kPim);
   Choose(pim_ids::kProgram, 1);
-  EXPECT_THAT(dialogs_.shown,
+  EXPECT_THAT(dialogs.shown,
               ElementsAre(L"Not installed: Velmont Calendar is not installed on this device."));
   EXPECT_EQ(Selection(pim_ids::kProgram), 0);
   InstallCompanion();

@@ -95,9 +95,9 @@ TEST_F(TabBodies, AnOptionIsEditedWhileItIsSelectedAndStoredWhenItIsNoLonger) {
   Choose(kList, 2);
   Select(kOptions, 2);
   EXPECT_EQ(s.MsgsBreakLineStyle.Value(), 3u);
-  dialogs_.answer = L"\\mail.exe";
+  dialogs.answer = L"\\mail.exe";
   TapControl(kBrowse);
-  EXPECT_THAT(dialogs_.shown, testing::ElementsAre(L"Choose: , *.exe"));
+  EXPECT_THAT(dialogs.shown, testing::ElementsAre(L"Choose: , *.exe"));
   Turn(1);
   EXPECT_EQ(store.root.SkinPath.Value(), L"\\mail.exe");
   EXPECT_EQ(ShownParts(), Ids());

@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "pages/page_list.h"
-#include "platform/memory/memory_machine.h"
 #include "tests/resources/library.h"
+#include "tests/support/test_device.h"
 #include "win32/gdi.h"
 
 namespace tidewell {
@@ -41,18 +41,13 @@ std::vector<Place> ReadPlaces() {
 
 // The texts of the pages, which are measured in their own controls where pages are tested.
 std::set<int> TextsOfPages() {
-  MemoryMachine device;
-  device.system.screen.width = 480;
-  Machine machine = device.Door();
-  SettingsStore store;
-  CategoryCatalog categories(machine, store);
-  Language language;
-  PageContext context{machine, store, categories, language, {}};
+  TestDevice device;
+  device.UseScreen(480, 640, 192);
   std::set<int> ids;
   for (const PageEntry& page : kPages) {
     ids.insert(page.captionId);
     if (!page.make) continue;
-    for (const PageTab& tab : page.make(context)->Tabs()) {
+    for (const PageTab& tab : page.make(device.context)->Tabs()) {
       ids.insert(tab.titleId);
       for (const Row* row : tab.Rows()) {
         ids.insert(row->textId);

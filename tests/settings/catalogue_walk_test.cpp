@@ -1,5 +1,10 @@
 // Every line of the catalogue at work: loaded, saved in order, set back, and fed with nonsense.
-#include "tests/settings/store_fixture.h"
+#include <gtest/gtest.h>
+
+#include "platform/text.h"
+#include "tests/support/setting_lines.h"
+#include "tests/support/test_device.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
@@ -16,7 +21,7 @@ void WithOwnValues(SettingGroup& group, Act act) {
   for (StringSetting* setting : lines.strings) act(*setting, L"text " + std::to_wstring(++next));
 }
 
-class CatalogueWalkTest : public StoreFixture {
+class CatalogueWalkTest : public testing::Test, protected TestDevice {
  protected:
   // Saves and returns the names of the values that were set, or deleted, in order.
   std::wstring Save(SettingGroup& group, RegistryCall call) {

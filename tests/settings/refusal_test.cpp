@@ -1,13 +1,32 @@
 // A registry that refuses: never a crash, a hang, half a value or a lost one. Every refusal in turn
 // needs thousands of loads; the fake in memory is fast enough for that.
 #include <algorithm>
+#include <sstream>
 
-#include "tests/settings/store_fixture.h"
+#include <gtest/gtest.h>
+
+#include "tests/support/setting_lines.h"
+#include "tests/support/test_device.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
-class RefusingRegistryTest : public StoreFixture {
+// Whether every line of `left` is the line that `before` or `after` has there, and none is missing.
+bool IsOldOrNew(const std::string& before, const std::string& after, const std::string& left) {
+  std::istringstream olds(before);
+  std::istringstream news(after);
+  std::istringstream lines(left);
+  std::string old;
+  std::string current;
+  for (std::string line; std::getline(lines, line);) {
+    if (!std::getline(olds, old) || !std::getline(news, current)) return false;
+    if (line != old && line != current) return false;
+  }
+  return !std::getline(olds, old) && !std::getline(news, current);
+}
+
+class RefusingRegistryTest : public testing::Test, protected TestDevice {
  protected:
   using Calls = CallRecorder<RegistryCall>;
 
@@ -22,10 +41,10 @@ class RefusingRegistryTest : public StoreFixture {
     PutNumbers(SettingKey::kTabSettings, "CalendarTabOrder=3 TasksTabOrder=1 NotesTabEnabled=0");
     for (const auto& [name, order] : {std::pair(L"\\One", 2u), {L"\\Two", 6u}}) {
       const std::wstring path = LocationOf(SettingKey::kTabSettings).path + std::wstring(name);
-      SetString(registry, RegistryRoot::kCurrentUser, path, L"DLL", std::wstring(300, L'd'));
-      SetString(registry, RegistryRoot::kCurrentUser, path, L"InstallPath", L"\\Plug-ins");
-      SetDword(registry, RegistryRoot::kCurrentUser, path, L"Order", order);
-      SetDword(registry, RegistryRoot::kCurrentUser, path, L"Enabled", 1);
+      Put(path, L"DLL", std::wstring(300, L'd'));
+      Put(path, L"InstallPath", L"\\Plug-ins");
+      Put(path, L"Order", order);
+      Put(path, L"Enabled", 1);
     }
     Load();
     Save();
@@ -39,7 +58,7 @@ class RefusingRegistryTest : public StoreFixture {
   int Run(SettingsStore& refused, Arrange arrange) {
     recorded.Calls().Reset();
     arrange(recorded.Calls());
-    LoadInto(refused);
+    refused.Load(machine, scale, language);
     ExpectWholeValues(refused);
     refused.Save(recorded, scale);
     return recorded.Calls().FailableCount();
@@ -88,7 +107,7 @@ TEST_F(RefusingRegistryTest, ASaveThatIsCutOffLeavesEachValueTheOldOrTheNewOne) 
   std::string after;
   int calls = 0;
   for (int n = 0; n <= calls && !HasFailure(); ++n) {
-    registry.DeleteTree(RegistryRoot::kCurrentUser, L"Software");
+    Delete(L"Software");
     SetUp();
     Load();
     for (TabEntry& entry : store.tabs) {

@@ -1,14 +1,18 @@
 // The kinds of settings, each on its own.
 #include <algorithm>
 
-#include "tests/settings/store_fixture.h"
+#include <gtest/gtest.h>
+
+#include "platform/text.h"
+#include "tests/support/test_device.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
 constexpr SettingKey kKey = SettingKey::kNotes;
 
-class SettingTest : public StoreFixture {
+class SettingTest : public testing::Test, protected TestDevice {
  protected:
   // Loads through a shared key, as the store does.
   template <typename Kind>
@@ -110,7 +114,7 @@ TEST_F(SettingTest, AFontIsSixNumbersAndTheFaceAndQualityOfItsTime) {
   EXPECT_FALSE(font.IsChanged());
 
   EXPECT_EQ(font.Set({24, 400, 0, 1, 1, 0, L""}, 0x00FF00), 0x112233u) << "the previous colour";
-  DeleteKey(kFonts);
+  Delete(kFonts);
   Save(font);
   EXPECT_EQ(Dump(kFonts),
             "[Software\\Velmont\\Tidewell\\Fonts]\n"

@@ -2,14 +2,18 @@
 // save costs.
 #include "settings/settings_store.h"
 
-#include "tests/settings/store_fixture.h"
+#include <gtest/gtest.h>
+
+#include "tests/support/setting_lines.h"
+#include "tests/support/test_device.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
 
 using Texts = std::vector<std::wstring>;
 
-class SettingsStoreTest : public StoreFixture {
+class SettingsStoreTest : public testing::Test, protected TestDevice {
  protected:
   static constexpr RegistryRoot kMachine = RegistryRoot::kLocalMachine;
   static constexpr auto kToday = L"Software\\Microsoft\\today\\items\\Tidewell";
@@ -56,7 +60,7 @@ TEST_F(SettingsStoreTest, EachKeyIsOpenedOnceInOrderAndWhatChangedSinceTheLoadIs
 }
 
 TEST_F(SettingsStoreTest, DefaultsFollowTheScreenAndTheLocale) {
-  machine.locale.firstDayOfWeek = L"6";
+  memory.locale.firstDayOfWeek = L"6";
   for (const auto& [screen, height, font] : {std::tuple(ScreenScale(192, 192, false), 320u, 24u),
                                              {ScreenScale(131, 128, false), 213u, 16u}}) {
     scale = screen;
@@ -68,7 +72,7 @@ TEST_F(SettingsStoreTest, DefaultsFollowTheScreenAndTheLocale) {
   }
   for (const auto& [timeStyle, isTwelveHours] :
        {std::pair(L"0", true), {L"1", false}, {L"49", false}, {L"48", true}, {L"", true}}) {
-    machine.locale.timeStyle = timeStyle;
+    memory.locale.timeStyle = timeStyle;
     Load();
     EXPECT_EQ(store.twelveHourClock, isTwelveHours) << Utf8(timeStyle);
   }
@@ -81,12 +85,12 @@ TEST_F(SettingsStoreTest, FoldersFollowTheKeysThatNameThem) {
   EXPECT_EQ(store.pocketInformant.PIVOL.Value(), L"My Documents\\WebIS\\PocketInformant.vol");
   EXPECT_FALSE(registry.Open(kMachine, kToday)) << "the key is not ours";
 
-  SetString(registry, kMachine, kToday, L"ProgramFiles", L"\\Card");
+  Put(SettingKey::kTodayItem, L"ProgramFiles", L"\\Card");
   Load();
   EXPECT_EQ(store.todayItemFolder, L"\\Card\\Velmont\\Tidewell");
   EXPECT_EQ(store.root.TWFiltersFileFolder.Value(), L"\\Card\\Velmont\\Tidewell");
   EXPECT_EQ(store.root.TWIconsFolder.Value(), L"\\Card\\Velmont\\Tidewell\\CategoryIcons");
-  SetString(registry, kMachine, kToday, L"InstallPath", L"\\Other");
+  Put(SettingKey::kTodayItem, L"InstallPath", L"\\Other");
   Load();
   EXPECT_EQ(store.installFolder, L"\\Card\\Velmont\\Tidewell");
   EXPECT_EQ(store.todayItemFolder, L"\\Other\\Velmont\\Tidewell");
@@ -99,10 +103,10 @@ TEST_F(SettingsStoreTest, TheChosenLanguageLibraryReplacesTheOldOneElseTheEnglis
   EXPECT_EQ(language.Text(1436, L"none"), L"none") << "neither is there";
   for (const auto& [path, caption] :
        {std::pair(english, L"Calendar"), {L"\\LangRes\\German.dll", L"Kalender"}}) {
-    machine.libraries.Put(path, {{1436, caption}});
+    memory.libraries.Put(path, {{1436, caption}});
     Load();
     EXPECT_EQ(store.tabs.front().caption, caption);
-    EXPECT_EQ(machine.libraries.LoadedCount(), 1) << "the old one is freed";
+    EXPECT_EQ(memory.libraries.LoadedCount(), 1) << "the old one is freed";
   }
 }
 
@@ -123,7 +127,7 @@ TEST_F(SettingsStoreTest, ValuesThatCannotBeAreRepairedAtLoadAndTheRepairIsSaved
         {"CalTitlesOrder5=4", ""},
         {"CalTitlesOrder0=6", ""},
         {"CalTitlesOrder0=1 CalTitlesOrder1=0", "CalTitlesOrder0=1 CalTitlesOrder1=0 "}}) {
-    DeleteKey(kCalendar);
+    Delete(kCalendar);
     PutNumbers(kCalendar, stored);
     Load();
     Save();

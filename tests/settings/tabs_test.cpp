@@ -1,7 +1,10 @@
 // The tab list: built-in and hosted tabs, their order, the active one, and what is saved of them.
 #include "settings/tab_list.h"
 
-#include "tests/settings/store_fixture.h"
+#include <gtest/gtest.h>
+
+#include "tests/support/test_device.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
@@ -10,12 +13,12 @@ constexpr SettingKey kTabs = SettingKey::kTabSettings;
 constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kTabsPath = L"Software\\Velmont\\Tidewell\\TabSettings";
 
-class TabsTest : public StoreFixture {
+class TabsTest : public testing::Test, protected TestDevice {
  protected:
   void PutHosted(const std::wstring& name, std::uint32_t order, const std::wstring& dll = L"") {
-    SetDword(registry, kUser, kTabsPath + L"\\" + name, L"Order", order);
-    SetDword(registry, kUser, kTabsPath + L"\\" + name, L"Enabled", 1);
-    if (!dll.empty()) SetString(registry, kUser, kTabsPath + L"\\" + name, L"DLL", dll);
+    Put(kTabsPath + L"\\" + name, L"Order", order);
+    Put(kTabsPath + L"\\" + name, L"Enabled", 1);
+    if (!dll.empty()) Put(kTabsPath + L"\\" + name, L"DLL", dll);
   }
   // The captions in order, the built-in tabs' as below.
   std::string Strip() {
@@ -28,13 +31,13 @@ class TabsTest : public StoreFixture {
     return text;
   }
   void SetUp() override {
-    machine.libraries.Put(L"\\Program Files\\Velmont\\Tidewell\\LangRes\\TWEngRc.dll",
-                          {{1436, L"calendar"},
-                           {1416, L"tasks"},
-                           {1417, L"notes"},
-                           {1418, L"contacts"},
-                           {1419, L"mail"},
-                           {1420, L"events"}});
+    memory.libraries.Put(L"\\Program Files\\Velmont\\Tidewell\\LangRes\\TWEngRc.dll",
+                         {{1436, L"calendar"},
+                          {1416, L"tasks"},
+                          {1417, L"notes"},
+                          {1418, L"contacts"},
+                          {1419, L"mail"},
+                          {1420, L"events"}});
   }
 };
 
@@ -44,7 +47,7 @@ TEST_F(TabsTest, TheListHoldsTheTabsByTheirOrdersAndNumbersThemAnew) {
         {"CalendarTabOrder=10", "tasks notes contacts mail events calendar"},
         {"SEventsTabOrder=1 MailTabOrder=1", "calendar mail events tasks notes contacts"},
         {"MailTabOrder=-1", "mail calendar tasks notes contacts events"}}) {
-    registry.DeleteTree(kUser, kTabsPath);
+    Delete(kTabs);
     PutNumbers(kTabs, orders);
     Load();
     EXPECT_EQ(Strip(), expected);
@@ -66,16 +69,16 @@ TEST_F(TabsTest, TheListHoldsTheTabsByTheirOrdersAndNumbersThemAnew) {
 TEST_F(TabsTest, HostedTabsStandBehindEqualOrdersAndTheirSubkeysHoldTheListAndNothingElse) {
   PutHosted(L"Weather", 2, L"weather.dll");
   const std::wstring weather = kTabsPath + L"\\Weather";
-  SetString(registry, kUser, weather, L"InstallPath", L"\\Weather");
-  SetString(registry, kUser, weather, L"CustomIconName", L"weather.ico");
-  SetDword(registry, kUser, weather, L"Type", 77);
-  SetBinary(registry, kUser, weather, L"Enabled", {1, 0, 0, 0});
+  Put(weather, L"InstallPath", L"\\Weather");
+  Put(weather, L"CustomIconName", L"weather.ico");
+  Put(weather, L"Type", 77);
+  PutBytes(weather, L"Enabled", {1, 0, 0, 0});
   PutHosted(L"contacts", 8);  // its case makes it a plug-in's
   PutHosted(L"Again", 1);
   PutHosted(L"Gone", 1);
   const std::wstring bare = kTabsPath + L"\\Bare";
-  SetString(registry, kUser, bare, L"DLL", L"");  // a default
-  SetString(registry, kUser, bare, std::wstring(300, L'n'), std::wstring(60'000, L's'));
+  Put(bare, L"DLL", L"");  // a default
+  Put(bare, std::wstring(300, L'n'), std::wstring(60'000, L's'));
   PutHosted(L"Bare\\Subkey\\Subkey", 1);
   Load();
   EXPECT_EQ(Strip(), "calendar Again Gone tasks Weather notes contacts mail events contacts Bare");
@@ -133,7 +136,7 @@ TEST_F(TabsTest, TheActiveTabIsAnEnabledBuiltInOneOrTheDefaultTab) {
         {3, "DfltTabOnStartup=1 DfltTab=6", 3u},
         {3, "DfltTabOnStartup=2 DfltTab=5", 3u},
         {1, "DfltTabOnStartup=1 DfltTab=1 TasksTabOrder=50", 7u}}) {
-    registry.DeleteTree(kUser, kTabsPath);
+    Delete(kTabs);
     PutHosted(L"Weather", 9);
     Put(SettingKey::kRoot, L"ActiveTab", static_cast<std::uint32_t>(active));
     PutNumbers(kTabs, tabs);

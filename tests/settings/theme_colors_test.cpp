@@ -4,16 +4,18 @@
 #include <array>
 #include <numeric>
 
+#include <gtest/gtest.h>
 #include "settings/calendar_programs.h"
-#include "tests/settings/store_fixture.h"
+
+#include "tests/support/test_device.h"
 
 namespace tidewell {
 namespace {
 
-class DeviceProbeTest : public StoreFixture {
+class DeviceProbeTest : public testing::Test, protected TestDevice {
  protected:
   void PutColor(const std::wstring& name, const std::vector<unsigned char>& bytes) {
-    SetBinary(registry, RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color", name, bytes);
+    PutBytes({RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color"}, name, bytes);
   }
   // A table whose bytes count up from 0.
   void PutTable(std::size_t size) {
@@ -70,7 +72,7 @@ TEST_F(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
         {kAgendaOne, kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"}}) {
     registry.Create(root, path);
     EXPECT_FALSE(IsInstalled(recorded, program)) << "no value";
-    SetRaw(registry, root, path, value, 99, {});
+    PutRaw({root, path}, value, 99, {});
     EXPECT_TRUE(IsInstalled(recorded, program)) << "an empty value of any type";
   }
   EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";

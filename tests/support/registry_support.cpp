@@ -2,7 +2,6 @@
 
 #include <map>
 #include <set>
-#include <sstream>
 
 #include "platform/text.h"
 #include "tests/support/utf8.h"
@@ -51,37 +50,10 @@ std::string Render(std::uint32_t type, std::span<const std::byte> data) {
 
 }  // namespace
 
-bool SetRaw(Registry& registry, RegistryRoot root, const std::wstring& path,
+void SetRaw(Registry& registry, RegistryRoot root, const std::wstring& path,
             const std::wstring& name, std::uint32_t type, std::span<const std::byte> data) {
   const auto key = registry.Create(root, path);
-  return key && key->Set(name, type, data) == kStatusSuccess;
-}
-
-bool SetDword(Registry& registry, RegistryRoot root, const std::wstring& path,
-              const std::wstring& name, std::uint32_t number) {
-  const auto byteAt = [&](unsigned shift) { return static_cast<std::byte>(number >> shift); };
-  const std::byte data[] = {byteAt(0), byteAt(8), byteAt(16), byteAt(24)};
-  return SetRaw(registry, root, path, name, kTypeDword, data);
-}
-
-bool SetString(Registry& registry, RegistryRoot root, const std::wstring& path,
-               const std::wstring& name, const std::wstring& text) {
-  return SetRaw(registry, root, path, name, kTypeString, BytesOf(text + L'\0'));
-}
-
-bool SetBinary(Registry& registry, RegistryRoot root, const std::wstring& path,
-               const std::wstring& name, const std::vector<unsigned char>& bytes) {
-  return SetRaw(registry, root, path, name, kTypeBinary, std::as_bytes(std::span(bytes)));
-}
-
-std::optional<std::uint32_t> FindDword(Registry& registry, RegistryRoot root,
-                                       const std::wstring& path, const std::wstring& name) {
-  const auto key = registry.Open(root, path);
-  std::byte data[4];
-  ValueInfo info;
-  if (!key || key->Query(name, data, info) != kStatusSuccess) return std::nullopt;
-  if (info.type != kTypeDword || info.size != sizeof data) return std::nullopt;
-  return NumberOf(data);
+  if (key) key->Set(name, type, data);
 }
 
 std::string DumpTree(Registry& registry, RegistryRoot root, const std::wstring& path) {
@@ -110,19 +82,6 @@ std::string DumpTree(Registry& registry, RegistryRoot root, const std::wstring& 
     text += DumpTree(registry, root, path.empty() ? each : JoinPath(path, each));
   }
   return text;
-}
-
-bool IsOldOrNew(const std::string& before, const std::string& after, const std::string& left) {
-  std::istringstream olds(before);
-  std::istringstream news(after);
-  std::istringstream lines(left);
-  std::string old;
-  std::string current;
-  for (std::string line; std::getline(lines, line);) {
-    if (!std::getline(olds, old) || !std::getline(news, current)) return false;
-    if (line != old && line != current) return false;
-  }
-  return !std::getline(olds, old) && !std::getline(news, current);
 }
 
 }  // namespace tidewell

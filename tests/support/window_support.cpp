@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "win32/window_owner.h"
+
 namespace tidewell {
 
 namespace {
@@ -127,12 +129,7 @@ std::vector<int> TestWindow::TakeCommands() {
 }
 
 LRESULT CALLBACK TestWindow::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NCCREATE) {
-    SetWindowLongPtrW(
-        window, GWLP_USERDATA,
-        reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
-  }
-  auto* self = reinterpret_cast<TestWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  auto* self = OwnerOf(&TestWindow::window_, window, message, lParam);
   if (self) self->messages.push_back({message, wParam, lParam});
   return DefWindowProcW(window, message, wParam, lParam);
 }

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/catalog_support.h"
+#include "platform/memory/memory_files.h"
+#include "platform/text.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
@@ -35,17 +36,6 @@ TEST(TextReader, LinesKeepTheirEndAndEveryUnitUpToAZero) {
   }
   const std::vector<std::byte> bytes = BytesOf(L"ab\ncd");
   EXPECT_EQ(LinesOf(std::span(bytes).first(9)), (Lines{L"ab\n", L"c"})) << "an odd byte";
-}
-
-TEST(TextWriter, WritesLittleEndianUnitsAndNothingElse) {
-  std::wstring text = L"\n\x20AC\xD83D";
-  for (int i = 0; i < 9000; ++i) text += static_cast<wchar_t>(i);
-  ByteSink sink;
-  TextWriter writer(sink);
-  writer.Write(text.substr(0, 5));
-  writer.Write(text.substr(5));
-  EXPECT_TRUE(writer.Flush());
-  EXPECT_EQ(sink.bytes, BytesOf(text));
 }
 
 TEST(TextWriter, ALossIsNotForgotten) {

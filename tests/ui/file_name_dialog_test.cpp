@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_machine.h"
+#include "tests/support/test_device.h"
 #include "tests/support/window_support.h"
 #include "tests/ui/dialog_driver.h"
 
@@ -27,7 +27,7 @@ void CloseMessage() {
   PostMessageW(FrontDialog(), WM_COMMAND, IDOK, 0);
 }
 
-class FileNameDialogTest : public testing::Test {
+class FileNameDialogTest : public testing::Test, protected TestDevice {
  protected:
   FileNameDialogTest() {
     request.title = L"Export TW Settings";
@@ -36,7 +36,7 @@ class FileNameDialogTest : public testing::Test {
     request.typeLabel = L"TW Settings Backup (twsb)";
     request.initialName = L"first";
     for (const wchar_t* name : {L"zoo.twsb\\", L"may.twsb", L"april.twsb", L"letter.txt"}) {
-      memory.files.Put(L"\\My Documents\\" + std::wstring(name));
+      files.Put(L"\\My Documents\\" + std::wstring(name));
     }
   }
 
@@ -44,16 +44,12 @@ class FileNameDialogTest : public testing::Test {
   std::wstring Run(std::initializer_list<DialogDriver::Step> steps) {
     driver.Play(steps);
     request.resultPath.clear();
-    const int confirmed = RunFileNameDialog(context, request);
+    const int confirmed = RunFileNameDialog(dialog, request);
     EXPECT_EQ(confirmed, request.resultPath.empty() ? 0 : 1);
     return request.resultPath;
   }
 
-  MemoryMachine memory;
-  Machine machine = memory.Door();
-  ScreenScale scale{96, 96, false};
-  Language language;
-  DialogContext context{nullptr, machine, language, scale};
+  DialogContext dialog{nullptr, machine, language, scale};
   FileNameRequest request;
   DialogDriver driver{Shown};
 };

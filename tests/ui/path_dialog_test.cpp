@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_machine.h"
 #include "platform/text.h"
+#include "tests/support/test_device.h"
 #include "tests/support/window_support.h"
 #include "tests/ui/dialog_driver.h"
 
@@ -24,28 +24,24 @@ std::wstring Shown() {
   return shown;
 }
 
-class PathDialogTest : public testing::Test {
+class PathDialogTest : public testing::Test, protected TestDevice {
  protected:
   PathDialogTest() {
     for (const wchar_t* path :
          {L"\\My Documents\\Skins\\Blue\\", L"\\My Documents\\Skins\\Red\\", L"\\Windows\\",
           L"\\My Documents\\Sounds\\chime.wav", L"\\My Documents\\Sounds\\bell.wav"}) {
-      memory.files.Put(path);
+      files.Put(path);
     }
   }
 
   std::optional<std::wstring> Folder(const std::wstring& present) {
-    return ChooseFolder(context, L"Select the skin folder", present);
+    return ChooseFolder(dialog, L"Select the skin folder", present);
   }
   std::optional<std::wstring> File(const std::wstring& present) {
-    return ChooseFile(context, L"Select a sound", present, L"*.wav");
+    return ChooseFile(dialog, L"Select a sound", present, L"*.wav");
   }
 
-  MemoryMachine memory;
-  Machine machine = memory.Door();
-  ScreenScale scale{96, 96, false};
-  Language language;
-  DialogContext context{nullptr, machine, language, scale};
+  DialogContext dialog{nullptr, machine, language, scale};
   DialogDriver driver{Shown};
 };
 
@@ -98,7 +94,7 @@ TEST_F(PathDialogTest, AFileIsMarkedByATapAndTakenByTheSoftKeyOrASecondTap) {
 }
 
 TEST_F(PathDialogTest, ShowsFiveThousandEntriesAndFindsOneByItsFirstLetters) {
-  for (int i = 0; i < 5000; ++i) memory.files.Put(L"\\Card\\" + FormatDecimal(10000 + i) + L".wav");
+  for (int i = 0; i < 5000; ++i) files.Put(L"\\Card\\" + FormatDecimal(10000 + i) + L".wav");
   const auto typeLetters = [] {
     for (const wchar_t letter : {L'1', L'2', L'3'}) PostMessageW(List(), WM_CHAR, letter, 1);
   };
@@ -108,7 +104,7 @@ TEST_F(PathDialogTest, ShowsFiveThousandEntriesAndFindsOneByItsFirstLetters) {
 
 TEST_F(PathDialogTest, FillsWhateverScreenItIsTurnedToAndShowsTheEndOfALongPath) {
   const std::wstring longest = L"\\" + std::wstring(255, L'n') + L"\\Skins";
-  memory.files.Put(longest + L"\\");
+  files.Put(longest + L"\\");
   const auto expectItFills = [] {
     const RECT list = PlaceInDialog(List());
     EXPECT_LE(PlaceInDialog(FolderLine()).bottom, list.top);

@@ -7,7 +7,7 @@
 #include "platform/pim_properties.h"
 #include "platform/text.h"
 #include "platform/windows/windows_files.h"
-#include "tests/support/catalog_support.h"
+#include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
 
 namespace tidewell {
@@ -24,45 +24,45 @@ std::vector<std::byte> TinyBitmap() {
   return bytes;
 }
 
-class PimCategories : public testing::Test {
+class PimCategories : public testing::Test, protected TestDevice {
  protected:
   PimCategories() {
     wchar_t temporary[MAX_PATH] = {};
     GetTempPathW(MAX_PATH, temporary);
     folder = JoinPath(temporary, L"TidewellCategories");
-    files.MakeFolder(folder);
+    windowsFiles.MakeFolder(folder);
   }
   ~PimCategories() override {
     for (const wchar_t* name : {L"pim.vol", L"Work.bmp"}) {
-      files.Remove(JoinPath(folder, name));
+      windowsFiles.Remove(JoinPath(folder, name));
     }
     RemoveDirectoryW(folder.c_str());
   }
   std::wstring Volume() const { return JoinPath(folder, L"pim.vol"); }
   void PutFile(const wchar_t* name, std::span<const std::byte> bytes) {
-    const auto stream = files.OpenForWriting(JoinPath(folder, name));
+    const auto stream = windowsFiles.OpenForWriting(JoinPath(folder, name));
     ASSERT_TRUE(stream && stream->Write(bytes) && stream->Close());
   }
   void Put(std::string_view text) { PutFile(L"pim.vol", std::as_bytes(std::span(text))); }
   // Reads the volume anew: names, ids, flags and icons, a category a line.
   std::string Shown() {
-    PimCategorySource source(files, folder, Volume());
-    machine.catalog.Rebuild(source, L"All");
+    PimCategorySource source(windowsFiles, folder, Volume());
+    catalog.Rebuild(source, L"All");
     std::string text;
-    for (const auto& category : machine.catalog.Categories()) {
+    for (const auto& category : catalog.Categories()) {
       text += Utf8(category->name) + ' ' + std::to_string(category->pimId) +
               (category->pimFlag ? " flag" : "") + (category->bitmap ? " icon" : "") + '\n';
     }
     return text;
   }
 
-  WindowsFiles files;
+  WindowsFiles windowsFiles;
   std::wstring folder;
-  CatalogMachine machine;
 };
 
 TEST_F(PimCategories, TheDatabaseTellsNameIdAndFlagAndTheFolderTheIcon) {
-  PutFile(L"Work.bmp", TinyBitmap());
+  const std::vector<std::byte> whole = TinyBitmap();
+  PutFile(L"Work.bmp", whole);
   Put("7 0 Work\n"
       "327688 1 Home\n"
       "9 1 work\n"
@@ -72,6 +72,8 @@ TEST_F(PimCategories, TheDatabaseTellsNameIdAndFlagAndTheFolderTheIcon) {
       "- 1 No id\n"
       "2 - No flag\n");
   EXPECT_EQ(Shown(), "caf\xC3\xA9 65534\nHome 8 flag\nNo flag 2\nWork 7 icon\n");
+  PutFile(L"Work.bmp", std::span(whole).first(57));
+  EXPECT_EQ(Shown(), "caf\xC3\xA9 65534\nHome 8 flag\nNo flag 2\nWork 7\n") << "it is cut off";
 }
 
 TEST_F(PimCategories, AVolumeThatIsMissingEmptyOrTooLargeGivesNone) {
@@ -103,10 +105,10 @@ TEST_F(PimCategories, AClosedDatabaseAnswersNothingAndLeavesNoHandle) {
 }
 
 TEST_F(PimCategories, TheSampleDeviceHasElevenCategories) {
-  PimCategorySource source(files, folder, L"" SAMPLE_VOLUME);
-  machine.catalog.Rebuild(source, L"All");
-  EXPECT_EQ(machine.catalog.Categories().size(), 11u);
-  EXPECT_TRUE(machine.catalog.FindCategory(L"Ideas")->pimFlag);
+  PimCategorySource source(windowsFiles, folder, L"" SAMPLE_VOLUME);
+  catalog.Rebuild(source, L"All");
+  EXPECT_EQ(catalog.Categories().size(), 11u);
+  EXPECT_TRUE(catalog.FindCategory(L"Ideas")->pimFlag);
 }
 
 }  // namespace
