@@ -122,7 +122,8 @@ class PreviewBench {
 
   bool Run() {
     if (!pictures_) return false;
-    IconCache icons = ResourceIcons(static_cast<HMODULE>(pictures_->Handle()));
+    IconCache icons(settings_.iconSet, scale_, NoFile,
+                    ResourceIcons(static_cast<HMODULE>(pictures_->Handle())));
     const MemoryBitmap page(WindowDc(nullptr).Dc(), width_, scale_.ScaleX(42));
     Recording recording;
     RecordingCanvas recorder(page.Dc(), recording);
@@ -149,9 +150,9 @@ class PreviewBench {
 
  private:
   TodayPreview Make(IconSource& icons) {
-    return {settings_, scale_, machine_.locale,
-            language_, icons,  [](const std::wstring&) { return nullptr; }};
+    return {settings_, scale_, machine_.locale, language_, icons, NoFile};
   }
+  static std::unique_ptr<Image> NoFile(const std::wstring&) { return nullptr; }
 
   void Print(const Comparison& redraws, std::size_t steps) const {
     PrintRatio(("preview drawn anew, " + name_).c_str(), redraws, kAim, "ms");

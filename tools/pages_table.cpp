@@ -22,7 +22,8 @@ build/host/tools/pages_table docs/pages.md resources/text/text_ids.h`.*
 
 The pages as a VGA device has them that has every other program installed, on 14 March 2008, in
 English. `position` stores the chosen line, counted from 0; `number` and `name` store what is chosen
-or typed. Numbers are those of the controls: the label, the control, its two buttons.
+or typed. Numbers are those of the controls: the label, the control, its two buttons; or of the list
+in which an option stands.
 )";
 
 // "#define IDS_NAME 617  // Text" gives the text to the number.
@@ -58,6 +59,8 @@ const wchar_t* KindOf(const Row& row) {
       return L"number";
     case Stored::kText:
       return row.kind == RowKind::kPath ? L"path" : L"text";
+    case Stored::kOrder:
+      return L"order of the lines";
     case Stored::kByRules:
       return L"filled by the page";
     case Stored::kNothing:
@@ -84,10 +87,18 @@ class PagesWriter {
   void Tab(const PageTab& tab) {
     text_ += L"\n### " + Text(tab.titleId) +
              L"\n\n| Text | Controls | Stored | Value | Choices |\n|---|---|---|---|---|\n";
-    for (const Row* row : tab.Rows()) {
-      text_ += L"| " + Text(row->textId) + L" | " + Controls(*row) + L" | " + KindOf(*row) +
-               L" | " + Value(*row) + L" | " + ChoicesOf(*row) + L" |\n";
+    if (const auto* list = std::get_if<OptionList>(&tab.body)) {
+      for (const Option& option : list->options) {
+        Line(Text(option.lineTextId), FormatDecimal(list->listId), option.editor);
+      }
+      return;
     }
+    for (const Row* row : tab.Rows()) Line(Text(row->textId), Controls(*row), *row);
+  }
+
+  void Line(const std::wstring& text, const std::wstring& controls, const Row& row) {
+    text_ += L"| " + text + L" | " + controls + L" | " + KindOf(row) + L" | " + Value(row) +
+             L" | " + ChoicesOf(row) + L" |\n";
   }
 
   static std::wstring Controls(const Row& row) {
@@ -99,9 +110,16 @@ class PagesWriter {
   }
 
   static std::wstring Value(const Row& row) {
+    std::wstring names;
+    for (const DwordSetting* setting : row.order) {
+      names += (names.empty() ? L"" : L", ") + Value(setting);
+    }
     const Setting* setting = row.number;
     if (row.text) setting = row.text;
-    if (!setting) return {};
+    return setting ? Value(setting) : names;
+  }
+
+  static std::wstring Value(const Setting* setting) {
     const std::wstring key = LocationOf(setting->Key()).path;
     return Code(key.substr(key.rfind(L'\\') + 1) + L"\\" + setting->Name());
   }

@@ -131,12 +131,12 @@ class PreviewSheet {
     Machine door = machine_.Door();
     const ScreenFacts screen = machine_.system.Screen();
     scale_ = ScreenScale(screen.dpiX, screen.dpiY, false);
-    SettingsStore installed;
-    installed.Load(door, scale_, language_);
+    installed_.Load(door, scale_, language_);
     const bool isLow = scale_.ScaleX(1) < 2;
-    library_ = machine_.libraries.Load(installed.installFolder +
+    library_ = machine_.libraries.Load(installed_.installFolder +
                                        (isLow ? L"\\LowDpiRes.dll" : L"\\HighDpiRes.dll"));
-    icons_.emplace(ResourceIcons(library_ ? static_cast<HMODULE>(library_->Handle()) : nullptr));
+    icons_.emplace(installed_.iconSet, scale_, NoFile,
+                   ResourceIcons(library_ ? static_cast<HMODULE>(library_->Handle()) : nullptr));
     font_ = TahomaFont(scale_.ScaleX(9), FW_NORMAL);
 
     WNDCLASSW plain{};
@@ -184,8 +184,7 @@ class PreviewSheet {
     SettingsStore settings;
     settings.Load(door, scale_, none);
     variant.choose(settings);
-    TodayPreview preview(settings, scale_, machine_.locale, language_, *icons_,
-                         [](const std::wstring&) { return nullptr; });
+    TodayPreview preview(settings, scale_, machine_.locale, language_, *icons_, NoFile);
     const int today = DayNumber(machine_.locale.Now());
     TodayItem item = variant.isTask
                          ? SampleTask(today, language_.Text(IDS_SAMPLE_TASK))
@@ -196,6 +195,8 @@ class PreviewSheet {
     preview.DrawItem(canvas, item, width, y + scale_.ScaleX(kCaption));
     return scale_.ScaleX(kStep);
   }
+
+  static std::unique_ptr<Image> NoFile(const std::wstring&) { return nullptr; }
 
   static bool Say(int sheet) {
     HandleMessages();
@@ -213,6 +214,7 @@ class PreviewSheet {
 
   WindowsMachine machine_;
   ScreenScale scale_;
+  SettingsStore installed_;
   Language language_;
   std::unique_ptr<ResourceLibrary> library_;
   std::optional<IconCache> icons_;

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <functional>
 #include <iterator>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -93,21 +94,39 @@ std::string NameOf(const PageEntry& page) {
   return {name.begin(), name.end()};
 }
 
-std::size_t CountTabs(const PageEntry& page) {
+PageTabs TabsOf(const PageEntry& page) {
   TestDevice device;
-  return page.make(device.context)->Tabs().size();
+  return page.make(device.context)->Tabs();
+}
+
+// The first option of each kind on a tab that has options: Down leads to it from the row of tabs.
+std::vector<View> OptionViews(const View& ofTab, const PageTab& tab) {
+  std::vector<View> views;
+  const auto* list = std::get_if<OptionList>(&tab.body);
+  if (!list) return views;
+  std::set<RowKind> kinds;
+  for (std::size_t line = 0; line < list->options.size(); ++line) {
+    if (!kinds.insert(list->options[line].editor.kind).second) continue;
+    View& view = views.emplace_back(ofTab);
+    view.name += "-option-" + std::to_string(line + 1);
+    view.steps.push_back(Press(VK_DOWN, static_cast<int>(line) + 1));
+  }
+  return views;
 }
 
 // Every tab: from the page's first control, Up leads to the row of tabs, and Right turns it.
 std::vector<View> ViewsOf(const PageEntry& page, int row) {
   std::vector<View> views;
-  const auto tabs = static_cast<int>(CountTabs(page));
-  for (int tab = 0; tab < tabs; ++tab) {
+  const PageTabs tabs = TabsOf(page);
+  for (int tab = 0; tab < std::ssize(tabs); ++tab) {
     View view{NameOf(page) + "-" + std::to_string(tab + 1), {}};
     if (row > 0) view.steps.push_back(Press(VK_DOWN, row));
     view.steps.insert(view.steps.end(), {Press(VK_RETURN), Popup});
     if (tab > 0) view.steps.insert(view.steps.end(), {Press(VK_UP), Press(VK_RIGHT, tab)});
-    views.push_back(std::move(view));
+    views.push_back(view);
+    for (View& option : OptionViews(view, tabs[static_cast<std::size_t>(tab)])) {
+      views.push_back(std::move(option));
+    }
   }
   return views;
 }

@@ -177,11 +177,14 @@ void MainWindow::LoadPictures() {
   pictures_ = machine_.libraries.Load(settings_.installFolder + file);
 }
 
-void MainWindow::MakeIconCache() {
-  const auto decode = [this](const std::wstring& path) {
+LoadImageFile MainWindow::ImageLoader() {
+  return [this](const std::wstring& path) {
     return DecodeImage(machine_.files, imaging_->Factory(), path);
   };
-  previewIcons_.emplace(settings_.iconSet, scale_, decode,
+}
+
+void MainWindow::MakeIconCache() {
+  previewIcons_.emplace(settings_.iconSet, scale_, ImageLoader(),
                         ResourceIcons(ModuleOf(pictures_.get())));
 }
 
@@ -280,7 +283,7 @@ void MainWindow::ShowAbout() {
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
   pageContext_.emplace(PageContext{machine_, settings_, categories_, language_, scale_, &Dialogs(),
-                                   &*previewIcons_});
+                                   &*previewIcons_, ImageLoader()});
   page_ = parts_.createPage(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());

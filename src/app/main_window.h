@@ -80,6 +80,7 @@ class MainWindow {
   void FixScale();
   void NameMessageBoxKeys();
   void LoadPictures();
+  LoadImageFile ImageLoader();
   void MakeIconCache();
   void CreateFonts();
   void LoadCategories();

@@ -1,5 +1,6 @@
 #include "pages/messages_page.h"
 
+#include "pages/page_choices.h"
 #include "resources/text/text_ids.h"
 
 namespace tidewell {
@@ -15,14 +16,12 @@ std::unique_ptr<PageRules> MakeMessagesPage(PageContext& context) {
                  Check(1203, IDS_PREVIEW_WHEN_OPENED, s.MsgsPreviewWhenOpen),
                  Check(1204, IDS_MESSAGES_PREVIEW_MARKS_READ, s.MsgsMrkReadOnPrev),
              }),
-      RowTab(
-          IDS_PAGE_TAB_DISPLAY,
-          {
-              List(1205, 1206, IDS_DIVIDER, s.MsgsBreakLineStyle,
-                   {IDS_DIVIDER_NONE, IDS_DIVIDER_SOLID, IDS_DIVIDER_DOTTED, IDS_DIVIDER_FADING}),
-              Check(1207, IDS_SHOW_COUNTERS, s.MsgsIncldCounters),
-              Check(1208, IDS_SHOW_FOLD_BUTTONS, s.MsgsIncldFoldBttns),
-          }),
+      RowTab(IDS_PAGE_TAB_DISPLAY,
+             {
+                 List(1205, 1206, IDS_DIVIDER, s.MsgsBreakLineStyle, DividingLines()),
+                 Check(1207, IDS_SHOW_COUNTERS, s.MsgsIncldCounters),
+                 Check(1208, IDS_SHOW_FOLD_BUTTONS, s.MsgsIncldFoldBttns),
+             }),
   });
 }
 

@@ -5,11 +5,11 @@
 #include "platform/language.h"
 #include "platform/machine.h"
 #include "platform/scale.h"
+#include "preview/today_preview.h"
 #include "settings/settings_store.h"
 
 namespace tidewell {
 
-class IconSource;
 class UserDialogs;
 
 struct PageContext {
@@ -20,6 +20,10 @@ struct PageContext {
   ScreenScale scale;
   UserDialogs* dialogs = nullptr;  // null: nothing is asked or told
   IconSource* icons = nullptr;     // of the chosen set, as it is now; null: there are none
+  LoadImageFile loadImage = {};    // empty: no file has a picture
 };
+
+// The strip that shows how a page's settings look.
+TodayPreview PreviewOf(PageContext& context);
 
 }  // namespace tidewell

@@ -155,6 +155,27 @@ RowPlace PlacePathRow(const PageMetrics& metrics, int labelId, int editId, int c
   return row;
 }
 
+RowPlace PlaceTextRow(const PageMetrics& metrics, int labelId, int editId,
+                      const std::wstring& caption, int y) {
+  const ScreenScale& scale = metrics.scale;
+  RowPlace row;
+  row.top = y;
+  row.height = scale.ScaleY(kRowHeight);
+  const Rect place = PlaceLabel(metrics, labelId, caption, scale.ScaleY(kControlHeight), row);
+  row.controls.push_back({editId, place});
+  return row;
+}
+
+RowPlace PlaceNotice(const PageMetrics& metrics, int labelId, const std::wstring& text, int y) {
+  const ScreenScale& scale = metrics.scale;
+  RowPlace row;
+  row.top = y;
+  const int width = metrics.clientWidth - scale.ScaleX(2 * kMargin);
+  row.height = FitCaption(metrics, text, width, scale.ScaleY(kControlHeight), row);
+  row.controls = {{labelId, {scale.ScaleX(kMargin), y, width, row.height}}};
+  return row;
+}
+
 RowPlace PlacePathEdit(const PageMetrics& metrics, int editId, int clearId, int browseId, int y) {
   const ScreenScale& scale = metrics.scale;
   const bool narrow = IsNarrow(metrics);
@@ -208,6 +229,11 @@ RowPlace PlaceRow(const PageMetrics& metrics, const Row& row, const std::wstring
           PlacePathRow(metrics, row.labelId, row.controlId, row.clearId, row.browseId, caption, y);
       break;
     case RowKind::kText:
+      place = PlaceTextRow(metrics, row.labelId, row.controlId, caption, y);
+      break;
+    case RowKind::kNotice:
+      place = PlaceNotice(metrics, row.labelId, caption, y);
+      break;
     case RowKind::kOrder:
     case RowKind::kIcon:
     case RowKind::kIcons:

@@ -63,6 +63,9 @@ RowPlace PlaceComboRow(const PageMetrics& metrics, int labelId, int comboId,
                        const std::wstring& caption, int y);
 RowPlace PlacePathRow(const PageMetrics& metrics, int labelId, int editId, int clearId,
                       int browseId, const std::wstring& caption, int y);
+RowPlace PlaceTextRow(const PageMetrics& metrics, int labelId, int editId,
+                      const std::wstring& caption, int y);
+RowPlace PlaceNotice(const PageMetrics& metrics, int labelId, const std::wstring& text, int y);
 // An edit and two buttons on one line, on a narrow page on two, without a caption.
 RowPlace PlacePathEdit(const PageMetrics& metrics, int editId, int clearId, int browseId, int y);
 // A list that fills the page below `yOffset`, a length at 96 dots per inch. On a page that is too

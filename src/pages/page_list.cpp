@@ -1,9 +1,11 @@
 #include "pages/page_list.h"
 
+#include "pages/calendar_page.h"
 #include "pages/general_page.h"
 #include "pages/messages_page.h"
 #include "pages/pim_page.h"
 #include "pages/special_events_page.h"
+#include "pages/tasks_page.h"
 #include "resources/art/bitmap_ids.h"
 #include "resources/text/text_ids.h"
 
@@ -11,8 +13,8 @@ namespace tidewell {
 
 const std::array<PageEntry, kPageCount> kPages = {{
     {L"GeneralSettingsWin", IDS_GROUP_GENERAL, IDB_GENERAL, MakeGeneralPage},
-    {L"CalendarSettingsWin", IDS_GROUP_CALENDAR, IDB_CALENDAR, nullptr},
-    {L"TasksSettingsWin", IDS_GROUP_TASKS, IDB_TASKS, nullptr},
+    {L"CalendarSettingsWin", IDS_GROUP_CALENDAR, IDB_CALENDAR, MakeCalendarPage},
+    {L"TasksSettingsWin", IDS_GROUP_TASKS, IDB_TASKS, MakeTasksPage},
     {L"NotesSettingsWin", IDS_GROUP_NOTES, IDB_NOTES, nullptr},
     {L"ContactSettingsWin", IDS_GROUP_CONTACTS, IDB_CONTACTS, nullptr},
     {L"MessagesSettingsWin", IDS_GROUP_MESSAGES, IDB_MESSAGES, MakeMessagesPage},

@@ -57,6 +57,15 @@ int PositionOfName(const Row& row) {
   return found == row.choices.end() ? 0 : static_cast<int>(found - row.choices.begin());
 }
 
+std::vector<std::uint32_t> OrderOf(const Row& row) {
+  std::vector<std::uint32_t> lines;
+  for (const DwordSetting* setting : row.order) {
+    const bool known = setting->Value() < row.order.size();
+    lines.push_back(known ? setting->Value() : static_cast<std::uint32_t>(lines.size()));
+  }
+  return lines;
+}
+
 }  // namespace
 
 Row Check(int id, int textId, DwordSetting& setting) {
@@ -98,10 +107,8 @@ Row Number(int labelId, int listId, int textId, DwordSetting& setting, Choices c
 
 Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringSetting& setting,
          Browse browse) {
-  Row row = Text(textId, setting);
+  Row row = Text(labelId, editId, textId, setting);
   row.kind = RowKind::kPath;
-  row.labelId = labelId;
-  row.controlId = editId;
   row.clearId = clearId;
   row.browseId = browseId;
   row.browse = browse;
@@ -128,19 +135,31 @@ Row Icons(int labelId, int stripId, int textId, DwordSetting& setting,
   return IconRow(RowKind::kIcons, labelId, stripId, textId, setting, offered);
 }
 
-Row Text(int textId, StringSetting& setting) {
+Row Text(int labelId, int editId, int textId, StringSetting& setting) {
   Row row;
   row.kind = RowKind::kText;
   row.stored = Stored::kText;
+  row.labelId = labelId;
+  row.controlId = editId;
   row.textId = textId;
   row.text = &setting;
   return row;
 }
 
-Row Order() {
+Row Order(std::vector<DwordSetting*> settings, Choices lines) {
   Row row;
   row.kind = RowKind::kOrder;
-  row.stored = Stored::kByRules;
+  row.stored = Stored::kOrder;
+  row.order = std::move(settings);
+  row.choices = std::move(lines);
+  return row;
+}
+
+Row Notice(int labelId, int textId) {
+  Row row;
+  row.kind = RowKind::kNotice;
+  row.labelId = labelId;
+  row.textId = textId;
   return row;
 }
 
@@ -172,6 +191,9 @@ ControlState StateOf(const Row& row) {
       break;
     case Stored::kText:
       state.text = row.text->Value();
+      break;
+    case Stored::kOrder:
+      state.order = OrderOf(row);
       break;
     case Stored::kNothing:
       state.selection = 0;
@@ -213,6 +235,11 @@ void Store(const Row& row, const ControlState& state) {
       break;
     case Stored::kCodes:
       row.number->Set(OtherCodes(row) | state.data);
+      break;
+    case Stored::kOrder:
+      for (std::size_t i = 0; i < row.order.size() && i < state.order.size(); ++i) {
+        row.order[i]->Set(state.order[i]);
+      }
       break;
     case Stored::kByRules:
     case Stored::kNothing:

@@ -36,10 +36,11 @@ enum class RowKind : std::uint8_t {
   kList,    // a caption and a drop-down list
   kNumber,  // the same with a number that can be typed too
   kPath,    // a caption, a path that can be read, and two buttons below
-  kText,    // a text that can be typed, with a button that clears it; in an option's editor alone
+  kText,    // a text that can be typed; in an option's editor with a button that clears it
   kOrder,   // lines to be put into order; in an option's editor alone
   kIcon,    // a caption and a strip that shows one icon; of an icon picker, as is the next
   kIcons,   // the same with a set of icons
+  kNotice,  // a text by itself; in a column alone
 };
 
 // What a path's second button lets the user choose, under a title that is the same in every
@@ -56,6 +57,7 @@ enum class Stored : std::uint8_t {
   kName,      // the chosen line's text; none for the first line
   kNumber,    // the typed text as a number
   kText,
+  kOrder,    // each of the settings has the data of the line in its place
   kByRules,  // the page's rules fill and store the row
   kNothing,  // the row only steers others
   kCodes,    // an icon's code or those of a set, as soon as they are chosen
@@ -84,6 +86,7 @@ struct Row {
   int textId = 0;
   DwordSetting* number = nullptr;
   StringSetting* text = nullptr;
+  std::vector<DwordSetting*> order;
   Choices choices;
   std::span<const MarkerChoice> icons;
   int otherwise = kNoChoice;       // the line shown when none has the stored data
@@ -111,9 +114,10 @@ Row Icon(int labelId, int stripId, int textId, DwordSetting& setting,
          std::span<const MarkerChoice> offered);
 Row Icons(int labelId, int stripId, int textId, DwordSetting& setting,
           std::span<const MarkerChoice> offered);
-// Of an option's editor.
-Row Text(int textId, StringSetting& setting);
-Row Order();
+Row Text(int labelId, int editId, int textId, StringSetting& setting);
+// A setting for each place, and the lines that are put there, their data being their number from 0.
+Row Order(std::vector<DwordSetting*> settings, Choices lines);
+Row Notice(int labelId, int textId);
 
 // "80", "100", ... "600" is Numbers(80, 600, 20); each line's data is its number.
 Choices Numbers(int first, int last, int step);
@@ -133,13 +137,15 @@ struct ControlState {
 
   bool checked = false;
   int selection = kNoChoice;
-  std::uint32_t data = 0;  // of the selected line, or the codes of a strip
-  std::wstring text;       // typed or, of a drop-down list, the selected line's
+  std::uint32_t data = 0;            // of the selected line, or the codes of a strip
+  std::wstring text;                 // typed or, of a drop-down list, the selected line's
+  std::vector<std::uint32_t> order;  // the lines' data
 
   bool operator==(const ControlState&) const = default;
 };
 
-// A value that no line stands for shows none. The text of a line is the control's to know.
+// A value that no line stands for shows none; in an order it is that of its place. The text of a
+// line is the control's to know.
 ControlState StateOf(const Row& row);
 // Sets the row's setting, whether or not it differs.
 void Store(const Row& row, const ControlState& state);

@@ -21,11 +21,7 @@ struct IdCollector {
       ids.insert({row.labelId, row.controlId, row.clearId, row.browseId});
     }
   }
-  void operator()(const OptionList& list) {
-    const OptionEditor& e = list.editor;
-    ids.insert({list.listId, e.tipId, e.labelId, e.listId, e.checkId, e.pathId, e.clearPathId,
-                e.browseId, e.textId, e.clearTextId, e.orderId, e.upId, e.downId});
-  }
+  void operator()(const OptionList& list) { ids.insert(list.listId); }
   void operator()(const ItemList& list) {
     ids.insert(list.listId);
     for (const ItemButton& button : list.buttons) ids.insert(button.id);
@@ -54,6 +50,29 @@ struct RowCollector {
 };
 
 }  // namespace
+
+Option CheckOption(int lineTextId, int captionId, int tipTextId, DwordSetting& setting) {
+  return {lineTextId, tipTextId, Check(0, captionId, setting)};
+}
+
+Option ListOption(int lineTextId, int labelTextId, int tipTextId, DwordSetting& setting,
+                  Choices choices) {
+  return {lineTextId, tipTextId, List(0, 0, labelTextId, setting, std::move(choices))};
+}
+
+Option DataOption(int lineTextId, int labelTextId, int tipTextId, DwordSetting& setting,
+                  Choices choices, int otherwise, std::uint32_t ofNoChoice) {
+  return {lineTextId, tipTextId,
+          DataList(0, 0, labelTextId, setting, std::move(choices), otherwise, ofNoChoice)};
+}
+
+Option PathOption(int lineTextId, int tipTextId, StringSetting& setting, Browse browse) {
+  return {lineTextId, tipTextId, Path(0, 0, 0, 0, 0, setting, browse)};
+}
+
+Option TextOption(int lineTextId, int tipTextId, StringSetting& setting) {
+  return {lineTextId, tipTextId, Text(0, 0, 0, setting)};
+}
 
 std::vector<int> PageTab::ControlIds() const {
   IdCollector collector;

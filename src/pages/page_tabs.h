@@ -40,7 +40,17 @@ struct Option {
   int lineTextId;
   int tipTextId;  // 0: without a tip
   Row editor;
+  int tipNumber = 0;  // what a "%d" in the tip stands for
 };
+
+Option CheckOption(int lineTextId, int captionId, int tipTextId, DwordSetting& setting);
+Option ListOption(int lineTextId, int labelTextId, int tipTextId, DwordSetting& setting,
+                  Choices choices);
+// Stores the data of the chosen line, as DataList does.
+Option DataOption(int lineTextId, int labelTextId, int tipTextId, DwordSetting& setting,
+                  Choices choices, int otherwise = kNoChoice, std::uint32_t ofNoChoice = ~0u);
+Option PathOption(int lineTextId, int tipTextId, StringSetting& setting, Browse browse);
+Option TextOption(int lineTextId, int tipTextId, StringSetting& setting);
 
 struct OptionList {
   int listId;
@@ -92,7 +102,8 @@ struct PageTab {
   std::variant<RowColumn, OptionList, ItemList, IconPickers> body;
   PaintedRoom room = {};
 
-  // Of all its controls, whether this device has them or not. Ascending.
+  // Of the controls that are its own, whether this device has them or not; those of an option's
+  // editor are the page's. Ascending.
   std::vector<int> ControlIds() const;
   // The rows that show a setting of their own, those of options and pickers among them.
   std::vector<const Row*> Rows() const;

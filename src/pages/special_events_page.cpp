@@ -1,5 +1,6 @@
 #include "pages/special_events_page.h"
 
+#include "pages/page_choices.h"
 #include "resources/text/text_ids.h"
 
 namespace tidewell {
@@ -55,14 +56,12 @@ std::unique_ptr<PageRules> MakeSpecialEventsPage(PageContext& context) {
               NameList(1216, 1217, IDS_EVENTS_EXTRA_CATEGORY_3, s.AdditionalFilterCat3, categories),
               NameList(1218, 1219, IDS_EVENTS_EXTRA_CATEGORY_4, s.AdditionalFilterCat4, categories),
           }),
-      RowTab(
-          IDS_PAGE_TAB_DISPLAY,
-          {
-              List(1220, 1221, IDS_DIVIDER, s.BreakLineStyle,
-                   {IDS_DIVIDER_NONE, IDS_DIVIDER_SOLID, IDS_DIVIDER_DOTTED, IDS_DIVIDER_FADING}),
-              Check(1222, IDS_SHOW_FOLD_BUTTONS, s.IncldFoldBttns),
-              Check(1223, IDS_SHOW_COUNTERS, s.IncldCounters),
-          }),
+      RowTab(IDS_PAGE_TAB_DISPLAY,
+             {
+                 List(1220, 1221, IDS_DIVIDER, s.BreakLineStyle, DividingLines()),
+                 Check(1222, IDS_SHOW_FOLD_BUTTONS, s.IncldFoldBttns),
+                 Check(1223, IDS_SHOW_COUNTERS, s.IncldCounters),
+             }),
   });
 }
 

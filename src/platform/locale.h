@@ -15,6 +15,9 @@ struct LocalTime {
   std::uint16_t second = 0;
 };
 
+// The user's own pictures of a date.
+enum class DateStyle : std::uint8_t { kShort, kLong };
+
 class Locale {
  public:
   virtual ~Locale() = default;
@@ -27,6 +30,9 @@ class Locale {
   virtual LocalTime Now() = 0;
   // `picture` in the system's terms, such as "yyyy_MM_dd".
   virtual std::wstring FormatDate(const LocalTime& date, const std::wstring& picture) = 0;
+  virtual std::wstring FormatDate(const LocalTime& date, DateStyle style) = 0;
+  // Of a day of the week, counted from 0, Monday.
+  virtual std::wstring DayName(int day) = 0;
   // The time of day in the user's format, without seconds.
   virtual std::wstring FormatTime(const LocalTime& time) = 0;
   // `picture` in the system's terms, such as "hh:mmt".

@@ -71,6 +71,12 @@ std::wstring FormatDecimal(std::int32_t number) {
   return std::wstring(start, digits + 12);
 }
 
+std::wstring WithNumber(std::wstring text, std::int32_t number) {
+  const std::size_t place = text.find(L"%d");
+  if (place != std::wstring::npos) text.replace(place, 2, FormatDecimal(number));
+  return text;
+}
+
 std::int32_t ParseNumber(std::wstring_view text, int base) {
   std::size_t at = 0;
   while (at < text.size() && IsSpace(text[at])) ++at;

@@ -21,6 +21,9 @@ int CompareFolded(std::wstring_view left, std::wstring_view right);
 // A signed decimal number: "-1", "0", "2147483647".
 std::wstring FormatDecimal(std::int32_t number);
 
+// A text whose "%d" stands for a number.
+std::wstring WithNumber(std::wstring text, std::int32_t number);
+
 // strtol's reading on a 32-bit system: leading white space, a sign, digits up to the first other
 // character; no number gives 0, too large a one INT32_MAX or INT32_MIN. Base 0 finds 0x and a
 // leading 0 itself.

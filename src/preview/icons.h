@@ -44,6 +44,12 @@ class IconSource {
   virtual const Image* Find(IconSymbol symbol) = 0;
 };
 
+// Where there are no icons at all.
+class NoIcons final : public IconSource {
+ public:
+  const Image* Find(IconSymbol) override { return nullptr; }
+};
+
 // False, and nothing drawn, where there is no icon.
 bool PaintIcon(Canvas& canvas, const Image* icon, int x, int y);
 

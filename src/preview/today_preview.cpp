@@ -8,7 +8,6 @@ namespace tidewell {
 
 namespace {
 
-constexpr int kStripHeight = 42;
 constexpr Color kTodayBlue = Rgb(152, 183, 215);
 // The folding type that tasks are shown with, whatever the calendar's is.
 constexpr std::uint32_t kTaskFolding = 0;
@@ -52,7 +51,7 @@ void TodayPreview::DrawItem(Canvas& page, TodayItem item, int width, int y) {
                          : DrawAppointmentRow(setting, style, item, texts, row);
   };
   const int height = drawRow(DrawPass::kMeasure, 0);
-  strip_->Copy(*background_, {0, 0, width, scale_.ScaleY(kStripHeight)});
+  strip_->Copy(*background_, {0, 0, width, scale_.ScaleY(kTodayPreviewHeight)});
   drawRow(DrawPass::kDraw, scale_.ScaleX(21) - height / 2);
   page.Copy(*strip_, {0, y, width, Height()});
 }
@@ -68,13 +67,13 @@ RowStyle TodayPreview::StyleOf(Canvas& page, const TodayItem& item, const TodayL
 void TodayPreview::PrepareStrips(Canvas& page, int width) {
   if (width == width_) return;
   strip_ = page.MakeOffscreen(width, Height());
-  background_ = page.MakeOffscreen(width, scale_.ScaleY(kStripHeight));
+  background_ = page.MakeOffscreen(width, scale_.ScaleY(kTodayPreviewHeight));
   PaintBackground(*background_, width);
   width_ = width;
 }
 
 void TodayPreview::PaintBackground(Canvas& background, int width) {
-  const int height = scale_.ScaleY(kStripHeight);
+  const int height = scale_.ScaleY(kTodayPreviewHeight);
   const int line = scale_.ScaleY(1);
   background.Fill({0, 0, width, height}, kTodayBlue);
   PaintWatermark(background, width);
@@ -87,7 +86,7 @@ void TodayPreview::PaintWatermark(Canvas& background, int width) {
   std::unique_ptr<Image> image = loadImage_(L"\\Windows\\tdywater.gif");
   if (!image) image = loadImage_(L"\\windows\\stwater.gif");
   const int least = scale_.ScaleY(10);
-  const int height = scale_.ScaleY(kStripHeight);
+  const int height = scale_.ScaleY(kTodayPreviewHeight);
   if (!image || image->Height() < least + height || image->Width() < width) return;
   const int fromBottom = image->Height() - scale_.ScaleX(160);
   const int top = fromBottom < 0 ? least : fromBottom;

@@ -16,6 +16,8 @@
 
 namespace tidewell {
 
+inline constexpr int kTodayPreviewHeight = 42;  // at 96 dots per inch
+
 // One per page. All that it is given by reference outlives it.
 class TodayPreview {
  public:
@@ -28,7 +30,7 @@ class TodayPreview {
   void DrawTask(Canvas& page, int width, int y);
   // Any other item, as it is seen today.
   void DrawItem(Canvas& page, TodayItem item, int width, int y);
-  int Height() const { return scale_.ScaleX(42); }
+  int Height() const { return scale_.ScaleX(kTodayPreviewHeight); }
 
  private:
   int Today() { return DayNumber(locale_.Now()); }

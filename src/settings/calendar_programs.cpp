@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "settings/registry_values.h"
+
 namespace tidewell {
 
 namespace {
@@ -20,6 +22,9 @@ constexpr std::array<Probe, 4> kProbes = {{
     {RegistryRoot::kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"},
 }};
 
+constexpr const wchar_t* kWeatherKey = L"SOFTWARE\\Velmont Weather";
+constexpr const wchar_t* kWeatherLibrary = L"UtilityLibrary";
+
 }  // namespace
 
 bool IsInstalled(Registry& registry, CalendarProgram program) {
@@ -27,6 +32,12 @@ bool IsInstalled(Registry& registry, CalendarProgram program) {
   const auto key = registry.Open(probe.root, probe.path);
   ValueInfo info;
   return key && key->Query(probe.value, {}, info) == kStatusSuccess;
+}
+
+bool HasWeather(Registry& registry, Files& files) {
+  const auto key = registry.Open(RegistryRoot::kCurrentUser, kWeatherKey);
+  const std::wstring path = FindString(key.get(), kWeatherLibrary).value_or(L"");
+  return !path.empty() && files.Find(path);
 }
 
 }  // namespace tidewell

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "platform/files.h"
 #include "platform/registry.h"
 
 namespace tidewell {
@@ -16,5 +17,7 @@ enum class CalendarProgram : std::uint8_t {
 
 // Asks the registry anew each time; an empty value of any type counts.
 bool IsInstalled(Registry& registry, CalendarProgram program);
+// Whether the weather program's library is known and where it is said to be.
+bool HasWeather(Registry& registry, Files& files);
 
 }  // namespace tidewell

@@ -35,6 +35,15 @@ class FakeView final : public PageView {
     Tell({id, PageEventKind::kChosen});
     Tell({id, PageEventKind::kChanged});
   }
+  // Selects an option, leaves its editor with a state and selects none.
+  void Edit(int listId, int line, const ControlState& state) {
+    for (const PageTab& tab : tabs_) {
+      const auto* list = std::get_if<OptionList>(&tab.body);
+      if (!list || list->listId != listId) continue;
+      tidewell::Store(list->options[static_cast<std::size_t>(line)].editor, state);
+    }
+    Tell({listId, PageEventKind::kDeselected, line});
+  }
   // A strip of icons: these are on now.
   void ChooseIcons(int id, std::uint32_t codes) {
     states_[id].data = codes;
@@ -43,7 +52,7 @@ class FakeView final : public PageView {
   }
   // The page closes.
   void Close() {
-    StoreRows([](const Row& row) { return row.stored != Stored::kCodes; });
+    StoreRows([](const Row& row) { return row.controlId && row.stored != Stored::kCodes; });
     rules_->Store(*this);
   }
   // Those of the ids from `first` to `last` that can be used.

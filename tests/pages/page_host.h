@@ -80,10 +80,19 @@ class PageHost : public testing::Test, protected TestDevice {
     SendMessageW(window, WM_LBUTTONUP, 0, middle);
   }
   void TapControl(int id) const { TapMiddle(Control(id), ClientRect(Control(id))); }
+  // By keys to a tab that is not in view between the arrows.
   void Turn(int tab) const {
     RECT area;
     TabCtrl_GetItemRect(Tabs(), tab, &area);
-    TapMiddle(Tabs(), area);
+    const int arrows = context.scale.ScaleX(2 * 28);
+    if (area.left >= 0 && area.right <= ClientRect(Tabs()).right - arrows) {
+      return TapMiddle(Tabs(), area);
+    }
+    while (TabCtrl_GetCurSel(Tabs()) != tab) {
+      const int before = TabCtrl_GetCurSel(Tabs());
+      SendMessageW(Tabs(), WM_KEYDOWN, before < tab ? VK_RIGHT : VK_LEFT, 1);
+      ASSERT_NE(TabCtrl_GetCurSel(Tabs()), before);
+    }
   }
   // As the list does when a line is tapped.
   void Choose(int id, int line) const {

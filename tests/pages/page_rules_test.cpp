@@ -1,12 +1,14 @@
 // What single pages do beyond their rows.
 #include "pages/page_rules.h"
 
+#include "pages/calendar_page.h"
 #include "pages/general_page.h"
 #include "pages/pim_page.h"
+#include "pages/tasks_page.h"
 #include "resources/text/text_ids.h"
 #include "tests/pages/fake_view.h"
-#include "tests/pages/icon_page.h"
 #include "tests/support/test_device.h"
+#include "tests/support/utf8.h"
 
 namespace tidewell {
 namespace {
@@ -122,17 +124,134 @@ TEST_F(Rules, TakeTheCompanionOnlyWhereItIs) {
   EXPECT_EQ(page.Enabled(1202, 1209), (Ids{1206, 1207, 1209}));
 }
 
-TEST_F(Rules, StoreAnIconAtOnceAndNothingWhenThePageCloses) {
+class CalendarRules : public testing::Test, protected TestDevice {
+ protected:
+  CalendarRules() {
+    UseScreen(480, 640, 192);
+    InstallOtherPrograms();
+  }
+  // The choices of the one option or row that edits a setting.
+  Choices ChoicesOf(const Setting& setting) {
+    for (const PageTab& tab : MakeCalendarPage(context)->Tabs()) {
+      for (const Row* row : tab.Rows()) {
+        if (row->number == &setting) return row->choices;
+      }
+    }
+    return {};
+  }
+
   CalendarSettings& s = store.calendar;
+};
+
+// Each with the position that shows a stored value, and what that position stores.
+TEST_F(CalendarRules, TurnPositionsIntoValues) {
+  struct Case {
+    DwordSetting* setting;
+    std::uint32_t stored;
+    int shown;
+    std::uint32_t kept;
+  };
+  const Case cases[] = {
+      {&s.dNumOfDays, 7, 6, 7},
+      {&s.dNumOfDays, 45, 30, 45},
+      {&s.TimelinesLength, 18, 18, 18},
+      {&s.TimelinesVertZ, 2, 1, 2},
+      {&s.TimelinesHorZ, 1, 0, 1},
+      {&s.TimelinesVertZ, 9, kNoChoice, 0},
+      {&s.MonthlyPopIconsSize, 12, 0, 12},
+      {&s.MonthlyPopIconsSize, 28, 16, 28},
+      {&s.MonthlyPopIconsSize, 5, 0, 12},
+      {&s.MonthlyStartDay, 6, 6, 6},
+      {&s.PopupClrDPadNavigation, 3, kNoChoice, ~0u},
+  };
+  for (const Case& c : cases) {
+    c.setting->Set(c.stored);
+    for (const PageTab& tab : MakeCalendarPage(context)->Tabs()) {
+      for (const Row* row : tab.Rows()) {
+        if (row->number != c.setting) continue;
+        EXPECT_EQ(StateOf(*row).selection, c.shown) << Utf8(c.setting->Name()) << c.stored;
+        Store(*row, StateOf(*row));
+      }
+    }
+    EXPECT_EQ(c.setting->Value(), c.kept) << Utf8(c.setting->Name()) << c.stored;
+  }
+}
+
+TEST_F(CalendarRules, SpeakAsTheUsersLocaleDoes) {
+  memory.locale.shortDate = L"dd.MM.yy";
+  memory.locale.dayNames[6] = L"Sonntag";
+  EXPECT_EQ(ChoicesOf(s.DueDateTsksDateFrmt)[0].text, L"14.03.08");
+  EXPECT_EQ(ChoicesOf(s.DueDateTsksDateFrmt)[4].text, L"14/3");
+  EXPECT_EQ(ChoicesOf(s.DayTtlFrmt)[0].text, L"Friday, Mar 14 2008");
+  EXPECT_EQ(ChoicesOf(s.DayTtlFrmt)[4].text, L"14.03.08");
+  EXPECT_EQ(ChoicesOf(s.DayTtlFrmt)[6].text, L"Fri, 14 Mar 2008");
+  EXPECT_EQ(ChoicesOf(s.FirstWorkDay)[6].text, L"Sonntag");
+  EXPECT_EQ(ChoicesOf(s.TimelinesStart).back().text, L"18:00");
+  EXPECT_EQ(ChoicesOf(s.HumanTime).back().text, L"8:00");
+  memory.locale.timeStyle = L"0";
+  EXPECT_EQ(ChoicesOf(s.TimelinesStart).back().text, L"6:00 PM");
+  EXPECT_EQ(ChoicesOf(s.HumanTime).front().text, L"0:00 AM");
+}
+
+TEST_F(CalendarRules, StoreAnIconAtOnceAndNothingWhenThePageCloses) {
   s.ApptLeftAlignIcon1.Set(3);  // which no strip offers
-  FakeView page(std::make_unique<IconPage>(context));
-  page.ChooseIcons(IconPage::kSetStrip, 9);
+  FakeView page(MakeCalendarPage(context));
+  page.ChooseIcons(1245, 9);
   EXPECT_EQ(s.ClrApptRightIcons.Value(), 9u);
   EXPECT_EQ(page.repaints, 1);
   s.ClrApptRightIcons.Set(5);
   page.Close();
   EXPECT_EQ(s.ClrApptRightIcons.Value(), 5u);
   EXPECT_EQ(s.ApptLeftAlignIcon1.Value(), 3u);
+}
+
+TEST_F(CalendarRules, GreyTheLinesOfGroupsThatAreHidden) {
+  FakeView page(MakeCalendarPage(context));
+  EXPECT_EQ(page.Enabled(1206, 1209), (Ids{1206, 1208, 1209}));
+  page.Tap(calendar_ids::kHideEmptyGroups);
+  EXPECT_EQ(page.Enabled(1206, 1209), (Ids{1206, 1207, 1208, 1209}));
+}
+
+TEST_F(CalendarRules, PinTheCalendarOnlyWhereTheItemMayBeHighEnough) {
+  ControlState ticked;
+  ticked.checked = true;
+  FakeView page(MakeCalendarPage(context));
+  struct Case {
+    std::uint32_t height, pinned;
+    std::size_t messages;
+  };
+  for (const Case& c : {Case{400, 1, 0}, Case{399, 0, 1}}) {
+    store.root.dHeightLimit.Set(c.height);
+    page.Edit(calendar_ids::kMonthOptions, 9, ticked);
+    EXPECT_EQ(s.PinnedMonthlyClr.Value(), c.pinned);
+    EXPECT_EQ(dialogs.shown.size(), c.messages);
+  }
+}
+
+TEST_F(CalendarRules, TellWhereTheWeatherProgramIsMissing) {
+  const auto shown = [&] { return ChoicesOf(s.WeatehrLayout).size(); };
+  EXPECT_EQ(shown(), 4u);
+  files.Remove(kWeatherLibrary);
+  EXPECT_EQ(shown(), 0u);
+}
+
+TEST_F(CalendarRules, ReplaceAForeignTitleByThatOfItsPlace) {
+  s.CalTitlesOrder1.Set(9);
+  s.CalTitlesOrder2.Set(5);
+  for (const PageTab& tab : MakeCalendarPage(context)->Tabs()) {
+    for (const Row* row : tab.Rows()) {
+      if (row->stored == Stored::kOrder) Store(*row, StateOf(*row));
+    }
+  }
+  EXPECT_EQ(s.CalTitlesOrder1.Value(), 1u);
+  EXPECT_EQ(s.CalTitlesOrder2.Value(), 5u);
+}
+
+TEST_F(Rules, GreyTheCustomDateUntilItIsOn) {
+  FakeView page(MakeTasksPage(context));
+  EXPECT_EQ(page.Enabled(1212, 1218), Ids{1212});
+  page.Tap(tasks_ids::kCustomDate);
+  EXPECT_EQ(page.Enabled(1212, 1218), (Ids{1212, 1213, 1214, 1215, 1216, 1217, 1218}));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // What every page does beyond its rows: its frame, keys, scrolling, turning, and that it fits its
 // screen in every language.
 #include "pages/general_page.h"
+#include "platform/text.h"
 #include "tests/pages/page_host.h"
 #include "win32/gdi.h"
 
@@ -44,7 +45,7 @@ TEST_F(PageWindow, IsAPopupWithAnOkButtonAndLeavesNoClassBehind) {
   EXPECT_EQ(host_.Count(WM_USER + 1), 2) << "but not below a dialog";
   Close();
   EXPECT_FALSE(GetClassInfoW(GetModuleHandleW(nullptr), L"MessagesSettingsWin", &found));
-  for (const int index : {-1, 1, 12}) EXPECT_FALSE(CreatePage(index, host_.Get(), context));
+  for (const int index : {-1, kPageCount}) EXPECT_FALSE(CreatePage(index, host_.Get(), context));
 }
 
 // ---- Keys
@@ -190,23 +191,45 @@ class PageOnScreens : public PageWindow {
     const int tabs = TabCtrl_GetItemCount(Tabs());
     RECT last;
     TabCtrl_GetItemRect(Tabs(), tabs - 1, &last);
-    EXPECT_TRUE(last.right <= ClientRect(page_->Window()).right || doubled_);
+    EXPECT_TRUE(last.right <= ClientRect(page_->Window()).right || doubled_ || tabs > 4);
     for (int tab = 0; tab < tabs; ++tab) {
       SCOPED_TRACE(testing::Message() << "tab " << tab);
       Turn(tab);
-      std::vector<HWND> shown;
-      for (HWND child = GetWindow(page_->Window(), GW_CHILD); child;
-           child = GetWindow(child, GW_HWNDNEXT)) {
-        if (IsWindowVisible(child) && child != Tabs()) shown.push_back(child);
-      }
-      for (const HWND control : shown) {
-        CheckTexts(control);
-        for (const HWND other : shown) CheckApart(control, other);
+      const HWND list = CheckControls(true);
+      for (int line = 0; list && line < ListView_GetItemCount(list); ++line) {
+        SCOPED_TRACE(testing::Message() << "option " << line);
+        ListView_SetItemState(list, line, LVIS_SELECTED, LVIS_SELECTED);
+        CheckControls(!doubled_);
       }
     }
   }
 
  private:
+  static std::wstring ClassOf(HWND control) {
+    wchar_t name[32];
+    GetClassNameW(control, name, 32);
+    return name;
+  }
+  // Of the tab and the option in view, with their texts or their places alone. Returns the list
+  // among them, if there is one.
+  HWND CheckControls(bool texts) const {
+    std::vector<HWND> shown;
+    HWND list = nullptr;
+    for (HWND child = GetWindow(page_->Window(), GW_CHILD); child;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+      if (!IsWindowVisible(child) || child == Tabs()) continue;
+      shown.push_back(child);
+      if (ListView_GetItemCount(child) > 0) list = child;
+    }
+    for (const HWND control : shown) {
+      const RECT place = Place(control);
+      const bool fits = place.left >= 0 && place.right <= ClientRect(page_->Window()).right;
+      EXPECT_TRUE(fits || (doubled_ && ClassOf(control) == L"IconMarkerClass"));
+      if (texts) CheckTexts(control);
+      for (const HWND other : shown) CheckApart(control, other);
+    }
+    return list;
+  }
   void CheckApart(HWND control, HWND other) const {
     RECT common;
     const RECT place = Place(control);
@@ -217,22 +240,20 @@ class PageOnScreens : public PageWindow {
   // A text has the width of its control but for the box or the arrow beside it.
   void CheckTexts(HWND control) const {
     const RECT place = Place(control);
-    EXPECT_TRUE(place.left >= 0 && place.right <= ClientRect(page_->Window()).right);
     const bool isCheckBox = GetWindowLongW(control, GWL_STYLE) & BS_LEFTTEXT;
-    wchar_t kind[32];
-    GetClassNameW(control, kind, 32);
-    if (lstrcmpiW(kind, WC_COMBOBOXW) == 0) {
+    const std::wstring kind = ClassOf(control);
+    if (EqualIgnoringCase(kind, WC_COMBOBOXW)) {
       if (doubled_) return;
       wchar_t line[256];
       for (WPARAM i = 0;
            SendMessageW(control, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(line)) != CB_ERR; ++i) {
         ExpectFits(control, line, 23, DT_SINGLELINE);
       }
-    } else if (lstrcmpiW(kind, WC_STATICW) == 0) {
+    } else if (EqualIgnoringCase(kind, WC_STATICW)) {
       const int margin = place.left > 0 ? 0 : 4;  // to the edge of the screen
       ExpectFits(control, CaptionOf(control), margin, DT_WORDBREAK);
-    } else if (lstrcmpiW(kind, WC_BUTTONW) == 0) {
-      ExpectFits(control, CaptionOf(control), isCheckBox ? 16 : 10, DT_WORDBREAK);
+    } else if (EqualIgnoringCase(kind, WC_BUTTONW)) {
+      ExpectFits(control, CaptionOf(control), isCheckBox ? 16 : 6, DT_WORDBREAK);
     }
   }
   void ExpectFits(HWND control, const std::wstring& text, int beside, UINT format) const {

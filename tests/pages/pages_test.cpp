@@ -2,8 +2,12 @@
 #include <gmock/gmock.h>
 
 #include "pages/general_page.h"
+#include "pages/option_layout.h"
 #include "pages/pim_page.h"
+#include "pages/windows/list_lines.h"
+#include "platform/text.h"
 #include "tests/pages/page_host.h"
+#include "tests/support/setting_lines.h"
 
 namespace tidewell {
 namespace {
@@ -44,10 +48,15 @@ class EachPage : public PageHost, public testing::WithParamInterface<PageIndex> 
     UseScreen(480, 640, 192);
     InstallCompanion();
     InstallOtherPrograms();
+    ReadTabs();
+  }
+  // As the settings make them now.
+  void ReadTabs() {
     tabs_ = kPages[static_cast<std::size_t>(GetParam())].make(context)->Tabs();
+    storing_.clear();
     for (const PageTab& tab : tabs_) {
       for (const Row* row : tab.Rows()) {
-        if (row->stored < Stored::kByRules) storing_.push_back(row);
+        if (row->stored < Stored::kByRules && row->controlId) storing_.push_back(row);
       }
     }
   }
@@ -61,6 +70,10 @@ class EachPage : public PageHost, public testing::WithParamInterface<PageIndex> 
       const Choice& chosen = row.choices[static_cast<std::size_t>(state.selection)];
       state.data = chosen.data;
       if (row.stored == Stored::kName) state.text = chosen.text;
+    } else if (row.kind == RowKind::kOrder) {
+      for (const ListLine& line : LinesOf(Control(row.controlId))) {
+        state.order.push_back(static_cast<std::uint32_t>(line.data));
+      }
     } else {
       state.text = TextOfControl(row.controlId);
     }
@@ -68,13 +81,34 @@ class EachPage : public PageHost, public testing::WithParamInterface<PageIndex> 
   }
   void Change(const Row& row) {
     const int last = static_cast<int>(row.choices.size()) - 1;
-    if (row.kind == RowKind::kCheck) {
+    if (row.kind == RowKind::kOrder) {
+      SelectLine(row.controlId, 0);
+      TapControl(row.browseId);
+    } else if (row.kind == RowKind::kPath) {
+      dialogs.answer = L"\\chosen";
+      TapControl(row.browseId);
+    } else if (row.kind == RowKind::kCheck) {
       TapControl(row.controlId);
     } else if (row.kind == RowKind::kList) {
       Choose(row.controlId, Selection(row.controlId) == last ? 0 : last);
     } else {
       Type(row.controlId, L"0x50");
     }
+  }
+  void SelectLine(int list, int line) const {
+    ListView_SetItemState(Control(list), line, LVIS_SELECTED, LVIS_SELECTED);
+  }
+  // Of all settings but those of a row.
+  std::vector<std::wstring> OtherValues(const Row& row) {
+    std::vector<std::wstring> values;
+    for (DwordSetting* each : SettingLines(store).dwords) {
+      const bool own = each == row.number || std::ranges::count(row.order, each) > 0;
+      if (!own) values.push_back(FormatDecimal(each->Signed()));
+    }
+    for (StringSetting* each : SettingLines(store).strings) {
+      if (each != row.text) values.push_back(each->Value());
+    }
+    return values;
   }
   // The setting has what its row makes of a control's state.
   static void ExpectStored(const Row& row, const ControlState& state) {
@@ -105,8 +139,9 @@ TEST_P(EachPage, ShowsEveryStoredValueAndStoresWhatItShows) {
     for (const Row* row : storing_) {
       if (row->number) row->number->Set(value);
       if (row->text) row->text->Set(value ? L"FAMILY" : L"");
-      expected.push_back(StateOf(*row));
     }
+    ReadTabs();
+    for (const Row* row : storing_) expected.push_back(StateOf(*row));
     Open(GetParam());
     for (std::size_t i = 0; i < storing_.size(); ++i) {
       if (storing_[i]->stored == Stored::kName && expected[i].selection >= 0) {
@@ -162,6 +197,38 @@ TEST_P(EachPage, ShowsATabAtATimeAndStoresWhatAFingerChanges) {
   Close();
   EXPECT_GE(changed.size(), 6u);
   for (const auto& [row, state] : changed) ExpectStored(*row, state);
+}
+
+// In turn by selecting another, by turning to another tab and by closing the page.
+TEST_P(EachPage, ShowsEveryOptionAndStoresItAloneHoweverItIsLeft) {
+  store.root.dHeightLimit.Set(1000);
+  Open(GetParam());
+  int options = 0;
+  for (std::size_t tab = 0; tab < tabs_.size(); ++tab) {
+    const auto* list = std::get_if<OptionList>(&tabs_[tab].body);
+    for (std::size_t line = 0; list && line < list->options.size(); ++line) {
+      Row row = list->options[line].editor;
+      row.controlId = StateControlOf(list->options[line], list->editor);
+      row.browseId = row.kind == RowKind::kOrder ? list->editor.downId : list->editor.browseId;
+      Turn(static_cast<int>(tab));
+      SelectLine(list->listId, static_cast<int>(line));
+      ControlState expected = StateOf(row);
+      EXPECT_EQ(StateOfControl(row), expected) << list->listId << " " << line;
+      Change(row);
+      const ControlState changed = StateOfControl(row);
+      EXPECT_NE(changed, expected) << list->listId << " " << line;
+      const std::vector<std::wstring> before = OtherValues(row);
+      const int way = options++ % 3;
+      if (way == 0) SelectLine(list->listId, line ? 0 : 1);
+      if (way == 1) Turn(0);
+      if (way == 2) {
+        Close();
+        Open(GetParam());
+      }
+      ExpectStored(row, changed);
+      EXPECT_EQ(OtherValues(row), before) << list->listId << " " << line;
+    }
+  }
 }
 
 // ---- What their rules do, as a finger sees it

@@ -5,7 +5,6 @@
 #include "preview/today_preview.h"
 #include "preview/windows/gdi_canvas.h"
 #include "resources/text/text_ids.h"
-#include "tests/pages/icon_page.h"
 #include "tests/pages/page_host.h"
 #include "ui/windows/look.h"
 
@@ -128,62 +127,51 @@ TEST_F(TabBodies, ItemsAreTickedMovedAndToldOfAndAMissingControlStoresNothing) {
   EXPECT_EQ(SampleRules::lines, lines);
 }
 
-class IconTab : public TabBodies {
+class IconTab : public PageHost {
  protected:
-  static constexpr RECT kRoom{0, 58, 240, 100};
+  enum : int { kLeft = 1241, kRightLabel = 1244, kRight = 1245, kTaskLeft = 1247 };
 
   void SetUp() override {
     store.calendar.ClrApptRightIcons.Set(0x405);
-    OpenPage(std::make_unique<IconPage>(context));
+    Open(PageIndex::kCalendar);
+    Turn(4);
     PumpMessages();
   }
 };
 
 TEST_F(IconTab, StoresWhatIsTappedAtOnceAndPaintsTheRoomBelow) {
   CalendarSettings& s = store.calendar;
-  const HWND strip = Control(IconPage::kSetStrip);
+  const HWND strip = Control(kRight);
   EXPECT_EQ(Place(strip).left, 100);
   EXPECT_EQ(Place(strip).top, 31);
-  EXPECT_EQ(TextOfControl(IconPage::kSet), L"Category");
-  EXPECT_EQ(Screenshot(page_->Window()).At(0, 58), 0x405u);
+  EXPECT_EQ(TextOfControl(kRightLabel), L"Right icons");
   SendMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 4));
   SendMessageW(strip, WM_LBUTTONUP, 0, MAKELPARAM(20, 4));
   EXPECT_EQ(s.ClrApptRightIcons.Value(), 0x407u);
   RECT dirty{};
   GetUpdateRect(page_->Window(), &dirty, FALSE);
-  EXPECT_TRUE(EqualRect(&dirty, &kRoom)) << "and only it";
-  SendMessageW(Control(IconPage::kFirstStrip), WM_COMMAND, 1146, 0);
-  EXPECT_EQ(s.ApptLeftAlignIcon1.Value(), 4u);
+  const RECT room{0, 108, 240, 150};
+  EXPECT_TRUE(EqualRect(&dirty, &room)) << "and only it";
+  SendMessageW(Control(kTaskLeft), WM_COMMAND, 1146, 0);
+  EXPECT_EQ(s.TaskLeftAlignIcon1.Value(), 4u);
   PumpMessages();
   const Screenshot shown(page_->Window());
-  EXPECT_EQ(shown.At(239, 58), 0x407u);
-  EXPECT_EQ(shown.At(0, 99), 0x407u);
-  EXPECT_EQ(shown.At(0, 57), RGB(255, 255, 255));
-  EXPECT_EQ(shown.At(0, 100), RGB(255, 255, 255));
+  EXPECT_EQ(shown.At(0, 107), RGB(255, 255, 255));
+  EXPECT_EQ(shown.At(0, 108), RGB(0, 0, 0));
+  EXPECT_EQ(shown.At(239, 149), RGB(0, 0, 0));
+  EXPECT_EQ(shown.At(0, 150), RGB(255, 255, 255));
 }
-
-class PreviewPage final : public IconPage {
- public:
-  explicit PreviewPage(PageContext& context)
-      : IconPage(context),
-        preview_(context.settings, context.scale, context.machine.locale, context.language,
-                 *context.icons, [](const std::wstring&) { return nullptr; }) {}
-  void PaintRoom(Canvas& canvas, int width, int, int) override {
-    preview_.DrawAppointment(canvas, width, 0);
-  }
-
- private:
-  TodayPreview preview_;
-};
 
 // One object left behind by each would show; a few are the system's own.
 TEST_F(IconTab, LeavesNoDrawingObjectsBehind) {
-  IconCache icons(
-      [](IconSymbol) { return GdiImage::Of(Bitmap(CreateBitmap(12, 12, 1, 32, nullptr))); });
+  IconCache icons(store.iconSet, context.scale, {}, [](IconSymbol) {
+    return GdiImage::Of(Bitmap(CreateBitmap(12, 12, 1, 32, nullptr)));
+  });
   context.icons = &icons;
   const auto visit = [&](int redraws) {
     Close();
-    OpenPage(std::make_unique<PreviewPage>(context));
+    Open(PageIndex::kTasks);
+    Turn(3);
     while (redraws-- > 0) {
       RedrawWindow(page_->Window(), nullptr, nullptr,
                    RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
@@ -203,9 +191,9 @@ TEST_F(IconTab, LeavesNoDrawingObjectsBehind) {
 }
 
 TEST_F(IconTab, IsWorkedByKeys) {
-  EXPECT_EQ(FocusedId(), IconPage::kFirstStrip);
-  for (const WPARAM key : {VK_TAB, VK_DOWN, VK_RIGHT, VK_SPACE}) Press(key);
-  EXPECT_EQ(FocusedId(), IconPage::kSetStrip);
+  SetFocus(Control(kLeft));
+  for (const WPARAM key : {VK_DOWN, VK_DOWN, VK_RIGHT, VK_SPACE}) Press(key);
+  EXPECT_EQ(FocusedId(), kRight);
   EXPECT_EQ(store.calendar.ClrApptRightIcons.Value(), 0x407u);
 }
 

@@ -79,6 +79,8 @@ struct TestDevice {
     Put(L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath", L"");
     Put({RegistryRoot::kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion"}, L"VerMajor",
         L"");
+    Put(L"SOFTWARE\\Velmont Weather", L"UtilityLibrary", kWeatherLibrary);
+    files.Put(kWeatherLibrary, "MZ");
   }
 
   // These make a key when it is missing.
@@ -114,6 +116,7 @@ struct TestDevice {
   int Sets() const { return recorded.Count(RegistryCall::kSet); }
   int Deletes() const { return recorded.Count(RegistryCall::kDeleteValue); }
 
+  static constexpr const wchar_t* kWeatherLibrary = L"\\Weather\\util.dll";
   MemoryMachine memory;
   MemoryRegistry& registry = memory.registry;
   MemoryFiles& files = memory.files;

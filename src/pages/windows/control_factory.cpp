@@ -185,6 +185,20 @@ RowPlace SettingsPage::AddPathRow(int labelId, int editId, int clearId, int brow
   return row;
 }
 
+RowPlace SettingsPage::AddTextRow(int labelId, int editId, int textId, const std::wstring& text,
+                                  int y) {
+  RowPlace row = PlaceTextRow(Metrics(), labelId, editId, Text(textId), y);
+  MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
+  AddEdit(editId, text, row.controls[1].rect);
+  return row;
+}
+
+RowPlace SettingsPage::AddNotice(int labelId, int textId, int y) {
+  RowPlace row = PlaceNotice(Metrics(), labelId, Text(textId), y);
+  MakeControl(WC_STATICW, SS_LEFT, labelId, row.caption, row.controls[0].rect);
+  return row;
+}
+
 RowPlace SettingsPage::AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path,
                                    int y) {
   RowPlace row = PlacePathEdit(Metrics(), editId, clearId, browseId, y);

@@ -39,7 +39,7 @@ void ItemListBody::LayOut() {
   for (const ItemButton& button : list_.buttons) {
     Page().Place(button.id, PlaceOf(metrics, button.place));
   }
-  FitColumn();
+  FitColumn(Page().Control(list_.listId));
 }
 
 bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
@@ -49,12 +49,6 @@ bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
     return icons_ ? icons_->Load(line.text, true) : FileIcons::kNone;
   });
   return true;
-}
-
-// As wide as the list.
-void ItemListBody::FitColumn() const {
-  const HWND list = Page().Control(list_.listId);
-  ListView_SetColumnWidth(list, 0, ClientArea(list).right - GetSystemMetrics(SM_CXVSCROLL));
 }
 
 }  // namespace tidewell

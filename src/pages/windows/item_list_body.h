@@ -19,8 +19,6 @@ class ItemListBody final : public TabBody {
   bool SetLines(int listId, const std::vector<ListLine>& lines) override;
 
  private:
-  void FitColumn() const;
-
   const ItemList& list_;
   std::optional<FileIcons> icons_;
 };

@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "win32/gdi.h"
+
 namespace tidewell {
 
 namespace {
@@ -46,6 +48,10 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
     if (lines[i].ticked) ListView_SetCheckState(list, item.iItem, TRUE);
   }
   SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+}
+
+void FitColumn(HWND list) {
+  ListView_SetColumnWidth(list, 0, ClientArea(list).right - GetSystemMetrics(SM_CXVSCROLL));
 }
 
 }  // namespace tidewell

@@ -15,4 +15,8 @@ std::vector<ListLine> LinesOf(HWND list);
 void ShowLines(HWND list, const std::vector<ListLine>& lines,
                const std::function<int(const ListLine&)>& imageOf = {});
 
+// Makes the one column as wide as the list beside its scroll bar: a desktop's list view scrolls
+// sideways otherwise.
+void FitColumn(HWND list);
+
 }  // namespace tidewell

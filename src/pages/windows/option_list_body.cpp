@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "pages/windows/list_lines.h"
+#include "platform/text.h"
 #include "resources/text/text_ids.h"
 
 namespace tidewell {
@@ -21,10 +23,29 @@ OptionListBody::OptionListBody(SettingsPage& page, Raise raise, const PaintedRoo
 void OptionListBody::Build() {
   std::vector<int> lines;
   for (const Option& option : list_.options) lines.push_back(option.lineTextId);
-  Page().AddList(list_.listId, lines, kOptionListOffset);
+  Page().AddList(list_.listId, lines, OptionListOffset(Page().Metrics()));
   for (const ControlPlace& part : PlaceOptionEditor(Page().Metrics(), list_.editor)) {
     if (!Page().Control(part.id)) BuildPart(part);
   }
+  for (const Option& option : list_.options) {
+    if (option.editor.kind == RowKind::kOrder) ShowOrder(option);
+  }
+  FitColumns();
+}
+
+void OptionListBody::FitColumns() const {
+  FitColumn(Page().Control(list_.listId));
+  if (const HWND order = Page().Control(list_.editor.orderId)) FitColumn(order);
+}
+
+// The lines stay in their list whether or not they are shown.
+void OptionListBody::ShowOrder(const Option& option) const {
+  std::vector<ListLine> lines;
+  for (const std::uint32_t number : StateOf(option.editor).order) {
+    const Choice& line = option.editor.choices[number];
+    lines.push_back({line.TextIn(Page().Context().language), static_cast<std::intptr_t>(number)});
+  }
+  ShowLines(Page().Control(list_.editor.orderId), lines);
 }
 
 void OptionListBody::BuildPart(const ControlPlace& part) const {
@@ -35,7 +56,7 @@ void OptionListBody::BuildPart(const ControlPlace& part) const {
   } else if (id == e.listId) {
     Page().AddCombo(id, false, part.rect);
   } else if (id == e.checkId) {
-    Page().AddCheck(id, {}, false, part.rect);
+    Page().AddCheck(id, {}, IsNarrow(Page().Metrics()), part.rect);
   } else if (id == e.pathId || id == e.textId) {
     Page().AddEdit(id, {}, part.rect, id == e.pathId ? ES_READONLY : 0);
   } else if (id == e.orderId) {
@@ -61,6 +82,21 @@ void OptionListBody::Deselect() const {
 
 void OptionListBody::Store() {
   Deselect();
+  for (const Option& option : list_.options) {
+    if (option.editor.kind == RowKind::kOrder) StoreOption(option);
+  }
+}
+
+void OptionListBody::StoreOption(const Option& option) const {
+  const HWND control = Page().Control(StateControlOf(option, list_.editor));
+  if (!control) return;
+  ControlState state = Page().State(StateControlOf(option, list_.editor));
+  if (option.editor.kind == RowKind::kOrder) {
+    for (const ListLine& line : LinesOf(control)) {
+      state.order.push_back(static_cast<std::uint32_t>(line.data));
+    }
+  }
+  tidewell::Store(option.editor, state);
 }
 
 void OptionListBody::LayOut() {
@@ -69,6 +105,7 @@ void OptionListBody::LayOut() {
     Page().Place(part.id, part.rect);
   }
   Page().Place(list_.listId, PlaceOptionList(metrics));
+  FitColumns();
 }
 
 bool OptionListBody::OnCommand(int id, int notification) {
@@ -88,8 +125,8 @@ void OptionListBody::OnSelection(int listId, int line, bool selected) {
   HideEditor();
   if (selected) {
     ShowEditor(option);
-  } else if (const int id = ControlOf(option); Page().Control(id)) {
-    tidewell::Store(option.editor, Page().State(id));
+  } else {
+    StoreOption(option);
   }
   selected_ = selected ? &option : nullptr;
 }
@@ -97,42 +134,32 @@ void OptionListBody::OnSelection(int listId, int line, bool selected) {
 void OptionListBody::ShowEditor(const Option& option) const {
   const OptionEditor& e = list_.editor;
   const Row& row = option.editor;
-  const int id = ControlOf(option);
-  Page().SetTextOfControl(e.tipId, Page().Text(option.tipTextId));
+  const int id = StateControlOf(option, list_.editor);
+  Page().SetTextOfControl(e.tipId, WithNumber(Page().Text(option.tipTextId), option.tipNumber));
   if (row.kind == RowKind::kCheck) Page().SetTextOfControl(id, Page().Text(row.textId));
-  if (row.kind == RowKind::kList) {
-    Page().SetTextOfControl(e.labelId, Page().Text(row.textId));
-    Page().SetChoices(id, row.choices);
-  }
+  if (row.kind == RowKind::kList) ShowChoices(row);
   if (row.kind != RowKind::kOrder) Page().SetState(id, StateOf(row));
   for (const int part : ControlsOf(option, e)) ShowWindow(Page().Control(part), SW_SHOW);
+}
+
+void OptionListBody::ShowChoices(const Row& row) const {
+  const OptionEditor& e = list_.editor;
+  const std::wstring label = Page().Text(row.textId);
+  std::vector<std::wstring> texts;
+  for (const Choice& choice : row.choices) {
+    texts.push_back(choice.TextIn(Page().Context().language));
+  }
+  for (const ControlPlace& part : PlaceChoices(Page().Metrics(), e, label, texts)) {
+    Page().Place(part.id, part.rect);
+  }
+  Page().SetTextOfControl(e.labelId, label);
+  Page().SetChoices(e.listId, row.choices);
 }
 
 void OptionListBody::HideEditor() const {
   for (const ControlPlace& part : PlaceOptionEditor(Page().Metrics(), list_.editor)) {
     ShowWindow(Page().Control(part.id), SW_HIDE);
   }
-}
-
-int OptionListBody::ControlOf(const Option& option) const {
-  const OptionEditor& e = list_.editor;
-  switch (option.editor.kind) {
-    case RowKind::kCheck:
-      return e.checkId;
-    case RowKind::kList:
-    case RowKind::kNumber:
-      return e.listId;
-    case RowKind::kPath:
-      return e.pathId;
-    case RowKind::kText:
-      return e.textId;
-    case RowKind::kOrder:
-      return e.orderId;
-    case RowKind::kIcon:
-    case RowKind::kIcons:
-      break;  // no option
-  }
-  return 0;
 }
 
 }  // namespace tidewell

@@ -21,11 +21,13 @@ class OptionListBody final : public TabBody {
 
  private:
   void BuildPart(const ControlPlace& part) const;
+  void FitColumns() const;
   void Deselect() const;
+  void ShowOrder(const Option& option) const;
+  void StoreOption(const Option& option) const;
   void ShowEditor(const Option& option) const;
+  void ShowChoices(const Row& row) const;
   void HideEditor() const;
-  // The control of the editor that holds the option's state.
-  int ControlOf(const Option& option) const;
 
   const OptionList& list_;
   const Option* selected_ = nullptr;  // whose editor is shown

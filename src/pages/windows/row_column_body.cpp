@@ -36,6 +36,9 @@ RowPlace RowColumnBody::BuildRow(const Row& row, int y) const {
       return Page().AddPathRow(row.labelId, row.controlId, row.clearId, row.browseId, row.textId,
                                state.text, y);
     case RowKind::kText:
+      return Page().AddTextRow(row.labelId, row.controlId, row.textId, state.text, y);
+    case RowKind::kNotice:
+      return Page().AddNotice(row.labelId, row.textId, y);
     case RowKind::kOrder:
     case RowKind::kIcon:
     case RowKind::kIcons:

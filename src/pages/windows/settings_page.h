@@ -60,6 +60,8 @@ class SettingsPage : public PageWindow, private NavigationOwner {
                        int y, bool editable);
   RowPlace AddPathRow(int labelId, int editId, int clearId, int browseId, int textId,
                       const std::wstring& path, int y);
+  RowPlace AddTextRow(int labelId, int editId, int textId, const std::wstring& text, int y);
+  RowPlace AddNotice(int labelId, int textId, int y);
   RowPlace AddPathEdit(int editId, int clearId, int browseId, const std::wstring& path, int y);
   void AddList(int id, std::span<const int> itemIds, int yOffset);
   RowPlace AddTwoRowPicker(const TwoRowPicker& picker, int y);

@@ -28,6 +28,14 @@ SYSTEMTIME SystemTimeOf(const LocalTime& time) {
   return system;
 }
 
+// `flags` chooses one of the locale's own pictures when `picture` is null.
+std::wstring DateText(LCID localeId, DWORD flags, const LocalTime& date, const wchar_t* picture) {
+  const SYSTEMTIME day = SystemTimeOf(date);
+  wchar_t text[kLongestText] = {};
+  GetDateFormatW(localeId, flags, &day, picture, text, kLongestText);
+  return text;
+}
+
 // In the locale's own picture when `picture` is null.
 std::wstring TimeText(LCID localeId, const LocalTime& time, const wchar_t* picture) {
   const SYSTEMTIME moment = SystemTimeOf(time);
@@ -62,9 +70,17 @@ LocalTime WindowsLocale::Now() {
 }
 
 std::wstring WindowsLocale::FormatDate(const LocalTime& date, const std::wstring& picture) {
-  const SYSTEMTIME day = SystemTimeOf(date);
+  return DateText(localeId_, 0, date, picture.c_str());
+}
+
+std::wstring WindowsLocale::FormatDate(const LocalTime& date, DateStyle style) {
+  return DateText(localeId_, style == DateStyle::kShort ? DATE_SHORTDATE : DATE_LONGDATE, date,
+                  nullptr);
+}
+
+std::wstring WindowsLocale::DayName(int day) {
   wchar_t text[kLongestText] = {};
-  GetDateFormatW(localeId_, 0, &day, picture.c_str(), text, kLongestText);
+  GetLocaleInfoW(localeId_, LOCALE_SDAYNAME1 + static_cast<LCTYPE>(day), text, kLongestText);
   return text;
 }
 

@@ -14,6 +14,8 @@ class WindowsLocale final : public Locale {
   int CompareIgnoringCase(const std::wstring& left, const std::wstring& right) override;
   LocalTime Now() override;
   std::wstring FormatDate(const LocalTime& date, const std::wstring& picture) override;
+  std::wstring FormatDate(const LocalTime& date, DateStyle style) override;
+  std::wstring DayName(int day) override;
   std::wstring FormatTime(const LocalTime& time) override;
   std::wstring FormatTime(const LocalTime& time, const std::wstring& picture) override;
 
