@@ -112,7 +112,7 @@ TEST_F(DoneTest, AStartThatBrokeOffSaysSoAndSavesAndTellsNothing) {
 
 TEST_F(DoneTest, ADragThatEndsOverTheBarIsNoTapOnIt) {
   Start();
-  const LONG bottom = ClientRect(Window()).bottom;
+  const LONG bottom = ClientArea(Window()).bottom;
   PostMessageW(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 100));
   PostMessageW(Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, bottom - 5));
   PostMessageW(Window(), WM_LBUTTONUP, 0, MAKELPARAM(5, bottom - 5));

@@ -50,7 +50,7 @@ class ProgramTest : public testing::Test, protected TestDevice {
   HWND Window() const { return program->Window(); }
   bool IsOpen() const { return program->Window() != nullptr; }
   void TapBar(bool right) {
-    const RECT client = ClientRect(Window());
+    const RECT client = ClientArea(Window());
     Tap(Window(), {right ? client.right - 5 : 5, client.bottom - 5});
   }
   void RunRow(int row) {

@@ -42,7 +42,7 @@ TEST_F(ProgramTest, TheWindowFillsItsPlaceWithoutAFrameAndAnExitWritesAndTellsNo
   const RECT place = WindowRect(Window());
   const RECT wanted = WindowRect(full.Get());
   EXPECT_TRUE(EqualRect(&place, &wanted));
-  EXPECT_EQ(ClientRect(Window()).bottom, place.bottom - place.top);
+  EXPECT_EQ(ClientArea(Window()).bottom, place.bottom - place.top);
   EXPECT_EQ(FindWindowW(L"TW_OPTIONS", L"TW Options"), Window());
   dialogs.agrees = true;
   TapBar(true);

@@ -79,13 +79,13 @@ class PageHost : public testing::Test, protected TestDevice {
     SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, middle);
     SendMessageW(window, WM_LBUTTONUP, 0, middle);
   }
-  void TapControl(int id) const { TapMiddle(Control(id), ClientRect(Control(id))); }
+  void TapControl(int id) const { TapMiddle(Control(id), ClientArea(Control(id))); }
   // By keys to a tab that is not in view between the arrows.
   void Turn(int tab) const {
     RECT area;
     TabCtrl_GetItemRect(Tabs(), tab, &area);
     const int arrows = context.scale.ScaleX(2 * 28);
-    if (area.left >= 0 && area.right <= ClientRect(Tabs()).right - arrows) {
+    if (area.left >= 0 && area.right <= ClientArea(Tabs()).right - arrows) {
       return TapMiddle(Tabs(), area);
     }
     while (TabCtrl_GetCurSel(Tabs()) != tab) {

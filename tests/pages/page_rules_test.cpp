@@ -111,12 +111,15 @@ TEST_F(Rules, StoreAProgramAtOnceAndGreyWhatItDoesNotHave) {
 
 TEST_F(Rules, TakeTheCompanionOnlyWhereItIs) {
   program().Set(1);  // which is not there any more
+  registry.Create(RegistryRoot::kCurrentUser, L"SOFTWARE\\Velmont Calendar");  // no value
+  recorded.Calls().Reset();
   FakeView page(MakePimPage(context));
   EXPECT_EQ(page.State(pim_ids::kProgram).selection, 0);
   page.Choose(pim_ids::kProgram, 1);
   EXPECT_EQ(dialogs.shown.size(), 1u);
   EXPECT_EQ(page.State(pim_ids::kProgram).selection, 0);
   EXPECT_EQ(program().Value(), 0u);
+  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";
   InstallCompanion();
   page.Choose(pim_ids::kProgram, 1);
   EXPECT_EQ(dialogs.shown.size(), 1u);

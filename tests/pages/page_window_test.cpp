@@ -22,7 +22,7 @@ class PageWindow : public PageHost {
                place.right - place.left, TRUE);
   }
   LONG DistanceFromRight(int id) const {
-    return ClientRect(page_->Window()).right - Place(Control(id)).left;
+    return ClientArea(page_->Window()).right - Place(Control(id)).left;
   }
   LONG Top(int id) const { return Place(Control(id)).top; }
   LONG Bottom(int id) const { return Place(Control(id)).bottom; }
@@ -108,26 +108,21 @@ TEST_F(PageWindow, AFingerDragsWhatDoesNotFitAndAWheelTurnsIt) {
 
 // ---- Turning the screen
 
-TEST_F(PageWindow, TurningTheScreenLosesNoEdit) {
+TEST_F(PageWindow, EveryTabIsBuiltWhenThePageIsAndTurnsWithTheScreenAndNoEditIsLost) {
   store.root.AutoHeight.Set(0);
   Open(PageIndex::kGeneral);
+  EXPECT_FALSE(IsShown(1212));
   Choose(1201, 2);
   Type(general_ids::kHeight, L"234");
-  TurnScreen();
-  EXPECT_EQ(DistanceFromRight(1201), 135);
+  for (int turns = 0; turns < 2; ++turns) {
+    for (const int id : {1201, 1212, 1224, 1235}) EXPECT_EQ(DistanceFromRight(id), 135);
+    if (turns == 0) TurnScreen();
+  }
   EXPECT_EQ(FocusedId(), general_ids::kHeight);
   EXPECT_EQ(store.root.OnClick.Value(), 0u) << "nothing is stored before the page closes";
   Close();
   EXPECT_EQ(store.root.OnClick.Value(), 2u);
   EXPECT_EQ(store.root.dHeightLimit.Value(), 234u);
-}
-
-TEST_F(PageWindow, EveryTabIsBuiltWhenThePageIsAndTurnsWithTheScreen) {
-  Open(PageIndex::kGeneral);
-  for (const int id : {1201, 1212, 1224, 1235}) EXPECT_EQ(DistanceFromRight(id), 135);
-  EXPECT_FALSE(IsShown(1212));
-  TurnScreen();
-  for (const int id : {1201, 1212, 1224, 1235}) EXPECT_EQ(DistanceFromRight(id), 135);
 }
 
 // ---- What a control shows of much
@@ -146,22 +141,30 @@ TEST_F(PageWindow, AListDropsAsFarAsItsHeightAndNotOverTheScreen) {
   EXPECT_GT(height, 80);
 }
 
-TEST_F(PageWindow, APathThatIsLongerThanItsFieldShowsItsEnd) {
+TEST_F(PageWindow, APathIsOnlyBrowsedAndClearedAndShowsItsEnd) {
   store.root.SkinPath.Set(L"\\Storage Card\\Program Files\\Skins\\Blue");
   Open(PageIndex::kGeneral);
   const auto endIsSeen = [&] {
     const int last = GetWindowTextLengthW(Control(general_ids::kSkinPath)) - 1;
     const auto x = static_cast<short>(
         LOWORD(Send(general_ids::kSkinPath, EM_POSFROMCHAR, static_cast<WPARAM>(last))));
-    return x > 0 && x < ClientRect(Control(general_ids::kSkinPath)).right;
+    return x > 0 && x < ClientArea(Control(general_ids::kSkinPath)).right;
   };
   EXPECT_TRUE(endIsSeen());
   TurnScreen();
   TurnScreen();
   EXPECT_TRUE(endIsSeen());
+  Turn(1);
+  Type(general_ids::kSkinPath, L"it can only be read");
+  TapControl(general_ids::kBrowseSkin);
+  EXPECT_EQ(dialogs.shown, std::vector{L"Select Skin Path: " + store.root.SkinPath.Value()});
+  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), store.root.SkinPath.Value()) << "cancelled";
   dialogs.answer = L"\\Storage Card\\Program Files\\Skins\\Blue and green";
   TapControl(general_ids::kBrowseSkin);
+  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), dialogs.answer);
   EXPECT_TRUE(endIsSeen());
+  TapControl(general_ids::kClearSkin);
+  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"");
 }
 
 // ---- On every screen, in every language
@@ -191,7 +194,7 @@ class PageOnScreens : public PageWindow {
     const int tabs = TabCtrl_GetItemCount(Tabs());
     RECT last;
     TabCtrl_GetItemRect(Tabs(), tabs - 1, &last);
-    EXPECT_TRUE(last.right <= ClientRect(page_->Window()).right || doubled_ || tabs > 4);
+    EXPECT_TRUE(last.right <= ClientArea(page_->Window()).right || doubled_ || tabs > 4);
     for (int tab = 0; tab < tabs; ++tab) {
       SCOPED_TRACE(testing::Message() << "tab " << tab);
       Turn(tab);
@@ -223,7 +226,7 @@ class PageOnScreens : public PageWindow {
     }
     for (const HWND control : shown) {
       const RECT place = Place(control);
-      const bool fits = place.left >= 0 && place.right <= ClientRect(page_->Window()).right;
+      const bool fits = place.left >= 0 && place.right <= ClientArea(page_->Window()).right;
       EXPECT_TRUE(fits || (doubled_ && ClassOf(control) == L"IconMarkerClass"));
       if (texts) CheckTexts(control);
       for (const HWND other : shown) CheckApart(control, other);
@@ -259,10 +262,10 @@ class PageOnScreens : public PageWindow {
   void ExpectFits(HWND control, const std::wstring& text, int beside, UINT format) const {
     const WindowDc dc(control);
     const Selected font(dc.Dc(), reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    const LONG width = ClientRect(control).right - context.scale.ScaleX(beside);
+    const LONG width = ClientArea(control).right - context.scale.ScaleX(beside);
     RECT area{0, 0, width, 0};
     DrawTextW(dc.Dc(), text.c_str(), -1, &area, DT_CALCRECT | format);
-    EXPECT_TRUE(!text.empty() && area.right <= width && area.bottom <= ClientRect(control).bottom)
+    EXPECT_TRUE(!text.empty() && area.right <= width && area.bottom <= ClientArea(control).bottom)
         << GetDlgCtrlID(control) << ": " << std::string(text.begin(), text.end());
   }
 };

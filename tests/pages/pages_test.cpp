@@ -233,21 +233,6 @@ TEST_P(EachPage, ShowsEveryOptionAndStoresItAloneHoweverItIsLeft) {
 
 // ---- What their rules do, as a finger sees it
 
-TEST_F(PageHost, AsksForTheSkinFolder) {
-  store.root.SkinPath.Set(L"\\My Documents\\Skins");
-  Open(PageIndex::kGeneral);
-  Turn(1);
-  Type(general_ids::kSkinPath, L"it can only be read");
-  TapControl(general_ids::kBrowseSkin);
-  EXPECT_THAT(dialogs.shown, ElementsAre(L"Select Skin Path: \\My Documents\\Skins"));
-  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"\\My Documents\\Skins") << "cancelled";
-  dialogs.answer = L"\\Storage Card\\Skins";
-  TapControl(general_ids::kBrowseSkin);
-  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"\\Storage Card\\Skins");
-  TapControl(general_ids::kClearSkin);
-  EXPECT_EQ(TextOfControl(general_ids::kSkinPath), L"");
-}
-
 TEST_F(PageHost, RefusesAProgramAndGreysByFingerAndByKey) {
   Open(PageIndex::kPim);
   Choose(pim_ids::kProgram, 1);

@@ -164,7 +164,7 @@ TEST_F(IconTab, StoresWhatIsTappedAtOnceAndPaintsTheRoomBelow) {
 
 // One object left behind by each would show; a few are the system's own.
 TEST_F(IconTab, LeavesNoDrawingObjectsBehind) {
-  IconCache icons(store.iconSet, context.scale, {}, [](IconSymbol) {
+  IconCache icons(store.iconSet, scale, {}, [](IconSymbol) {
     return GdiImage::Of(Bitmap(CreateBitmap(12, 12, 1, 32, nullptr)));
   });
   context.icons = &icons;

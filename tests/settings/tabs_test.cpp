@@ -10,7 +10,6 @@ namespace tidewell {
 namespace {
 
 constexpr SettingKey kTabs = SettingKey::kTabSettings;
-constexpr RegistryRoot kUser = RegistryRoot::kCurrentUser;
 const std::wstring kTabsPath = L"Software\\Velmont\\Tidewell\\TabSettings";
 
 class TabsTest : public testing::Test, protected TestDevice {

@@ -1,18 +1,16 @@
-// The theme's colours and the other calendar programs: what is read beside the settings.
 #include "settings/theme_colors.h"
 
 #include <array>
 #include <numeric>
 
 #include <gtest/gtest.h>
-#include "settings/calendar_programs.h"
 
 #include "tests/support/test_device.h"
 
 namespace tidewell {
 namespace {
 
-class DeviceProbeTest : public testing::Test, protected TestDevice {
+class ThemeColorsTest : public testing::Test, protected TestDevice {
  protected:
   void PutColor(const std::wstring& name, const std::vector<unsigned char>& bytes) {
     PutBytes({RegistryRoot::kLocalMachine, L"SOFTWARE\\Microsoft\\Color"}, name, bytes);
@@ -25,7 +23,7 @@ class DeviceProbeTest : public testing::Test, protected TestDevice {
   }
 };
 
-TEST_F(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDefault) {
+TEST_F(ThemeColorsTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDefault) {
   const auto find = [&](std::uint32_t index) {
     return ThemeColorLookup(registry).Find(index, 0x123456);
   };
@@ -41,7 +39,7 @@ TEST_F(DeviceProbeTest, AColorComesFromItsOwnValueElseFromTheTableElseFromTheDef
   }
 }
 
-TEST_F(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
+TEST_F(ThemeColorsTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
   using Colors = std::array<std::uint32_t, 6>;
   const auto expectColors = [&](SystemVersion version, const Colors& expected) {
     const ThemeColors read = ReadThemeColors(recorded, version);
@@ -58,24 +56,6 @@ TEST_F(DeviceProbeTest, TheHighlightPairIsReadOnNewerSystemsOnly) {
   EXPECT_EQ(recorded.Count(RegistryCall::kOpen), 1);
   EXPECT_EQ(recorded.Count(RegistryCall::kQuery), 6 + 2)
       << "six names, the table's size, the table";
-}
-
-TEST_F(DeviceProbeTest, ACalendarProgramIsThereWhenItsValueExists) {
-  using enum CalendarProgram;
-  using enum RegistryRoot;
-  for (const auto& [program, root, path, value] :
-       {std::tuple(kVelmontCalendar, kCurrentUser, L"SOFTWARE\\Velmont Calendar",
-                   L"ExecutablePath"),
-        {kPocketInformant, kCurrentUser, L"Software\\WebIS\\PocketInformant", L"version"},
-        {kAgendaFusion, kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion",
-         L"VerMajor"},
-        {kAgendaOne, kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"}}) {
-    registry.Create(root, path);
-    EXPECT_FALSE(IsInstalled(recorded, program)) << "no value";
-    PutRaw({root, path}, value, 99, {});
-    EXPECT_TRUE(IsInstalled(recorded, program)) << "an empty value of any type";
-  }
-  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 0) << "a probe leaves no trace";
 }
 
 }  // namespace

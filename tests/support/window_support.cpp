@@ -60,12 +60,6 @@ RECT WindowRect(HWND window) {
   return rect;
 }
 
-RECT ClientRect(HWND window) {
-  RECT rect{};
-  GetClientRect(window, &rect);
-  return rect;
-}
-
 std::wstring CaptionOf(HWND window) {
   wchar_t caption[128] = {};
   GetWindowTextW(window, caption, ARRAYSIZE(caption));
@@ -73,8 +67,8 @@ std::wstring CaptionOf(HWND window) {
 }
 
 Screenshot::Screenshot(HWND window)
-    : width_(ClientRect(window).right),
-      height_(ClientRect(window).bottom),
+    : width_(ClientArea(window).right),
+      height_(ClientArea(window).bottom),
       copy_(WindowDc(window).Dc(), width_, height_) {
   BitBlt(copy_.Dc(), 0, 0, width_, height_, WindowDc(window).Dc(), 0, 0, SRCCOPY);
 }

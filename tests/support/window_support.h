@@ -24,7 +24,6 @@ void Tap(HWND window, POINT point);
 void PressKey(HWND window, WPARAM key);
 
 RECT WindowRect(HWND window);
-RECT ClientRect(HWND window);
 std::wstring CaptionOf(HWND window);
 
 // What the window shows, row by row from the top, as the screen has it.

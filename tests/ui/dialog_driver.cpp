@@ -22,7 +22,7 @@ void TapOnRow(int row, UINT downMessage) {
 
 void TapSoftKey(int quarter) {
   const HWND bar = SHFindMenuBar(FrontDialog());
-  PostTap(bar, {ClientRect(bar).right * quarter / 4, 1});
+  PostTap(bar, {ClientArea(bar).right * quarter / 4, 1});
 }
 
 }  // namespace

@@ -110,7 +110,7 @@ TEST_F(PathDialogTest, FillsWhateverScreenItIsTurnedToAndShowsTheEndOfALongPath)
     EXPECT_LE(PlaceInDialog(FolderLine()).bottom, list.top);
     EXPECT_EQ(list.right, 320);
     EXPECT_EQ(list.bottom, 188);
-    EXPECT_EQ(ListView_GetColumnWidth(List(), 0), ClientRect(List()).right);
+    EXPECT_EQ(ListView_GetColumnWidth(List(), 0), ClientArea(List()).right);
   };
   driver.Play({
       {[] { SetWindowPos(FrontDialog(), nullptr, 0, 0, 320, 188, 0); },

@@ -55,7 +55,7 @@ class DeviceShellTest : public testing::Test {
   // A program's main window, as a device's programs make it.
   TestWindow window{0x14000800, kCaptionOk, kDefaultPlace};
   HWND strip = FindOwnWindow(kTitleStrip, window.Get());
-  POINT ok{ClientRect(strip).right - ClientRect(strip).bottom / 2, ClientRect(strip).bottom / 2};
+  POINT ok{ClientArea(strip).right - ClientArea(strip).bottom / 2, ClientArea(strip).bottom / 2};
 };
 
 TEST_F(DeviceShellTest, ATapOnTheTitlesButtonSendsItsCommand) {

@@ -58,7 +58,7 @@ TEST(MessageBoxTest, SpeaksTheProgramsLanguageAndHasAnXForCancelAlone) {
     EXPECT_EQ(CaptionOf(GetDlgItem(Box(), IDCANCEL)), L"&Abbrechen");
     EXPECT_EQ(CaptionOf(GetDlgItem(Box(), IDOK)), L"&OK");
     const HWND strip = FindOwnWindow(L"DeviceTitleStrip", Box());
-    Tap(strip, {ClientRect(strip).right - 10, 10});
+    Tap(strip, {ClientArea(strip).right - 10, 10});
   });
   EXPECT_EQ(MessageBoxW(nullptr, L"Go on?", L"Exit", MB_OKCANCEL), IDCANCEL);
   SetMessageBoxWords({L"OK", L"Cancel", L"Yes", L"No"});
@@ -95,7 +95,7 @@ TEST(MessageBoxTest, ATextOfAnyLengthKeepsToTheScreenAndCanBeReadWhole) {
       ExpectPartsApart(Box());
       const HWND shown = FindWindowExW(Box(), nullptr, L"Edit", nullptr);
       const LRESULT lines = SendMessageW(shown, EM_GETLINECOUNT, 0, 0);
-      const bool fits = lines * ShellScale().ScaleY(14) <= ClientRect(shown).bottom + 2 * lines;
+      const bool fits = lines * ShellScale().ScaleY(14) <= ClientArea(shown).bottom + 2 * lines;
       EXPECT_NE(fits, (GetWindowLongW(shown, GWL_STYLE) & WS_VSCROLL) != 0);
       EndDialog(Box(), IDNO);
     });
