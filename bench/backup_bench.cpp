@@ -55,7 +55,8 @@ bool Export(Registry& registry, const std::wstring& path) {
   if (!file.Stream()) return false;
   TextWriter text(*file.Stream());
   WriteKeyTree(registry, kTree, text);
-  return text.Flush() && file.Commit();
+  text.Flush();
+  return file.Commit() == FileStatus::kOk;
 }
 
 bool RunReg(std::wstring commandLine) {
@@ -97,8 +98,7 @@ bool CompareWithReg() {
 
     registry.DeleteTree(kUser, kTree);
     const Stopwatch importWatch;
-    const auto bytes = ReadWholeFile(files, ours);
-    ok = bytes && Import(registry, idle.catalog, *bytes) && ok;
+    ok = Import(registry, idle.catalog, ReadWholeFile(files, ours).bytes) && ok;
     const double importTime = importWatch.Milliseconds();
     registry.DeleteTree(kUser, kTree);
     const Stopwatch regImportWatch;
@@ -120,7 +120,7 @@ class CountingSink final : public OutputStream {
     count += bytes.size();
     return true;
   }
-  bool Close() override { return true; }
+  FileStatus Close() override { return FileStatus::kOk; }
   std::size_t count = 0;
 };
 
@@ -166,8 +166,9 @@ bool WriteVolume(const std::wstring& path, int categories) {
     text += std::to_string(i) + "\t0\tCategory " + std::to_string(i) + '\n';
   }
   WindowsFiles files;
-  const auto stream = files.OpenForWriting(path);
-  return stream && stream->Write(std::as_bytes(std::span(text))) && stream->Close();
+  const auto stream = files.OpenForWriting(path).stream;
+  return stream && stream->Write(std::as_bytes(std::span(text))) &&
+         stream->Close() == FileStatus::kOk;
 }
 
 // The two queries per category, with nothing around them.

@@ -44,7 +44,7 @@ ImportQuestions BackupCommands::Questions() {
             return Confirm(language.Text(IDS_IMPORT_OUTSIDE) + Quoted(KeyShown(key)) +
                            kNextParagraph + language.Text(IDS_IMPORT_OUTSIDE_QUESTION));
           },
-          [this] { return Confirm(language.Text(IDS_IMPORT_NO_COPY_QUESTION)); }};
+          [this](FileStatus) { return Confirm(language.Text(IDS_IMPORT_NO_COPY_QUESTION)); }};
 }
 
 void BackupCommands::ExportSettingsBackup() {
@@ -55,7 +55,7 @@ void BackupCommands::ExportSettingsBackup() {
   if (!Choose(request)) return;
   std::wstring message = language.Text(IDS_EXPORT_DONE) + Quoted(request.resultPath);
   // There is only this one message; where nothing was written it says so too.
-  if (!backup.ExportTo(request.resultPath))
+  if (backup.ExportTo(request.resultPath) != FileStatus::kOk)
     message += kNextParagraph + language.Text(IDS_EXPORT_NOT_WRITTEN);
   dialogs.ShowMessage(message, language.Text(IDS_EXPORT_DONE_CAPTION));
 }

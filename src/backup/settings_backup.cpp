@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "backup/copy_names.h"
-#include "platform/replacement_file.h"
 #include "platform/text.h"
 #include "platform/whole_file.h"
 
@@ -17,7 +16,7 @@ constexpr std::uint64_t kLargestCopy = 16 * kLargestBackup;
 bool BeginsAsCopy(Files& files, const std::wstring& path) {
   const std::vector<std::byte> wanted = BytesOf(L'\n' + std::wstring(kCopyMark));
   std::vector<std::byte> start(wanted.size());
-  const std::unique_ptr<InputStream> input = files.OpenForReading(path);
+  const auto input = files.OpenForReading(path).stream;
   return input && input->Read(start) == wanted.size() && start == wanted;
 }
 
@@ -43,39 +42,43 @@ std::wstring SettingsBackup::DefaultExportName() const {
   return L"TW_Backup_" + machine_.locale.FormatDate(machine_.locale.Now(), L"yyyy_MM_dd");
 }
 
-bool SettingsBackup::ExportTo(const std::wstring& path) const {
+FileStatus SettingsBackup::ExportTo(const std::wstring& path) const {
   ReplacementFile file(machine_.files, path);
-  if (!file.Stream()) return false;
+  return WriteTo(file, TextKind::kBackup) ? file.Commit() : FileStatus::kOther;
+}
+
+bool SettingsBackup::WriteTo(ReplacementFile& file, TextKind kind) const {
+  if (!file.Stream()) return true;
   TextWriter text(*file.Stream());
-  return ExportRegistryText(machine_.registry, catalog_, std::wstring(kProductKey), text) &&
-         text.Flush() && file.Commit();
+  const bool wasRead =
+      ExportRegistryText(machine_.registry, catalog_, std::wstring(kProductKey), text, kind);
+  text.Flush();
+  return wasRead;
 }
 
 SettingsBackup::Copy SettingsBackup::WriteCopy(const std::wstring& folder) const {
   const std::wstring name = NextCopyName(machine_.locale.Now(), CopiesIn(machine_.files, folder));
   ReplacementFile file(machine_.files, folder + name);
-  if (!file.Stream()) return {};
-  TextWriter text(*file.Stream());
-  const bool isWhole = ExportRegistryText(machine_.registry, catalog_, std::wstring(kProductKey),
-                                          text, TextKind::kCopy);
-  if (!text.Flush() || !file.CommitAsNew()) return {};
-  return {name, isWhole};
+  const bool wasRead = WriteTo(file, TextKind::kCopy);
+  const FileStatus status = file.CommitAsNew();
+  if (status != FileStatus::kOk) return {{}, false, status};
+  return {name, wasRead, status};
 }
 
 ImportOutcome SettingsBackup::ImportFrom(const std::wstring& path, const ImportQuestions& questions,
                                          const ScreenScale& scale, Language& language) {
   if (IsTooLarge(machine_.files, path)) return {};
   // Read whole before anything is changed: the card that holds it may be drawn out.
-  const auto bytes = ReadWholeFile(machine_.files, path);
-  if (!bytes) return {};
-  TextReader text(*bytes);
+  const WholeFile file = ReadWholeFile(machine_.files, path);
+  if (file.status != FileStatus::kOk) return {ImportResult::kRefused, {}, file.status};
+  TextReader text(file.bytes);
   const std::wstring folder = FolderOf(path);
   ImportOutcome outcome = ImportFrom(text, folder, questions);
   if (outcome.result != ImportResult::kDone) return outcome;
 
   store_.Load(machine_, scale, language);
   catalog_.SaveCategoryValues();
-  catalog_.SaveFiltersFile();
+  outcome.cause = catalog_.SaveFiltersFile();
   RemoveOldCopies(folder, outcome.copy);
   return outcome;
 }
@@ -93,7 +96,7 @@ ImportOutcome SettingsBackup::ImportFrom(TextReader& text, const std::wstring& f
     if (!copy.name.empty()) machine_.files.Remove(folder + copy.name);
     return ImportOutcome{result, {}};
   };
-  if (!copy.isWhole && !questions.lacksCopy()) return leaveAll(ImportResult::kDeclined);
+  if (!copy.isWhole && !questions.lacksCopy(copy.status)) return leaveAll(ImportResult::kDeclined);
 
   switch (ImportRegistryText(machine_.registry, catalog_, text)) {
     case TextImport::kRefused:

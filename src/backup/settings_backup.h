@@ -10,6 +10,7 @@
 #include "backup/registry_text.h"
 #include "categories/category_catalog.h"
 #include "platform/machine.h"
+#include "platform/replacement_file.h"
 #include "settings/settings_store.h"
 
 namespace tidewell {
@@ -26,8 +27,9 @@ inline constexpr std::size_t kCopiesKept = 5;
 struct ImportQuestions {
   // The backup writes to this key, which is not the product's.
   std::function<bool(const std::wstring& key)> writesOutside;
-  // The present settings could not be copied, or not all of them.
-  std::function<bool()> lacksCopy;
+  // The present settings could not be copied. kOk when the copy was written, but not all of them
+  // could be read for it.
+  std::function<bool(FileStatus cause)> lacksCopy;
 };
 
 enum class ImportResult : std::uint8_t {
@@ -40,6 +42,9 @@ enum class ImportResult : std::uint8_t {
 struct ImportOutcome {
   ImportResult result = ImportResult::kRefused;
   std::wstring copy;  // the name of the copy beside the backup; empty when there is none
+  // With kRefused why the backup could not be read, with kDone why the filters file could not be
+  // written.
+  FileStatus cause = FileStatus::kOk;
 };
 
 class SettingsBackup {
@@ -50,8 +55,9 @@ class SettingsBackup {
   // Without the extension: "TW_Backup_2026_11_15".
   std::wstring DefaultExportName() const;
 
-  // Leaves the whole new backup, or what was there and false.
-  bool ExportTo(const std::wstring& path) const;
+  // Leaves the whole new backup, or what was there; kOther also when the registry is not to be
+  // read.
+  FileStatus ExportTo(const std::wstring& path) const;
 
   // Replaces the settings by those of a backup; before the first change the present ones go to a
   // copy beside it. Then the store is loaded anew, with its language library, categories and
@@ -63,7 +69,10 @@ class SettingsBackup {
   struct Copy {
     std::wstring name;  // empty when it could not be written
     bool isWhole = false;
+    FileStatus status = FileStatus::kOk;
   };
+  // False when something was not to be read; whether all was written the file's commit tells.
+  bool WriteTo(ReplacementFile& file, TextKind kind) const;
   Copy WriteCopy(const std::wstring& folder) const;
   ImportOutcome ImportFrom(TextReader& text, const std::wstring& folder,
                            const ImportQuestions& questions) const;

@@ -106,11 +106,9 @@ std::wstring CategoryCatalog::FiltersPath() const {
 }
 
 bool CategoryCatalog::LoadFiltersFile() {
-  // Asked first: a card that is drawn out while it is read may be back when the filters are saved.
-  const bool isThere = machine_.files.Find(FiltersPath()).has_value();
-  const auto bytes = ReadWholeFile(machine_.files, FiltersPath(), kLargestFiltersFile);
-  filtersRefused_ = isThere && !bytes;
-  std::optional<FilterSet> filters = bytes ? ReadFilters(*bytes) : std::nullopt;
+  const WholeFile file = ReadWholeFile(machine_.files, FiltersPath(), kLargestFiltersFile);
+  filtersRefused_ = file.status != FileStatus::kOk && file.status != FileStatus::kAbsent;
+  std::optional<FilterSet> filters = ReadFilters(file.bytes);
   if (!filters) {
     ResetFilters();
     return false;
@@ -119,12 +117,14 @@ bool CategoryCatalog::LoadFiltersFile() {
   return true;
 }
 
-bool CategoryCatalog::SaveFiltersFile() const {
-  if (!isLoaded_ || (filtersRefused_ && filters_ == DefaultFilters())) return false;
+FileStatus CategoryCatalog::SaveFiltersFile() const {
+  if (!isLoaded_ || (filtersRefused_ && filters_ == DefaultFilters())) return FileStatus::kOther;
   const std::vector<std::byte> bytes = BytesOf(FormatFilters(filters_));
-  if (ReadWholeFile(machine_.files, FiltersPath(), bytes.size()) == bytes) return true;
+  const WholeFile present = ReadWholeFile(machine_.files, FiltersPath(), bytes.size());
+  if (present.bytes == bytes) return FileStatus::kOk;
   ReplacementFile file(machine_.files, FiltersPath());
-  return file.Stream() && file.Stream()->Write(bytes) && file.Commit();
+  if (file.Stream()) file.Stream()->Write(bytes);
+  return file.Commit();
 }
 
 bool CategoryCatalog::WasReadWhole() const {

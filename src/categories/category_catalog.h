@@ -53,10 +53,10 @@ class CategoryCatalog {
 
   // False when there is no file with exactly 32 filters; the filters are the defaults then.
   bool LoadFiltersFile();
-  // Leaves the old file or the whole new one. False when it could not be written, before a rebuild
-  // has come to its end, and when the filters are but the defaults in place of a file that is there
-  // and could not be read.
-  bool SaveFiltersFile() const;
+  // Leaves the old file or the whole new one, and tells why the new one could not be written.
+  // kOther also before a rebuild has come to its end, and when the filters are but the defaults in
+  // place of a file that is there and could not be read.
+  FileStatus SaveFiltersFile() const;
   void ResetFilters();
 
   // The category of exactly that name, else the filter of that index, else no restriction.

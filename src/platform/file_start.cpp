@@ -14,7 +14,7 @@ constexpr std::size_t kPiece = 4096;  // less costs a system as much
 FileStart::FileStart(Files& files, const std::wstring& path) {
   const auto entry = files.Find(path);
   if (!entry || entry->isFolder) return;
-  stream_ = files.OpenForReading(path);
+  stream_ = files.OpenForReading(path).stream;
   if (stream_) size_ = entry->size;
 }
 

@@ -12,6 +12,23 @@
 
 namespace tidewell {
 
+// What became of a call, as far as the user can do something about it.
+enum class FileStatus : std::uint8_t {
+  kOk,
+  kAbsent,   // there is no such file, folder or drive, nor can there be one of that name
+  kRefused,  // by a write protection, or by the system: a folder is no file
+  kFull,
+  kInUse,  // another program holds the file, or the name is taken
+  kOther,
+};
+
+// A stream, or why there is none.
+template <typename Stream>
+struct Opened {
+  std::unique_ptr<Stream> stream;  // null unless the status is kOk
+  FileStatus status = FileStatus::kOther;
+};
+
 class InputStream {
  public:
   virtual ~InputStream() = default;
@@ -22,10 +39,11 @@ class InputStream {
 class OutputStream {
  public:
   virtual ~OutputStream() = default;
-  // False when not all of it could be written (a full disk).
+  // False when not all of it could be written. Nothing is written any more then, and the close
+  // tells why.
   virtual bool Write(std::span<const std::byte> bytes) = 0;
-  // Closes and tells whether everything reached the disk. Destruction closes as well.
-  virtual bool Close() = 0;
+  // kOk when everything reached the disk. Destruction closes as well.
+  virtual FileStatus Close() = 0;
 };
 
 struct FileEntry {
@@ -37,20 +55,20 @@ struct FileEntry {
 class Files {
  public:
   virtual ~Files() = default;
-  // Null when the file is absent, locked or a folder.
-  virtual std::unique_ptr<InputStream> OpenForReading(const std::wstring& path) = 0;
-  // Creates the file, or empties it when it exists. Null when that is refused.
-  virtual std::unique_ptr<OutputStream> OpenForWriting(const std::wstring& path) = 0;
-  // Creates the file. Null also when its name is taken.
-  virtual std::unique_ptr<OutputStream> CreateNew(const std::wstring& path) = 0;
-  virtual bool Remove(const std::wstring& path) = 0;
-  // Puts `from` in the place of `to` in one step; on failure both are as they were.
-  virtual bool Replace(const std::wstring& from, const std::wstring& to) = 0;
-  // Gives `from` the name `to` in one step; on failure, also when that name is taken, it keeps its
-  // own.
-  virtual bool Move(const std::wstring& from, const std::wstring& to) = 0;
-  // True also when the folder is there already.
-  virtual bool MakeFolder(const std::wstring& path) = 0;
+  virtual Opened<InputStream> OpenForReading(const std::wstring& path) = 0;
+  // Creates the file, or empties it when it exists.
+  virtual Opened<OutputStream> OpenForWriting(const std::wstring& path) = 0;
+  // Creates the file; kInUse when its name is taken.
+  virtual Opened<OutputStream> CreateNew(const std::wstring& path) = 0;
+  virtual FileStatus Remove(const std::wstring& path) = 0;
+  // Puts `from` in the place of `to` in one step; on failure both are as they were. kRefused when
+  // `to` cannot go, also when it is in use.
+  virtual FileStatus Replace(const std::wstring& from, const std::wstring& to) = 0;
+  // Gives `from` the name `to` in one step; on failure it keeps its own. kInUse when the name is
+  // taken.
+  virtual FileStatus Move(const std::wstring& from, const std::wstring& to) = 0;
+  // kOk also when the folder is there already.
+  virtual FileStatus MakeFolder(const std::wstring& path) = 0;
   virtual std::optional<FileEntry> Find(const std::wstring& path) = 0;
   // Offers every entry that fits a pattern ("\folder\*.dll") in the file system's own order,
   // "." and ".." left out, until `visit` returns false. False when the folder cannot be searched.

@@ -48,31 +48,32 @@ ReplacementFile::ReplacementFile(Files& files, std::wstring path)
 }
 
 ReplacementFile::~ReplacementFile() {
-  if (!stream_) return;
-  stream_.reset();
+  if (!file_.stream) return;
+  file_.stream.reset();
   files_.Remove(beside_);
 }
 
 void ReplacementFile::CreateBeside() {
-  for (wchar_t digit = L'1'; digit <= L'9' && !stream_; ++digit) {
+  for (wchar_t digit = L'1'; digit <= L'9' && !file_.stream; ++digit) {
     beside_ = FolderOf(path_) + UnfinishedName(digit);
-    stream_ = files_.CreateNew(beside_);
+    file_ = files_.CreateNew(beside_);
   }
 }
 
-bool ReplacementFile::Commit() {
+FileStatus ReplacementFile::Commit() {
   return CommitBy(&Files::Replace);
 }
 
-bool ReplacementFile::CommitAsNew() {
+FileStatus ReplacementFile::CommitAsNew() {
   return CommitBy(&Files::Move);
 }
 
-bool ReplacementFile::CommitBy(PutInPlace putInPlace) {
-  if (!stream_ || !stream_->Close()) return false;
-  if (!(files_.*putInPlace)(beside_, path_)) return false;
-  stream_.reset();
-  return true;
+FileStatus ReplacementFile::CommitBy(PutInPlace putInPlace) {
+  if (!file_.stream) return file_.status;
+  FileStatus status = file_.stream->Close();
+  if (status == FileStatus::kOk) status = (files_.*putInPlace)(beside_, path_);
+  if (status == FileStatus::kOk) file_.stream.reset();
+  return status;
 }
 
 }  // namespace tidewell

@@ -2,7 +2,6 @@
 // disk or a lost battery leaves the old one or the new one, whole.
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "platform/files.h"
@@ -22,23 +21,24 @@ class ReplacementFile {
   ReplacementFile(const ReplacementFile&) = delete;
   ReplacementFile& operator=(const ReplacementFile&) = delete;
 
-  // Null when the file cannot be created.
-  OutputStream* Stream() { return stream_.get(); }
-  // False when the file did not reach its place; what was there is as it was.
-  bool Commit();
+  // Null when the file cannot be created; the commit tells why.
+  OutputStream* Stream() { return file_.stream.get(); }
+  // Else why the file was not created, not written whole or not put in its place; what was there is
+  // as it was.
+  FileStatus Commit();
   // The same for a place that is free; one that is taken is left alone.
-  bool CommitAsNew();
+  FileStatus CommitAsNew();
 
  private:
-  using PutInPlace = bool (Files::*)(const std::wstring& from, const std::wstring& to);
+  using PutInPlace = FileStatus (Files::*)(const std::wstring& from, const std::wstring& to);
 
   void CreateBeside();
-  bool CommitBy(PutInPlace putInPlace);
+  FileStatus CommitBy(PutInPlace putInPlace);
 
   Files& files_;
   std::wstring path_;
   std::wstring beside_;
-  std::unique_ptr<OutputStream> stream_;
+  Opened<OutputStream> file_;
 };
 
 }  // namespace tidewell

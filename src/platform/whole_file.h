@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <limits>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,9 +10,13 @@
 
 namespace tidewell {
 
-// Nothing when the file cannot be opened or read to its end, or has more than `limit` bytes.
-std::optional<std::vector<std::byte>> ReadWholeFile(
-    Files& files, const std::wstring& path,
-    std::size_t limit = std::numeric_limits<std::size_t>::max());
+struct WholeFile {
+  std::vector<std::byte> bytes;  // none unless the status is kOk
+  FileStatus status = FileStatus::kOther;
+};
+
+// kOther when the file cannot be read to its end or has more than `limit` bytes.
+WholeFile ReadWholeFile(Files& files, const std::wstring& path,
+                        std::size_t limit = std::numeric_limits<std::size_t>::max());
 
 }  // namespace tidewell

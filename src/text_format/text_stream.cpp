@@ -30,10 +30,9 @@ void TextWriter::Write(std::wstring_view text) {
   }
 }
 
-bool TextWriter::Flush() {
-  if (ok_ && used_ != 0) ok_ = out_.Write(std::span(buffer_).first(used_));
+void TextWriter::Flush() {
+  if (used_ != 0) out_.Write(std::span(buffer_).first(used_));
   used_ = 0;
-  return ok_;
 }
 
 }  // namespace tidewell

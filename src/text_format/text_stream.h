@@ -34,18 +34,18 @@ class TextReader {
   std::wstring line_;
 };
 
+// What is lost on its way the stream tells when it is closed.
 class TextWriter {
  public:
   explicit TextWriter(OutputStream& out) : out_(out) {}
   void Write(std::wstring_view text);
-  // Hands on what is still held back. False when anything written so far was lost.
-  bool Flush();
+  // Hands on what is still held back.
+  void Flush();
 
  private:
   OutputStream& out_;
   std::array<std::byte, 16 * 1024> buffer_;
   std::size_t used_ = 0;
-  bool ok_ = true;
 };
 
 }  // namespace tidewell

@@ -33,8 +33,9 @@ class SettingsBackupTest : public testing::Test, protected TestDevice {
                                       asked += Utf8(key) + '?';
                                       return answer;
                                     },
-                                    [this] {
+                                    [this](FileStatus cause) {
                                       asked += "no copy?";
+                                      copyStatus = cause;
                                       return answer;
                                     }};
     const ImportOutcome outcome = backup.ImportFrom(path, questions, scale, language);
@@ -60,6 +61,7 @@ class SettingsBackupTest : public testing::Test, protected TestDevice {
   SettingsBackup backup{machine, store, catalog};
   std::string asked;
   bool answer = false;
+  FileStatus copyStatus = FileStatus::kOther;
   std::wstring copy;
 };
 
@@ -73,7 +75,7 @@ TEST_F(SettingsBackupTest, AnExportedAndImportedDeviceIsTheSameAndItsStoresAreSa
   const std::string tree = Tree();
   const std::string filters = TextOf(kFiltersFile);
   EXPECT_EQ(backup.DefaultExportName(), L"TW_Backup_2026_11_15");
-  ASSERT_TRUE(backup.ExportTo(kBackup));
+  ASSERT_EQ(backup.ExportTo(kBackup), FileStatus::kOk);
 
   Delete(kRoot);
   files.Remove(kFiltersFile);
@@ -155,16 +157,17 @@ TEST_F(SettingsBackupTest, WithoutACopyTheUserDecides) {
           L"\n[Software\\Velmont\\Tidewell]\n\n[Software\\Velmont\\Tidewell\\Tasks]\n"
           L"\"x\"=dword:1\n");
   const std::string tree = Tree();
-  const std::pair<const char*, std::function<void()>> cases[] = {
-      {"full", [&] { files.SetFreeBytes(100); }},
-      {"locked", [&] { files.SetWriteProtected(true); }},
-      {"refused value", [&] { recorded.Calls().FailNth(2); }}};
-  for (const auto& [name, prepare] : cases) {
+  const std::tuple<const char*, FileStatus, std::function<void()>> cases[] = {
+      {"full", FileStatus::kFull, [&] { files.SetFreeBytes(100); }},
+      {"locked", FileStatus::kRefused, [&] { files.SetWriteProtected(true); }},
+      {"refused value", FileStatus::kOk, [&] { recorded.Calls().FailNth(2); }}};
+  for (const auto& [name, status, prepare] : cases) {
     asked.clear();
     recorded.Calls().Reset();
     prepare();
     EXPECT_EQ(Import(), ImportResult::kDeclined) << name;
     EXPECT_EQ(asked, "no copy?") << name;
+    EXPECT_EQ(copyStatus, status) << name;
     files.SetFreeBytes({});
     files.SetWriteProtected(false);
     EXPECT_EQ(Tree(), tree) << name;
@@ -213,27 +216,27 @@ TEST_F(SettingsBackupTest, AKeyThatCannotBeCreatedLeavesAPartWithoutAReloadAndTh
 }
 
 TEST_F(SettingsBackupTest, WhateverFailsABackupIsTheOldOrTheNewOneWhole) {
-  ASSERT_TRUE(backup.ExportTo(kBackup));
+  ASSERT_EQ(backup.ExportTo(kBackup), FileStatus::kOk);
   const std::string whole = TextOf(kBackup);
   PutText(kBackup, L"old backup");
   for (int call = 3; call <= 5; ++call) {  // after list and create: write, close, replace
     recordedFiles.Calls().Reset();
     recordedFiles.Calls().FailNth(call);
-    EXPECT_FALSE(backup.ExportTo(kBackup)) << call;
+    EXPECT_EQ(backup.ExportTo(kBackup), FileStatus::kOther) << call;
     EXPECT_EQ(TextOf(kBackup), "old backup") << call;
     EXPECT_FALSE(files.Find(kUnfinished)) << call;
   }
   recordedFiles.Calls().Reset();
   recorded.Calls().Reset();
   recorded.Calls().FailNth(1);
-  EXPECT_FALSE(backup.ExportTo(kBackup)) << "the product's key";
+  EXPECT_EQ(backup.ExportTo(kBackup), FileStatus::kOther) << "the product's key";
   EXPECT_EQ(TextOf(kBackup), "old backup");
   recordedFiles.Calls().Reset();
   files.SetFreeBytes(whole.size());  // two bytes a unit are twice that
-  EXPECT_FALSE(backup.ExportTo(kBackup));
+  EXPECT_EQ(backup.ExportTo(kBackup), FileStatus::kFull);
   EXPECT_EQ(TextOf(kBackup), "old backup");
   files.SetFreeBytes({});
-  EXPECT_TRUE(backup.ExportTo(kBackup));
+  EXPECT_EQ(backup.ExportTo(kBackup), FileStatus::kOk);
   EXPECT_EQ(TextOf(kBackup), whole);
 }
 
@@ -243,9 +246,9 @@ TEST_F(SettingsBackupTest, AnUnfinishedFileOfOursGoesAndNoOtherDoes) {
   for (const std::wstring& other : others) PutText(other, L"a user's");
   PutText(kUnfinished, L"cut off");
   files.SetLocked(kUnfinished, true);
-  EXPECT_TRUE(backup.ExportTo(kBackup)) << "under another name";
+  EXPECT_EQ(backup.ExportTo(kBackup), FileStatus::kOk) << "under another name";
   files.SetLocked(kUnfinished, false);
-  EXPECT_TRUE(backup.ExportTo(kBackup));
+  EXPECT_EQ(backup.ExportTo(kBackup), FileStatus::kOk);
   EXPECT_FALSE(files.Find(kUnfinished));
   for (const std::wstring& other : others) EXPECT_EQ(TextOf(other), "a user's");
 }

@@ -95,20 +95,20 @@ TEST_F(Catalog, AFiltersFileThatCannotBeReadIsReplacedByNewFiltersAlone) {
     EXPECT_FALSE(catalog.LoadFiltersFile());
     recordedFiles.Calls().Reset();
     files.Put(kFiltersFile, own);
-    EXPECT_FALSE(catalog.SaveFiltersFile());
+    EXPECT_EQ(catalog.SaveFiltersFile(), FileStatus::kOther);
     EXPECT_EQ(files.Contents(kFiltersFile), own);
   }
   catalog.FindFilter(1)->visible = false;
-  EXPECT_TRUE(catalog.SaveFiltersFile());
+  EXPECT_EQ(catalog.SaveFiltersFile(), FileStatus::kOk);
   EXPECT_NE(files.Contents(kFiltersFile), own);
 }
 
 TEST_F(Catalog, TheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
-  ASSERT_TRUE(catalog.SaveFiltersFile());
+  ASSERT_EQ(catalog.SaveFiltersFile(), FileStatus::kOk);
   const auto old = files.Contents(kFiltersFile);
   ASSERT_EQ(old, BytesOf(FormatFilters(DefaultFilters())));
   recordedFiles.Calls().Reset();
-  EXPECT_TRUE(catalog.SaveFiltersFile());
+  EXPECT_EQ(catalog.SaveFiltersFile(), FileStatus::kOk);
   EXPECT_EQ(recordedFiles.Count(FileCall::kCreateNew), 0);
 
   FilterSet filters = DefaultFilters();
@@ -116,11 +116,11 @@ TEST_F(Catalog, TheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
   const std::vector<std::byte> changed = BytesOf(FormatFilters(filters));
   for (const FileCall call : {FileCall::kWrite, FileCall::kReplace}) {
     recordedFiles.Calls().FailEvery(call);
-    EXPECT_FALSE(catalog.SaveFiltersFile());
+    EXPECT_EQ(catalog.SaveFiltersFile(), FileStatus::kOther);
     EXPECT_EQ(files.Contents(kFiltersFile), old);
     recordedFiles.Calls().Reset();
   }
-  EXPECT_TRUE(catalog.SaveFiltersFile());
+  EXPECT_EQ(catalog.SaveFiltersFile(), FileStatus::kOk);
   EXPECT_EQ(files.Contents(kFiltersFile), changed);
 
   catalog.ResetFilters();

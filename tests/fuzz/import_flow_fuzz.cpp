@@ -48,7 +48,8 @@ void import_flow(Bytes bytes) {
   const std::string before = device.Dump(SettingKey::kRoot);
 
   SettingsBackup backup(device.machine, device.store, device.catalog);
-  const ImportQuestions questions{[](const std::wstring&) { return true; }, [] { return false; }};
+  const ImportQuestions questions{[](const std::wstring&) { return true; },
+                                  [](FileStatus) { return false; }};
   const auto import = [&](const std::wstring& path) {
     return backup.ImportFrom(path, questions, device.scale, device.language);
   };

@@ -23,6 +23,8 @@ class FilesUnderTest {
   // Another program holds the file and shares it with nobody, until the result is gone.
   virtual std::shared_ptr<void> Lock(const std::wstring& path) = 0;
   virtual void MakeReadOnly(const std::wstring& path) = 0;
+  // A file that can be opened for writing and takes no byte.
+  virtual std::wstring FileOnFullDisk() = 0;
 };
 
 template <typename UnderTest>

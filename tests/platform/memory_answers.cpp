@@ -22,6 +22,10 @@ class MemoryFilesUnderTest final : public FilesUnderTest {
     return {&files_, [path](MemoryFiles* files) { files->SetLocked(path, false); }};
   }
   void MakeReadOnly(const std::wstring& path) override { files_.SetReadOnly(path, true); }
+  std::wstring FileOnFullDisk() override {
+    files_.SetFreeBytes(0);
+    return Folder() + L"\\file";
+  }
 
  private:
   MemoryFiles files_;

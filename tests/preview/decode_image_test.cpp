@@ -74,11 +74,11 @@ TEST_F(Decode, ABitmapOf32BitsIsClearWhereItSaysSo) {
   for (const auto& [stored, expected] : drawn) {
     const BITMAPFILEHEADER head = {0x4D42, 62, 0, 0, 54};
     const BITMAPINFOHEADER info = {40, 2, 1, 1, 32, BI_RGB, 8, 0, 0, 0, 0};
-    const auto stream = files.OpenForWriting(file);
+    const auto stream = files.OpenForWriting(file).stream;
     stream->Write(std::as_bytes(std::span(&head, 1)));
     stream->Write(std::as_bytes(std::span(&info, 1)));
     stream->Write(std::as_bytes(std::span(stored)));
-    ASSERT_TRUE(stream->Close());
+    ASSERT_EQ(stream->Close(), FileStatus::kOk);
     EXPECT_EQ(Points(files, file), expected);
   }
   files.Remove(file);

@@ -14,7 +14,7 @@ namespace tidewell {
 template <typename Write>
 std::wstring Written(Write write) {
   MemoryFiles files;
-  const auto file = files.OpenForWriting(L"\\text");
+  const auto file = files.OpenForWriting(L"\\text").stream;
   TextWriter writer(*file);
   write(writer);
   writer.Flush();

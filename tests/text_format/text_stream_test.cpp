@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/memory_files.h"
 #include "platform/text.h"
 #include "tests/support/utf8.h"
 
@@ -36,18 +35,6 @@ TEST(TextReader, LinesKeepTheirEndAndEveryUnitUpToAZero) {
   }
   const std::vector<std::byte> bytes = BytesOf(L"ab\ncd");
   EXPECT_EQ(LinesOf(std::span(bytes).first(9)), (Lines{L"ab\n", L"c"})) << "an odd byte";
-}
-
-TEST(TextWriter, ALossIsNotForgotten) {
-  MemoryFiles files;
-  files.SetFreeBytes(20000);
-  const auto stream = files.OpenForWriting(L"\\a");
-  TextWriter writer(*stream);
-  writer.Write(std::wstring(12000, L'a'));
-  EXPECT_FALSE(writer.Flush());
-  files.SetFreeBytes({});
-  writer.Write(L"b");
-  EXPECT_FALSE(writer.Flush());
 }
 
 }  // namespace

@@ -70,9 +70,9 @@ CEOID RecordOid(std::size_t record) {
 std::optional<std::string> ReadVolumeFile(const wchar_t* path) {
   constexpr std::size_t kLargestVolume = 256 * 1024;
   WindowsFiles files;
-  const auto bytes = ReadWholeFile(files, path, kLargestVolume);
-  if (!bytes) return std::nullopt;
-  return std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+  const auto [bytes, status] = ReadWholeFile(files, path, kLargestVolume);
+  if (status != FileStatus::kOk) return std::nullopt;
+  return std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size());
 }
 
 std::wstring WideOf(const std::string& utf8) {

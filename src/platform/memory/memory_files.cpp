@@ -10,6 +10,8 @@ namespace tidewell {
 
 namespace {
 
+using enum FileStatus;
+
 constexpr std::size_t kLongestName = 255;
 
 std::wstring_view LastName(std::wstring_view path) {
@@ -60,8 +62,16 @@ struct MemoryFiles::Node {
     return entries.emplace_back(std::move(entry));
   }
   void Drop(const std::shared_ptr<Node>& entry) { std::erase(entries, entry); }
+  FileStatus OpenStatus() const {
+    if (isFolder) return kRefused;
+    return isLocked ? kInUse : kOk;
+  }
   // Neither the name nor the contents of a file in use can be taken away.
-  bool IsInUse() const { return isLocked || openStreams > 0; }
+  FileStatus MoveStatus() const {
+    const FileStatus status = OpenStatus();
+    return status == kOk && openStreams > 0 ? kInUse : status;
+  }
+  FileStatus RemoveStatus() const { return isReadOnly ? kRefused : MoveStatus(); }
 };
 
 class MemoryFiles::Reader final : public InputStream {
@@ -95,27 +105,28 @@ class MemoryFiles::Writer final : public OutputStream {
   Writer& operator=(const Writer&) = delete;
 
   bool Write(std::span<const std::byte> bytes) override {
-    if (!file_) return false;
+    if (status_ != kOk) return false;
     const std::size_t taken = disk_->Take(bytes.size());
     file_->bytes.insert(file_->bytes.end(), bytes.begin(),
                         bytes.begin() + static_cast<std::ptrdiff_t>(taken));
-    isWhole_ = isWhole_ && taken == bytes.size();
-    return taken == bytes.size();
+    if (taken != bytes.size()) status_ = kFull;
+    return status_ == kOk;
   }
 
-  bool Close() override { return Release() && isWhole_; }
+  FileStatus Close() override {
+    Release();
+    return std::exchange(status_, kOther);
+  }
 
  private:
-  bool Release() {
-    if (!file_) return false;
-    --file_->openStreams;
+  void Release() {
+    if (file_) --file_->openStreams;
     file_.reset();
-    return true;
   }
 
   std::shared_ptr<Node> file_;
   std::shared_ptr<Disk> disk_;
-  bool isWhole_ = true;
+  FileStatus status_ = kOk;
 };
 
 MemoryFiles::MemoryFiles() : root_(std::make_shared<Node>()), disk_(std::make_shared<Disk>()) {
@@ -143,66 +154,66 @@ std::shared_ptr<MemoryFiles::Node> MemoryFiles::FolderOf(std::wstring_view path)
   return folder && folder->isFolder ? folder : nullptr;
 }
 
-std::unique_ptr<InputStream> MemoryFiles::OpenForReading(const std::wstring& path) {
+Opened<InputStream> MemoryFiles::OpenForReading(const std::wstring& path) {
   const auto file = Walk(path);
-  if (!file || file->isFolder || file->isLocked) return nullptr;
-  return std::make_unique<Reader>(file);
+  const FileStatus status = file ? file->OpenStatus() : kAbsent;
+  if (status != kOk) return {nullptr, status};
+  return {std::make_unique<Reader>(file), kOk};
 }
 
-std::unique_ptr<OutputStream> MemoryFiles::OpenForWriting(const std::wstring& path) {
+Opened<OutputStream> MemoryFiles::OpenForWriting(const std::wstring& path) {
   const auto folder = FolderOf(path);
-  if (disk_->isWriteProtected || !folder || !IsFileName(LastName(path))) return nullptr;
+  if (!folder || !IsFileName(LastName(path))) return {nullptr, kAbsent};
+  if (disk_->isWriteProtected) return {nullptr, kRefused};
   auto file = folder->Find(LastName(path));
   if (!file) file = folder->Add(LastName(path), false);
-  if (file->isFolder || file->isLocked || file->isReadOnly) return nullptr;
+  const FileStatus status = file->isReadOnly ? kRefused : file->OpenStatus();
+  if (status != kOk) return {nullptr, status};
   disk_->Return(file->bytes.size());
   file->bytes.clear();
-  return std::make_unique<Writer>(file, disk_);
+  return {std::make_unique<Writer>(file, disk_), kOk};
 }
 
-std::unique_ptr<OutputStream> MemoryFiles::CreateNew(const std::wstring& path) {
-  return Walk(path) ? nullptr : OpenForWriting(path);
+Opened<OutputStream> MemoryFiles::CreateNew(const std::wstring& path) {
+  if (Walk(path)) return {nullptr, kInUse};
+  return OpenForWriting(path);
 }
 
-bool MemoryFiles::Remove(const std::wstring& path) {
+FileStatus MemoryFiles::Remove(const std::wstring& path) {
   const auto file = Walk(path);
-  if (disk_->isWriteProtected || !file || file->isFolder || file->isReadOnly || file->IsInUse())
-    return false;
+  if (!file) return kAbsent;
+  const FileStatus status = disk_->isWriteProtected ? kRefused : file->RemoveStatus();
+  if (status != kOk) return status;
   disk_->Return(file->bytes.size());
   FolderOf(path)->Drop(file);
-  return true;
+  return kOk;
 }
 
-bool MemoryFiles::Replace(const std::wstring& from, const std::wstring& to) {
+FileStatus MemoryFiles::Replace(const std::wstring& from, const std::wstring& to) {
   const auto file = Walk(from);
   const auto folder = FolderOf(to);
-  if (disk_->isWriteProtected || !file || file->isFolder || file->IsInUse() || !folder ||
-      !IsFileName(LastName(to))) {
-    return false;
-  }
+  if (!file || !folder || !IsFileName(LastName(to))) return kAbsent;
+  if (disk_->isWriteProtected) return kRefused;
+  if (const FileStatus status = file->MoveStatus(); status != kOk) return status;
   const auto old = folder->Find(LastName(to));
-  if (old && old != file) {
-    if (old->isFolder || old->isReadOnly || old->IsInUse()) return false;
-    disk_->Return(old->bytes.size());
-    folder->Drop(old);
-  }
+  if (old && old != file && Remove(to) != kOk) return kRefused;
   FolderOf(from)->Drop(file);
   file->name = LastName(to);
   folder->entries.push_back(file);
-  return true;
+  return kOk;
 }
 
-bool MemoryFiles::Move(const std::wstring& from, const std::wstring& to) {
-  return !Walk(to) && Replace(from, to);
+FileStatus MemoryFiles::Move(const std::wstring& from, const std::wstring& to) {
+  return Walk(from) && Walk(to) ? kInUse : Replace(from, to);
 }
 
-bool MemoryFiles::MakeFolder(const std::wstring& path) {
+FileStatus MemoryFiles::MakeFolder(const std::wstring& path) {
   const auto parent = FolderOf(path);
-  if (!parent || !IsFileName(LastName(path))) return false;
+  if (!parent || !IsFileName(LastName(path))) return kAbsent;
   auto folder = parent->Find(LastName(path));
-  if (!folder && disk_->isWriteProtected) return false;
+  if (!folder && disk_->isWriteProtected) return kRefused;
   if (!folder) folder = parent->Add(LastName(path), true);
-  return folder->isFolder;
+  return folder->isFolder ? kOk : kInUse;
 }
 
 std::optional<FileEntry> MemoryFiles::Find(const std::wstring& path) {
@@ -228,7 +239,7 @@ void MemoryFiles::Put(const std::wstring& path, std::span<const std::byte> bytes
        end = path.find(L'\\', end + 1)) {
     MakeFolder(path.substr(0, end));
   }
-  if (const auto file = OpenForWriting(path)) file->Write(bytes);
+  if (const auto file = OpenForWriting(path).stream) file->Write(bytes);
 }
 
 void MemoryFiles::Put(const std::wstring& path, std::string_view bytes) {

@@ -16,13 +16,13 @@ class MemoryFiles final : public Files {
   MemoryFiles();
   ~MemoryFiles() override;
 
-  std::unique_ptr<InputStream> OpenForReading(const std::wstring& path) override;
-  std::unique_ptr<OutputStream> OpenForWriting(const std::wstring& path) override;
-  std::unique_ptr<OutputStream> CreateNew(const std::wstring& path) override;
-  bool Remove(const std::wstring& path) override;
-  bool Replace(const std::wstring& from, const std::wstring& to) override;
-  bool Move(const std::wstring& from, const std::wstring& to) override;
-  bool MakeFolder(const std::wstring& path) override;
+  Opened<InputStream> OpenForReading(const std::wstring& path) override;
+  Opened<OutputStream> OpenForWriting(const std::wstring& path) override;
+  Opened<OutputStream> CreateNew(const std::wstring& path) override;
+  FileStatus Remove(const std::wstring& path) override;
+  FileStatus Replace(const std::wstring& from, const std::wstring& to) override;
+  FileStatus Move(const std::wstring& from, const std::wstring& to) override;
+  FileStatus MakeFolder(const std::wstring& path) override;
   std::optional<FileEntry> Find(const std::wstring& path) override;
   // In the order in which the entries were made.
   bool List(const std::wstring& pattern,

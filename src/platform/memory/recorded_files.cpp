@@ -25,78 +25,86 @@ class RecordedFiles::Writer final : public OutputStream {
       : inner_(std::move(inner)), calls_(std::move(calls)) {}
 
   bool Write(std::span<const std::byte> bytes) override {
-    return !calls_->Note(FileCall::kWrite) && inner_->Write(bytes);
+    hasFailed_ = calls_->Note(FileCall::kWrite) || hasFailed_;
+    return !hasFailed_ && inner_->Write(bytes);
   }
-  bool Close() override {
-    const bool fails = calls_->Note(FileCall::kClose);
-    return inner_->Close() && !fails;
+  FileStatus Close() override {
+    hasFailed_ = calls_->Note(FileCall::kClose) || hasFailed_;
+    const FileStatus status = inner_->Close();
+    return hasFailed_ ? FileStatus::kOther : status;
   }
 
  private:
   std::unique_ptr<OutputStream> inner_;
   std::shared_ptr<CallRecorder<FileCall>> calls_;
+  bool hasFailed_ = false;
 };
 
 RecordedFiles::RecordedFiles(Files& inner)
     : inner_(inner), calls_(std::make_shared<CallRecorder<FileCall>>()) {}
 
-bool RecordedFiles::Logged(FileCall call, const std::wstring& path, bool succeeded) {
-  calls_->Write(call, path, succeeded);
-  return succeeded;
+FileStatus RecordedFiles::Logged(FileCall call, const std::wstring& path, FileStatus status) {
+  calls_->Write(call, path, status == FileStatus::kOk);
+  return status;
 }
 
-std::unique_ptr<InputStream> RecordedFiles::OpenForReading(const std::wstring& path) {
-  const bool fails = calls_->Note(FileCall::kOpenForReading);
-  auto stream = fails ? nullptr : inner_.OpenForReading(path);
-  if (!Logged(FileCall::kOpenForReading, path, stream != nullptr)) return nullptr;
-  return std::make_unique<Reader>(std::move(stream), calls_);
+Opened<InputStream> RecordedFiles::OpenForReading(const std::wstring& path) {
+  Opened<InputStream> file;
+  if (!calls_->Note(FileCall::kOpenForReading)) file = inner_.OpenForReading(path);
+  Logged(FileCall::kOpenForReading, path, file.status);
+  if (file.stream) file.stream = std::make_unique<Reader>(std::move(file.stream), calls_);
+  return file;
 }
 
-std::unique_ptr<OutputStream> RecordedFiles::OpenForWriting(const std::wstring& path) {
-  const bool fails = calls_->Note(FileCall::kOpenForWriting);
-  auto stream = fails ? nullptr : inner_.OpenForWriting(path);
-  if (!Logged(FileCall::kOpenForWriting, path, stream != nullptr)) return nullptr;
-  return std::make_unique<Writer>(std::move(stream), calls_);
+Opened<OutputStream> RecordedFiles::OpenForWriting(const std::wstring& path) {
+  return OpenWriter(FileCall::kOpenForWriting, &Files::OpenForWriting, path);
 }
 
-std::unique_ptr<OutputStream> RecordedFiles::CreateNew(const std::wstring& path) {
-  const bool fails = calls_->Note(FileCall::kCreateNew);
-  auto stream = fails ? nullptr : inner_.CreateNew(path);
-  if (!Logged(FileCall::kCreateNew, path, stream != nullptr)) return nullptr;
-  return std::make_unique<Writer>(std::move(stream), calls_);
+Opened<OutputStream> RecordedFiles::CreateNew(const std::wstring& path) {
+  return OpenWriter(FileCall::kCreateNew, &Files::CreateNew, path);
 }
 
-bool RecordedFiles::Remove(const std::wstring& path) {
+Opened<OutputStream> RecordedFiles::OpenWriter(FileCall call, WriterOpener open,
+                                               const std::wstring& path) {
+  Opened<OutputStream> file;
+  if (!calls_->Note(call)) file = (inner_.*open)(path);
+  Logged(call, path, file.status);
+  if (file.stream) file.stream = std::make_unique<Writer>(std::move(file.stream), calls_);
+  return file;
+}
+
+FileStatus RecordedFiles::Remove(const std::wstring& path) {
   const bool fails = calls_->Note(FileCall::kRemove);
-  return Logged(FileCall::kRemove, path, !fails && inner_.Remove(path));
+  return Logged(FileCall::kRemove, path, fails ? FileStatus::kOther : inner_.Remove(path));
 }
 
-bool RecordedFiles::Replace(const std::wstring& from, const std::wstring& to) {
+FileStatus RecordedFiles::Replace(const std::wstring& from, const std::wstring& to) {
   const bool fails = calls_->Note(FileCall::kReplace);
-  return Logged(FileCall::kReplace, to, !fails && inner_.Replace(from, to));
+  return Logged(FileCall::kReplace, to, fails ? FileStatus::kOther : inner_.Replace(from, to));
 }
 
-bool RecordedFiles::Move(const std::wstring& from, const std::wstring& to) {
+FileStatus RecordedFiles::Move(const std::wstring& from, const std::wstring& to) {
   const bool fails = calls_->Note(FileCall::kMove);
-  return Logged(FileCall::kMove, to, !fails && inner_.Move(from, to));
+  return Logged(FileCall::kMove, to, fails ? FileStatus::kOther : inner_.Move(from, to));
 }
 
-bool RecordedFiles::MakeFolder(const std::wstring& path) {
+FileStatus RecordedFiles::MakeFolder(const std::wstring& path) {
   const bool fails = calls_->Note(FileCall::kMakeFolder);
-  return Logged(FileCall::kMakeFolder, path, !fails && inner_.MakeFolder(path));
+  return Logged(FileCall::kMakeFolder, path, fails ? FileStatus::kOther : inner_.MakeFolder(path));
 }
 
 std::optional<FileEntry> RecordedFiles::Find(const std::wstring& path) {
   const bool fails = calls_->Note(FileCall::kFind);
   auto entry = fails ? std::nullopt : inner_.Find(path);
-  Logged(FileCall::kFind, path, entry.has_value());
+  calls_->Write(FileCall::kFind, path, entry.has_value());
   return entry;
 }
 
 bool RecordedFiles::List(const std::wstring& pattern,
                          const std::function<bool(const FileEntry&)>& visit) {
-  const bool fails = calls_->Note(FileCall::kList);
-  return Logged(FileCall::kList, pattern, !fails && inner_.List(pattern, visit));
+  const bool isSearched = !calls_->Note(FileCall::kList) && inner_.List(pattern, visit);
+  calls_->Write(FileCall::kList, pattern, isSearched);
+  return isSearched;
 }
 
 }  // namespace tidewell

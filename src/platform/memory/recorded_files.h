@@ -1,4 +1,4 @@
-// Wraps any files: counts the calls, keeps a log of them and can make them fail.
+// Wraps any files: counts the calls, keeps a log of them and can make them fail (kOther).
 #pragma once
 
 #include <cstdint>
@@ -30,13 +30,13 @@ enum class FileCall : std::uint8_t {
 class RecordedFiles final : public Files {
  public:
   explicit RecordedFiles(Files& inner);
-  std::unique_ptr<InputStream> OpenForReading(const std::wstring& path) override;
-  std::unique_ptr<OutputStream> OpenForWriting(const std::wstring& path) override;
-  std::unique_ptr<OutputStream> CreateNew(const std::wstring& path) override;
-  bool Remove(const std::wstring& path) override;
-  bool Replace(const std::wstring& from, const std::wstring& to) override;
-  bool Move(const std::wstring& from, const std::wstring& to) override;
-  bool MakeFolder(const std::wstring& path) override;
+  Opened<InputStream> OpenForReading(const std::wstring& path) override;
+  Opened<OutputStream> OpenForWriting(const std::wstring& path) override;
+  Opened<OutputStream> CreateNew(const std::wstring& path) override;
+  FileStatus Remove(const std::wstring& path) override;
+  FileStatus Replace(const std::wstring& from, const std::wstring& to) override;
+  FileStatus Move(const std::wstring& from, const std::wstring& to) override;
+  FileStatus MakeFolder(const std::wstring& path) override;
   std::optional<FileEntry> Find(const std::wstring& path) override;
   bool List(const std::wstring& pattern,
             const std::function<bool(const FileEntry&)>& visit) override;
@@ -48,7 +48,10 @@ class RecordedFiles final : public Files {
   class Reader;
   class Writer;
 
-  bool Logged(FileCall call, const std::wstring& path, bool succeeded);
+  using WriterOpener = Opened<OutputStream> (Files::*)(const std::wstring& path);
+
+  Opened<OutputStream> OpenWriter(FileCall call, WriterOpener open, const std::wstring& path);
+  FileStatus Logged(FileCall call, const std::wstring& path, FileStatus status);
 
   Files& inner_;
   std::shared_ptr<CallRecorder<FileCall>> calls_;  // shared with the open streams

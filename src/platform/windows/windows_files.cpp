@@ -26,10 +26,36 @@ HANDLE NullIfInvalid(HANDLE handle) {
   return handle == INVALID_HANDLE_VALUE ? nullptr : handle;
 }
 
-OwnedHandle OpenFile(const std::wstring& path, DWORD access, DWORD disposition) {
-  return OwnedHandle(
-      NullIfInvalid(CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                disposition, FILE_ATTRIBUTE_NORMAL, nullptr)));
+// Of the call that has just failed.
+FileStatus LastStatus() {
+  using enum FileStatus;
+  switch (GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_FILENAME_EXCED_RANGE:
+    case ERROR_DIRECTORY:
+      return kAbsent;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_WRITE_PROTECT:
+      return kRefused;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+      return kFull;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+      return kInUse;
+    default:
+      return kOther;
+  }
+}
+
+FileStatus StatusOf(BOOL hasSucceeded) {
+  return hasSucceeded ? FileStatus::kOk : LastStatus();
 }
 
 // One system call moves at most this much.
@@ -58,28 +84,40 @@ class FileWriter final : public OutputStream {
   explicit FileWriter(OwnedHandle file) : file_(std::move(file)) {}
 
   bool Write(std::span<const std::byte> bytes) override {
-    while (file_ && !bytes.empty()) {
+    while (status_ == FileStatus::kOk && !bytes.empty()) {
       DWORD count = 0;
-      if (!WriteFile(file_.get(), bytes.data(), PieceOf(bytes.size()), &count, nullptr) ||
-          count == 0) {
-        isWhole_ = false;
-        return false;
-      }
+      status_ =
+          StatusOf(WriteFile(file_.get(), bytes.data(), PieceOf(bytes.size()), &count, nullptr));
+      if (status_ == FileStatus::kOk && count == 0) status_ = FileStatus::kFull;
       bytes = bytes.subspan(count);
     }
-    return file_ != nullptr;
+    return status_ == FileStatus::kOk;
   }
 
-  bool Close() override {
-    const bool isOnDisk = file_ && FlushFileBuffers(file_.get()) && isWhole_;
+  FileStatus Close() override {
+    if (status_ == FileStatus::kOk) status_ = StatusOf(FlushFileBuffers(file_.get()));
     file_.reset();
-    return isOnDisk;
+    return std::exchange(status_, FileStatus::kOther);  // so nothing is written to it any more
   }
 
  private:
   OwnedHandle file_;
-  bool isWhole_ = true;
+  FileStatus status_ = FileStatus::kOk;  // of the first write that failed
 };
+
+// As `Stream` the door knows it, `File` is what it is.
+template <typename Stream, typename File>
+Opened<Stream> Open(const std::wstring& path, DWORD access, DWORD disposition) {
+  OwnedHandle file(
+      NullIfInvalid(CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                disposition, FILE_ATTRIBUTE_NORMAL, nullptr)));
+  if (!file) return {nullptr, LastStatus()};
+  return {std::make_unique<File>(std::move(file)), FileStatus::kOk};
+}
+
+Opened<OutputStream> OpenWriter(const std::wstring& path, DWORD disposition) {
+  return Open<OutputStream, FileWriter>(path, GENERIC_WRITE, disposition);
+}
 
 FileEntry EntryOf(const WIN32_FIND_DATAW& found) {
   return {found.cFileName, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
@@ -92,39 +130,38 @@ bool IsDots(const wchar_t* name) {
 
 }  // namespace
 
-std::unique_ptr<InputStream> WindowsFiles::OpenForReading(const std::wstring& path) {
-  OwnedHandle file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
-  return file ? std::make_unique<FileReader>(std::move(file)) : nullptr;
+Opened<InputStream> WindowsFiles::OpenForReading(const std::wstring& path) {
+  return Open<InputStream, FileReader>(path, GENERIC_READ, OPEN_EXISTING);
 }
 
-std::unique_ptr<OutputStream> WindowsFiles::OpenForWriting(const std::wstring& path) {
-  OwnedHandle file = OpenFile(path, GENERIC_WRITE, CREATE_ALWAYS);
-  return file ? std::make_unique<FileWriter>(std::move(file)) : nullptr;
+Opened<OutputStream> WindowsFiles::OpenForWriting(const std::wstring& path) {
+  return OpenWriter(path, CREATE_ALWAYS);
 }
 
-std::unique_ptr<OutputStream> WindowsFiles::CreateNew(const std::wstring& path) {
-  OwnedHandle file = OpenFile(path, GENERIC_WRITE, CREATE_NEW);
-  return file ? std::make_unique<FileWriter>(std::move(file)) : nullptr;
+Opened<OutputStream> WindowsFiles::CreateNew(const std::wstring& path) {
+  return OpenWriter(path, CREATE_NEW);
 }
 
-bool WindowsFiles::Remove(const std::wstring& path) {
-  return DeleteFileW(path.c_str()) != FALSE;
+FileStatus WindowsFiles::Remove(const std::wstring& path) {
+  return StatusOf(DeleteFileW(path.c_str()));
 }
 
-bool WindowsFiles::Replace(const std::wstring& from, const std::wstring& to) {
-  return MoveFileExW(from.c_str(), to.c_str(),
-                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+FileStatus WindowsFiles::Replace(const std::wstring& from, const std::wstring& to) {
+  return StatusOf(
+      MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
 }
 
-bool WindowsFiles::Move(const std::wstring& from, const std::wstring& to) {
-  return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != FALSE;
+FileStatus WindowsFiles::Move(const std::wstring& from, const std::wstring& to) {
+  return StatusOf(MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH));
 }
 
-bool WindowsFiles::MakeFolder(const std::wstring& path) {
-  if (CreateDirectoryW(path.c_str(), nullptr)) return true;
-  if (GetLastError() != ERROR_ALREADY_EXISTS) return false;
+FileStatus WindowsFiles::MakeFolder(const std::wstring& path) {
+  const FileStatus status = StatusOf(CreateDirectoryW(path.c_str(), nullptr));
+  if (status != FileStatus::kInUse) return status;
   const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  const bool isFolder =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  return isFolder ? FileStatus::kOk : status;
 }
 
 std::optional<FileEntry> WindowsFiles::Find(const std::wstring& path) {

@@ -65,10 +65,10 @@ Bitmap WithAlpha(Bitmap bitmap) {
 
 std::optional<Pixels> DecodePixels(Files& files, IImagingFactory* imaging, const std::wstring& path,
                                    ImageDecoder decoder) {
-  auto file = ReadWholeFile(files, path, kMaxImageFile);
-  if (!file) return std::nullopt;
-  return decoder == ImageDecoder::kTga ? DecodeTga(*file)
-                                       : DecodeBySystem(imaging, DecodablePart(std::move(*file)));
+  auto [bytes, status] = ReadWholeFile(files, path, kMaxImageFile);
+  if (status != FileStatus::kOk) return std::nullopt;
+  return decoder == ImageDecoder::kTga ? DecodeTga(bytes)
+                                       : DecodeBySystem(imaging, DecodablePart(std::move(bytes)));
 }
 
 }  // namespace

@@ -40,8 +40,8 @@ class PimCategories : public testing::Test, protected TestDevice {
   }
   std::wstring Volume() const { return JoinPath(folder, L"pim.vol"); }
   void PutFile(const wchar_t* name, std::span<const std::byte> bytes) {
-    const auto stream = windowsFiles.OpenForWriting(JoinPath(folder, name));
-    ASSERT_TRUE(stream && stream->Write(bytes) && stream->Close());
+    const auto stream = windowsFiles.OpenForWriting(JoinPath(folder, name)).stream;
+    ASSERT_TRUE(stream && stream->Write(bytes));
   }
   void Put(std::string_view text) { PutFile(L"pim.vol", std::as_bytes(std::span(text))); }
   // Reads the volume anew: names, ids, flags and icons, a category a line.

@@ -40,6 +40,7 @@ class WindowsFilesUnderTest final : public FilesUnderTest {
   void MakeReadOnly(const std::wstring& path) override {
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
   }
+  std::wstring FileOnFullDisk() override { return L"\\\\?\\unix\\dev\\full"; }
 
  private:
   WindowsFiles files_;
@@ -96,10 +97,11 @@ TEST(WindowsLibraries, AFileThatIsNoLibraryIsNone) {
   WindowsLibraries libraries(underTest.Door());
   const std::wstring path = underTest.Folder() + L"\\broken.dll";
   EXPECT_EQ(libraries.Load(path), nullptr);
-  const std::vector<std::byte> whole = *ReadWholeFile(underTest.Door(), L"" SAMPLE_LIBRARY);
+  const std::vector<std::byte> whole = ReadWholeFile(underTest.Door(), L"" SAMPLE_LIBRARY).bytes;
   for (const std::size_t size : {whole.size(), whole.size() / 2, std::size_t{0}}) {
-    const auto file = underTest.Door().OpenForWriting(path);
-    ASSERT_TRUE(file->Write(std::span(whole).first(size)) && file->Close());
+    const auto file = underTest.Door().OpenForWriting(path).stream;
+    file->Write(std::span(whole).first(size));
+    ASSERT_EQ(file->Close(), FileStatus::kOk);
     EXPECT_EQ(libraries.Load(path) != nullptr, size == whole.size()) << size;
   }
 }
