@@ -65,6 +65,7 @@ constexpr int kImportRow = 1;
 constexpr int kExitRow = 2;
 constexpr wchar_t kEmptyBackup[] = L"before the update";
 constexpr wchar_t kOtherKeys[] = L"from a friend";
+constexpr wchar_t kTaken[] = L"taken by a folder";
 
 const View kViews[] = {
     {"main", {}},
@@ -75,6 +76,7 @@ const View kViews[] = {
     {"exit-question", {TapRightButton, Press(VK_DOWN, kExitRow), Press(VK_RETURN), Popup}},
     {"export", {TapRightButton, Press(VK_RETURN), Popup}},
     {"export-illegal-name", {TapRightButton, Press(VK_RETURN), Popup, Confirm(L"May/June")}},
+    {"export-refused", {TapRightButton, Press(VK_RETURN), Popup, Confirm(kTaken)}},
     {"import", {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup}},
     {"import-no-name",
      {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Press(VK_UP),
@@ -155,8 +157,12 @@ bool Show(const View& view) {
   return std::fgets(answer, sizeof answer, stdin) != nullptr;
 }
 
+std::wstring BackupPath(const std::wstring& name) {
+  return L"C:\\My Documents\\" + name + L".twsb";
+}
+
 void MakeBackup(const std::wstring& name, const std::wstring& text) {
-  const std::wstring path = L"C:\\My Documents\\" + name + L".twsb";
+  const std::wstring path = BackupPath(name);
   const HANDLE file =
       CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
   DWORD count = 0;
@@ -164,9 +170,10 @@ void MakeBackup(const std::wstring& name, const std::wstring& text) {
   CloseHandle(file);
 }
 
-// For the file name dialog, which lists them, and for the messages of an import.
+// For the file name dialog, which lists them, and for the messages of an export and an import.
 void MakeBackups() {
   CreateDirectoryW(L"C:\\My Documents", nullptr);
+  CreateDirectoryW(BackupPath(kTaken).c_str(), nullptr);
   MakeBackup(L"TW_Backup_2026_10_31", L"");
   MakeBackup(kEmptyBackup, L"");
   MakeBackup(kOtherKeys, L"\n[Software\\Microsoft\\Today\\Items]\n\"x\"=dword:1\n");

@@ -524,5 +524,12 @@
 #define IDS_IMPORT_GO_BACK 2033          // To go back, import
 #define IDS_IMPORT_OUTSIDE 2034          // This file also changes settings of other programs, first
 #define IDS_IMPORT_OUTSIDE_QUESTION 2035  // There is no copy of these. Import all the same?
-#define IDS_IMPORT_NO_COPY_QUESTION 2036  // Not all settings could be copied. Import all the same?
+#define IDS_IMPORT_NO_COPY 2036           // Not all settings could be copied.
+#define IDS_IMPORT_NO_COPY_QUESTION 2074  // Import all the same?
 #define IDS_IMPORT_QUESTION_CAPTION 2037  // Import Settings
+#define IDS_FILTERS_NOT_WRITTEN 2073      // The filters could not be saved.
+
+// What the user can do when a file cannot be read or written; the last sentence of a paragraph.
+#define IDS_FILE_ABSENT 2070     // There is no such file or folder: choose another.
+#define IDS_FILE_PROTECTED 2071  // The place is protected or in use: choose another name or folder.
+#define IDS_FILE_FULL 2072       // The storage is full: make room or choose another place.

@@ -24,6 +24,22 @@ std::wstring KeyShown(const std::wstring& key) {
   return shown;
 }
 
+int AdviceOn(FileStatus cause) {
+  switch (cause) {
+    case FileStatus::kAbsent:
+      return IDS_FILE_ABSENT;
+    case FileStatus::kRefused:
+    case FileStatus::kInUse:  // where a file cannot be replaced the system tells the two not apart
+      return IDS_FILE_PROTECTED;
+    case FileStatus::kFull:
+      return IDS_FILE_FULL;
+    case FileStatus::kOk:
+    case FileStatus::kOther:
+      break;
+  }
+  return 0;
+}
+
 }  // namespace
 
 bool BackupCommands::Choose(FileNameRequest& request) {
@@ -44,7 +60,15 @@ ImportQuestions BackupCommands::Questions() {
             return Confirm(language.Text(IDS_IMPORT_OUTSIDE) + Quoted(KeyShown(key)) +
                            kNextParagraph + language.Text(IDS_IMPORT_OUTSIDE_QUESTION));
           },
-          [this](FileStatus) { return Confirm(language.Text(IDS_IMPORT_NO_COPY_QUESTION)); }};
+          [this](FileStatus cause) {
+            return Confirm(WithAdvice(IDS_IMPORT_NO_COPY, cause) + kNextParagraph +
+                           language.Text(IDS_IMPORT_NO_COPY_QUESTION));
+          }};
+}
+
+std::wstring BackupCommands::WithAdvice(int textId, FileStatus cause) const {
+  const int advice = AdviceOn(cause);
+  return language.Text(textId) + (advice ? L' ' + language.Text(advice) : L"");
 }
 
 void BackupCommands::ExportSettingsBackup() {
@@ -55,8 +79,9 @@ void BackupCommands::ExportSettingsBackup() {
   if (!Choose(request)) return;
   std::wstring message = language.Text(IDS_EXPORT_DONE) + Quoted(request.resultPath);
   // There is only this one message; where nothing was written it says so too.
-  if (backup.ExportTo(request.resultPath) != FileStatus::kOk)
-    message += kNextParagraph + language.Text(IDS_EXPORT_NOT_WRITTEN);
+  const FileStatus status = backup.ExportTo(request.resultPath);
+  if (status != FileStatus::kOk)
+    message += kNextParagraph + WithAdvice(IDS_EXPORT_NOT_WRITTEN, status);
   dialogs.ShowMessage(message, language.Text(IDS_EXPORT_DONE_CAPTION));
 }
 
@@ -71,7 +96,7 @@ bool BackupCommands::ImportSettingsBackup() {
       return false;
     case ImportResult::kRefused:
       dialogs.ShowMessage(language.Text(IDS_IMPORT_FAILED) + kNextParagraph +
-                              language.Text(IDS_IMPORT_NOTHING_CHANGED),
+                              WithAdvice(IDS_IMPORT_NOTHING_CHANGED, outcome.cause),
                           language.Text(IDS_IMPORT_FAILED_CAPTION));
       return false;
     case ImportResult::kReplacedInPart:
@@ -80,7 +105,7 @@ bool BackupCommands::ImportSettingsBackup() {
     case ImportResult::kDone:
       break;
   }
-  dialogs.ShowMessage(language.Text(IDS_IMPORT_DONE), language.Text(IDS_IMPORT_DONE_CAPTION));
+  SayDone(outcome.cause);
   return true;
 }
 
@@ -89,6 +114,13 @@ void BackupCommands::SayReplacedInPart(const std::wstring& copy) {
       language.Text(IDS_IMPORT_FAILED) + kNextParagraph + language.Text(IDS_IMPORT_IN_PART);
   if (!copy.empty()) message += L' ' + language.Text(IDS_IMPORT_GO_BACK) + Quoted(copy);
   dialogs.ShowMessage(message, language.Text(IDS_IMPORT_FAILED_CAPTION));
+}
+
+void BackupCommands::SayDone(FileStatus filters) {
+  std::wstring message = language.Text(IDS_IMPORT_DONE);
+  if (filters != FileStatus::kOk)
+    message += kNextParagraph + WithAdvice(IDS_FILTERS_NOT_WRITTEN, filters);
+  dialogs.ShowMessage(message, language.Text(IDS_IMPORT_DONE_CAPTION));
 }
 
 }  // namespace tidewell

@@ -161,6 +161,7 @@ TEST_F(DoneTest, DoneClosesAPageFirstAndTheWindowsEndThePageToo) {
 
 TEST_F(DoneTest, ABackupGoesOutAndComesBack) {
   files.MakeFolder(L"\\My Documents");
+  files.Put(kFiltersFile);
   Put(SettingKey::kRoot, L"OnClick", 2);
   Start();
   TapBar(true);
@@ -198,10 +199,10 @@ TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
   files.SetWriteProtected(true);
   RunRow(0);
   RunRow(1);
-  EXPECT_EQ(dialogs.shown,
-            (std::vector<std::wstring>{L"text 610: text 609\n\ntext 2031",
-                                       L"text 608: text 607 \"" + backup + L"\"\n\ntext 2030",
-                                       L"text 2037: text 2036 [no]"}));
+  EXPECT_EQ(dialogs.shown, (std::vector<std::wstring>{
+                               L"text 610: text 609\n\ntext 2031 text 2070",
+                               L"text 608: text 607 \"" + backup + L"\"\n\ntext 2030 text 2071",
+                               L"text 2037: text 2036 text 2071\n\ntext 2074 [no]"}));
   dialogs.shown.clear();
   files.SetWriteProtected(false);
   files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n\n[\\A]\n"));
@@ -215,6 +216,12 @@ TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
                                        L"text 610: text 609\n\ntext 2032 text 2033 "
                                        L"\"TW_BeforeImport_2008_03_14_090500.twsb\""}));
   EXPECT_TRUE(IsOpen());
+  files.Put(backup, BytesOf(L"\n[Software\\Velmont\\Tidewell]\n"));
+  files.SetFreeBytes(0);
+  RunRow(0);
+  RunRow(1);
+  EXPECT_EQ(dialogs.shown[2], L"text 608: text 607 \"" + backup + L"\"\n\ntext 2030 text 2072");
+  EXPECT_EQ(dialogs.shown.back(), L"text 612: text 611\n\ntext 2073 text 2070") << "no such folder";
 }
 
 }  // namespace

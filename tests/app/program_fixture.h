@@ -21,10 +21,9 @@ class ProgramTest : public testing::Test, protected TestDevice {
  protected:
   ProgramTest() {
     MemoryLibraries::Texts texts;
-    for (const std::uint32_t id :
-         {2020, 2030, 2031, 2032, 2033, 2034, 2035, 2036, 2037, 607, 608, 609,  610,  611, 612,
-          613,  614,  617,  618,  619,  620,  621,  622,  624,  625, 626, 1259, 1260, 1432}) {
-      texts[id] = L"text " + std::to_wstring(id);
+    // Not the keys of message boxes, which the system keeps.
+    for (const auto& [first, last] : {std::pair(607u, 1432u), {2020, 2037}, {2070, 2074}}) {
+      for (std::uint32_t id = first; id <= last; ++id) texts[id] = L"text " + std::to_wstring(id);
     }
     memory.libraries.Put(kEnglishLibrary, std::move(texts));
   }
