@@ -112,7 +112,7 @@ int Run() {
     start.Add(ours.milliseconds, floor.milliseconds);
     memory.Add(ours.mebibytes - floor.mebibytes);
   }
-  PrintRatio("start to the painted list / empty window", start, 1.5, "ms");
+  PrintRatio("start to the painted list / empty window", start, 1.2, "ms");
   PrintFigure("peak memory above the empty window", memory.Median(),
               Spread(memory.Quantile(0.25), memory.Quantile(0.75)), 4, " MiB", "");
   PrintParts();
