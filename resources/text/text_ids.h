@@ -207,48 +207,47 @@
 #define IDS_ICON_SET 2049           // Icon set
 
 // The Calendar page: its tabs, and the rows of the first two.
-#define IDS_CAL_TAB_APPOINTMENTS 636        // Appointments
-#define IDS_CAL_TAB_TASKS 637               // Tasks
-#define IDS_CAL_TAB_DAYS 638                // Days
-#define IDS_PAGE_TAB_ICONS 639              // Icons
-#define IDS_CAL_TAB_MONTH 640               // Month
-#define IDS_CAL_TAB_MAIL 641                // Mail
-#define IDS_CAL_TAB_WEATHER 1530            // Weather
-#define IDS_CAL_DAYS_SHOWN 713              // Days shown
-#define IDS_CAL_FIRST_WEEK 658              // First week
-#define IDS_CAL_FIRST_WEEK_SYSTEM 716       // As the system
-#define IDS_CAL_FIRST_WEEK_JANUARY_1 717    // With January 1
-#define IDS_CAL_FIRST_WEEK_FULL 718         // First full week
-#define IDS_CAL_FIRST_WEEK_4_DAYS 719       // First of 4 days
-#define IDS_CAL_TEXT_COLOR 720              // Text color
-#define IDS_CAL_TEXT_COLOR_OWN 721          // Own color
-#define IDS_CAL_TEXT_COLOR_CATEGORY 722     // The category's
-#define IDS_CAL_TEXT_COLOR_STATUS 723       // The status's
-#define IDS_CAL_HIDE_EMPTY_GROUPS 1525      // Hide empty days
-#define IDS_CAL_HIDE_EMPTY_LINES 1526       // Hide the line of empty days
-#define IDS_CAL_SPECIAL_EVENTS 1213         // Show special events
-#define IDS_CAL_SORT_TASKS 1451             // Sort tasks among appointments
-#define IDS_CAL_PASSED 1644                 // Passed ones
-#define IDS_CAL_PASSED_SHOWN 112            // Shown
-#define IDS_CAL_PASSED_HIDDEN 114           // Hidden
-#define IDS_CAL_LEADING_RECTS 1645          // Color bars
-#define IDS_CAL_LEADING_RECTS_NONE 730      // None
-#define IDS_CAL_LEADING_RECTS_STATUS 731    // By status
-#define IDS_CAL_LEADING_RECTS_CATEGORY 732  // By category
-#define IDS_CAL_CONFLICTS 662               // Conflicts
-#define IDS_CAL_CONFLICTS_NOT_MARKED 735    // Not marked
-#define IDS_CAL_CONFLICTS_BAR 736           // Red bar
-#define IDS_CAL_CONFLICTS_TEXT 737          // Red text
-#define IDS_CAL_YEARLY_COUNTERS 726         // Count the years of anniversaries
-#define IDS_CAL_HIDE_ALLDAY_ICON 727        // Hide the icon of all-day items
-#define IDS_CAL_LEFT_ICON_1 645             // Left icon 1
-#define IDS_CAL_LEFT_ICON_2 646             // Left icon 2
-#define IDS_CAL_RIGHT_ICONS 649             // Right icons
-#define IDS_CAL_TASK_LEFT_ICON_1 647        // Tasks: left 1
-#define IDS_CAL_TASK_LEFT_ICON_2 648        // Tasks: left 2
-#define IDS_CAL_TASK_RIGHT_ICONS 1210       // Tasks: right
-#define IDS_CAL_WEATHER_MISSING \
-  1537  // The weather line needs Velmont Weather, which is not installed on this device.
+#define IDS_CAL_TAB_APPOINTMENTS 636         // Appointments
+#define IDS_CAL_TAB_TASKS 637                // Tasks
+#define IDS_CAL_TAB_DAYS 638                 // Days
+#define IDS_PAGE_TAB_ICONS 639               // Icons
+#define IDS_CAL_TAB_MONTH 640                // Month
+#define IDS_CAL_TAB_MAIL 641                 // Mail
+#define IDS_CAL_TAB_WEATHER 1530             // Weather
+#define IDS_CAL_DAYS_SHOWN 713               // Days shown
+#define IDS_CAL_FIRST_WEEK 658               // First week
+#define IDS_CAL_FIRST_WEEK_SYSTEM 716        // As the system
+#define IDS_CAL_FIRST_WEEK_JANUARY_1 717     // With January 1
+#define IDS_CAL_FIRST_WEEK_FULL 718          // First full week
+#define IDS_CAL_FIRST_WEEK_4_DAYS 719        // First of 4 days
+#define IDS_CAL_TEXT_COLOR 720               // Text color
+#define IDS_CAL_TEXT_COLOR_OWN 721           // Own color
+#define IDS_CAL_TEXT_COLOR_CATEGORY 722      // The category's
+#define IDS_CAL_TEXT_COLOR_STATUS 723        // The status's
+#define IDS_CAL_HIDE_EMPTY_GROUPS 1525       // Hide empty days
+#define IDS_CAL_HIDE_EMPTY_LINES 1526        // Hide the line of empty days
+#define IDS_CAL_SPECIAL_EVENTS 1213          // Show special events
+#define IDS_CAL_SORT_TASKS 1451              // Sort tasks among appointments
+#define IDS_CAL_PASSED 1644                  // Passed ones
+#define IDS_CAL_PASSED_SHOWN 112             // Shown
+#define IDS_CAL_PASSED_HIDDEN 114            // Hidden
+#define IDS_CAL_LEADING_RECTS 1645           // Color bars
+#define IDS_CAL_LEADING_RECTS_NONE 730       // None
+#define IDS_CAL_LEADING_RECTS_STATUS 731     // By status
+#define IDS_CAL_LEADING_RECTS_CATEGORY 732   // By category
+#define IDS_CAL_CONFLICTS 662                // Conflicts
+#define IDS_CAL_CONFLICTS_NOT_MARKED 735     // Not marked
+#define IDS_CAL_CONFLICTS_BAR 736            // Red bar
+#define IDS_CAL_CONFLICTS_TEXT 737           // Red text
+#define IDS_CAL_YEARLY_COUNTERS 726          // Count the years of anniversaries
+#define IDS_CAL_HIDE_ALLDAY_ICON 727         // Hide the icon of all-day items
+#define IDS_CAL_LEFT_ICON_1 645              // Left icon 1
+#define IDS_CAL_LEFT_ICON_2 646              // Left icon 2
+#define IDS_CAL_RIGHT_ICONS 649              // Right icons
+#define IDS_CAL_TASK_LEFT_ICON_1 647         // Tasks: left 1
+#define IDS_CAL_TASK_LEFT_ICON_2 648         // Tasks: left 2
+#define IDS_CAL_TASK_RIGHT_ICONS 1210        // Tasks: right
+#define IDS_CAL_WEATHER_MISSING 1537         // The weather line needs Velmont Weather, which is not installed on this device.
 #define IDS_CAL_WEATHER_LAYOUT 1533          // Layout
 #define IDS_CAL_WEATHER_ONE_LINE 1531        // One line
 #define IDS_CAL_WEATHER_TWO_LINES 1532       // Two lines
@@ -259,105 +258,101 @@
 #define IDS_CAL_WEATHER_PROGRAM 1535         // The program
 
 // The tasks among the appointments: the option, its caption or label, its tip, its choices.
-#define IDS_CAL_TASKS 663          // Tasks
-#define IDS_CAL_TASKS_CAPTION 738  // Show tasks in the calendar
-#define IDS_CAL_TASKS_TIP \
-  739                        // Tasks stand among the appointments of the day on which they are due.
-#define IDS_CAL_OVERDUE 664  // Overdue tasks
-#define IDS_CAL_OVERDUE_CAPTION 740  // Show overdue tasks
-#define IDS_CAL_OVERDUE_TIP \
-  741                       // Tasks whose due date has passed stand under today until completed.
-#define IDS_CAL_FUTURE 665  // Future tasks
-#define IDS_CAL_FUTURE_CAPTION 742  // Show future tasks
-#define IDS_CAL_FUTURE_TIP \
-  743                        // Tasks that are due later stand under the day on which they are due.
-#define IDS_CAL_UNDATED 666  // Tasks without a date
-#define IDS_CAL_UNDATED_CAPTION 744    // Show tasks without a date
-#define IDS_CAL_UNDATED_TIP 745        // Tasks without a due date stand under today.
-#define IDS_CAL_COMPLETED 667          // Completed tasks
-#define IDS_CAL_COMPLETED_LABEL 1225   // Show them for
-#define IDS_CAL_COMPLETED_TIP 1226     // The days under which tasks stay when they are completed.
-#define IDS_CAL_COMPLETED_NO_DAY 1227  // No day
-#define IDS_CAL_COMPLETED_TODAY 1228   // Today
+#define IDS_CAL_TASKS 663                   // Tasks
+#define IDS_CAL_TASKS_CAPTION 738           // Show tasks in the calendar
+#define IDS_CAL_TASKS_TIP 739               // Tasks stand among the appointments of the day on which they are due.
+#define IDS_CAL_OVERDUE 664                 // Overdue tasks
+#define IDS_CAL_OVERDUE_CAPTION 740         // Show overdue tasks
+#define IDS_CAL_OVERDUE_TIP 741             // Tasks whose due date has passed stand under today until completed.
+#define IDS_CAL_FUTURE 665                  // Future tasks
+#define IDS_CAL_FUTURE_CAPTION 742          // Show future tasks
+#define IDS_CAL_FUTURE_TIP 743              // Tasks that are due later stand under the day on which they are due.
+#define IDS_CAL_UNDATED 666                 // Tasks without a date
+#define IDS_CAL_UNDATED_CAPTION 744         // Show tasks without a date
+#define IDS_CAL_UNDATED_TIP 745             // Tasks without a due date stand under today.
+#define IDS_CAL_COMPLETED 667               // Completed tasks
+#define IDS_CAL_COMPLETED_LABEL 1225        // Show them for
+#define IDS_CAL_COMPLETED_TIP 1226          // The days under which tasks stay when they are completed.
+#define IDS_CAL_COMPLETED_NO_DAY 1227       // No day
+#define IDS_CAL_COMPLETED_TODAY 1228        // Today
 #define IDS_CAL_COMPLETED_FROM_TODAY 1229   // From today on
 #define IDS_CAL_COMPLETED_ALL 1230          // All days
 #define IDS_CAL_PAST_COMPLETED 668          // Tasks completed earlier
 #define IDS_CAL_PAST_COMPLETED_CAPTION 748  // Show those completed earlier
-#define IDS_CAL_PAST_COMPLETED_TIP \
-  749                              // Completed tasks are shown also when their due date has passed.
-#define IDS_CAL_FUTURE_LIMIT 1214  // How far ahead
-#define IDS_CAL_FUTURE_LIMIT_LABEL 1231    // Ahead
-#define IDS_CAL_FUTURE_LIMIT_TIP 1232      // Future tasks are shown this far ahead.
-#define IDS_FUTURE_NO_LIMIT 1077           // No limit
-#define IDS_FUTURE_1_DAY 1078              // 1 day
-#define IDS_FUTURE_3_DAYS 1079             // 3 days
-#define IDS_FUTURE_1_WEEK 1080             // 1 week
-#define IDS_FUTURE_2_WEEKS 1081            // 2 weeks
-#define IDS_FUTURE_1_MONTH 1082            // 1 month
-#define IDS_FUTURE_3_MONTHS 1083           // 3 months
-#define IDS_FUTURE_6_MONTHS 1084           // 6 months
-#define IDS_CAL_TASK_ORDER 669             // Order of the tasks
-#define IDS_CAL_TASK_ORDER_LABEL 750       // Sort by
-#define IDS_CAL_TASK_ORDER_TIP 751         // The order in which the tasks of a day stand.
-#define IDS_CAL_TASK_ORDER_DUE 752         // Due date
-#define IDS_CAL_TASK_ORDER_START 753       // Start date
-#define IDS_CAL_TASK_ORDER_IMPORTANCE 754  // Importance
-#define IDS_CAL_TASK_ORDER_COMPLETION 755  // Completion
-#define IDS_CAL_TASK_ORDER_ACTIVITY 756    // Activity
-#define IDS_CAL_TASK_ORDER_SUBJECT 757     // Subject
-#define IDS_CAL_TASK_ORDER_CATEGORY 758    // Category
-#define IDS_CAL_WEEKENDS 670               // Active tasks at weekends
-#define IDS_CAL_WEEKENDS_LABEL 759         // Leave out
-#define IDS_CAL_WEEKENDS_TIP 760           // On these days active tasks are not shown.
-#define IDS_CAL_WEEKENDS_NONE 761          // No day
-#define IDS_CAL_WEEKENDS_SATURDAY 762      // Saturday
-#define IDS_CAL_WEEKENDS_SUNDAY 763        // Sunday
-#define IDS_CAL_WEEKENDS_BOTH 764          // Both days
-#define IDS_CAL_TASK_DATE 671              // Date of tasks
-#define IDS_CAL_TASK_DATE_LABEL 765        // Date format
-#define IDS_CAL_TASK_DATE_TIP 766          // How the due date of a task is written.
-#define IDS_CAL_ACTIVE 672                 // Active tasks
-#define IDS_CAL_ACTIVE_CAPTION 767         // Show active tasks
-#define IDS_CAL_ACTIVE_TIP 768   // A task that has begun stands under every day until it is due.
-#define IDS_CAL_TASKS_FIRST 673  // Tasks before appointments
-#define IDS_CAL_TASKS_FIRST_CAPTION 769  // Tasks before appointments
-#define IDS_CAL_TASKS_FIRST_TIP 770      // The tasks of a day stand above its appointments.
-#define IDS_CAL_CONFIRM 674              // Confirmation
-#define IDS_CONFIRM_COMPLETION 771       // Ask before completing a task
-#define IDS_CAL_CONFIRM_TIP 772          // Before a tap on its box completes a task, you are asked.
+#define IDS_CAL_PAST_COMPLETED_TIP 749      // Completed tasks are shown also when their due date has passed.
+#define IDS_CAL_FUTURE_LIMIT 1214           // How far ahead
+#define IDS_CAL_FUTURE_LIMIT_LABEL 1231     // Ahead
+#define IDS_CAL_FUTURE_LIMIT_TIP 1232       // Future tasks are shown this far ahead.
+#define IDS_FUTURE_NO_LIMIT 1077            // No limit
+#define IDS_FUTURE_1_DAY 1078               // 1 day
+#define IDS_FUTURE_3_DAYS 1079              // 3 days
+#define IDS_FUTURE_1_WEEK 1080              // 1 week
+#define IDS_FUTURE_2_WEEKS 1081             // 2 weeks
+#define IDS_FUTURE_1_MONTH 1082             // 1 month
+#define IDS_FUTURE_3_MONTHS 1083            // 3 months
+#define IDS_FUTURE_6_MONTHS 1084            // 6 months
+#define IDS_CAL_TASK_ORDER 669              // Order of the tasks
+#define IDS_CAL_TASK_ORDER_LABEL 750        // Sort by
+#define IDS_CAL_TASK_ORDER_TIP 751          // The order in which the tasks of a day stand.
+#define IDS_CAL_TASK_ORDER_DUE 752          // Due date
+#define IDS_CAL_TASK_ORDER_START 753        // Start date
+#define IDS_CAL_TASK_ORDER_IMPORTANCE 754   // Importance
+#define IDS_CAL_TASK_ORDER_COMPLETION 755   // Completion
+#define IDS_CAL_TASK_ORDER_ACTIVITY 756     // Activity
+#define IDS_CAL_TASK_ORDER_SUBJECT 757      // Subject
+#define IDS_CAL_TASK_ORDER_CATEGORY 758     // Category
+#define IDS_CAL_WEEKENDS 670                // Active tasks at weekends
+#define IDS_CAL_WEEKENDS_LABEL 759          // Leave out
+#define IDS_CAL_WEEKENDS_TIP 760            // On these days active tasks are not shown.
+#define IDS_CAL_WEEKENDS_NONE 761           // No day
+#define IDS_CAL_WEEKENDS_SATURDAY 762       // Saturday
+#define IDS_CAL_WEEKENDS_SUNDAY 763         // Sunday
+#define IDS_CAL_WEEKENDS_BOTH 764           // Both days
+#define IDS_CAL_TASK_DATE 671               // Date of tasks
+#define IDS_CAL_TASK_DATE_LABEL 765         // Date format
+#define IDS_CAL_TASK_DATE_TIP 766           // How the due date of a task is written.
+#define IDS_CAL_ACTIVE 672                  // Active tasks
+#define IDS_CAL_ACTIVE_CAPTION 767          // Show active tasks
+#define IDS_CAL_ACTIVE_TIP 768              // A task that has begun stands under every day until it is due.
+#define IDS_CAL_TASKS_FIRST 673             // Tasks before appointments
+#define IDS_CAL_TASKS_FIRST_CAPTION 769     // Tasks before appointments
+#define IDS_CAL_TASKS_FIRST_TIP 770         // The tasks of a day stand above its appointments.
+#define IDS_CAL_CONFIRM 674                 // Confirmation
+#define IDS_CONFIRM_COMPLETION 771          // Ask before completing a task
+#define IDS_CAL_CONFIRM_TIP 772             // Before a tap on its box completes a task, you are asked.
 
 // The days, their titles and time lines.
-#define IDS_CAL_DAY_TITLE 675          // Date in titles
-#define IDS_CAL_DAY_TITLE_LABEL 773    // Date format
-#define IDS_CAL_DAY_TITLE_TIP 774      // How the date is written in the title of a day.
-#define IDS_CAL_DAY_DIVIDER 676        // Line between days
-#define IDS_CAL_DAY_DIVIDER_LABEL 775  // Line
-#define IDS_CAL_DAY_DIVIDER_TIP 776    // The line that divides one day from the next.
-#define IDS_CAL_TIME_LINES 677         // Time lines
-#define IDS_CAL_TIME_LINES_LABEL 777   // Time lines
-#define IDS_CAL_TIME_LINES_TIP 778     // A time line shows which hours of a day are busy.
-#define IDS_CAL_TIME_LINES_OFF 779     // Off
-#define IDS_CAL_TIME_LINES_TODAY 780   // Today only
-#define IDS_CAL_TIME_LINES_ALL 781     // All days
-#define IDS_CAL_TOMORROW 678           // Title of tomorrow
-#define IDS_CAL_TOMORROW_CAPTION 782   // Call the next day tomorrow
-#define IDS_CAL_TOMORROW_TIP 783  // The title of the next day says so instead of the date alone.
-#define IDS_CAL_COUNTERS 679      // Counters
-#define IDS_CAL_COUNTERS_CAPTION 784   // Show counters in titles
-#define IDS_CAL_COUNTERS_TIP 785       // A title tells how many entries its day has.
-#define IDS_CAL_SMART_FOLDING 680      // Smart folding
-#define IDS_SMART_FOLDING 786          // Use smart folding
-#define IDS_CAL_SMART_FOLDING_TIP 787  // Opening one group folds up the one that was open before.
-#define IDS_CAL_WRAP 681               // Long titles
-#define IDS_WRAP_TITLES 788            // Wrap titles
-#define IDS_CAL_WRAP_TIP 789      // A title too long for its line goes on in the next, or is cut.
-#define IDS_WRAP_ALWAYS 790       // Always
-#define IDS_WRAP_NEVER 791        // Never
-#define IDS_WRAP_SELECTED 792     // When selected
-#define IDS_CAL_FREE 682          // Free times
-#define IDS_CAL_FREE_CAPTION 797  // Leave out free appointments
-#define IDS_CAL_FREE_TIP 798      // Appointments marked as free do not count in the time lines.
-#define IDS_CAL_TODAY_TITLE 685   // Title of today
+#define IDS_CAL_DAY_TITLE 675            // Date in titles
+#define IDS_CAL_DAY_TITLE_LABEL 773      // Date format
+#define IDS_CAL_DAY_TITLE_TIP 774        // How the date is written in the title of a day.
+#define IDS_CAL_DAY_DIVIDER 676          // Line between days
+#define IDS_CAL_DAY_DIVIDER_LABEL 775    // Line
+#define IDS_CAL_DAY_DIVIDER_TIP 776      // The line that divides one day from the next.
+#define IDS_CAL_TIME_LINES 677           // Time lines
+#define IDS_CAL_TIME_LINES_LABEL 777     // Time lines
+#define IDS_CAL_TIME_LINES_TIP 778       // A time line shows which hours of a day are busy.
+#define IDS_CAL_TIME_LINES_OFF 779       // Off
+#define IDS_CAL_TIME_LINES_TODAY 780     // Today only
+#define IDS_CAL_TIME_LINES_ALL 781       // All days
+#define IDS_CAL_TOMORROW 678             // Title of tomorrow
+#define IDS_CAL_TOMORROW_CAPTION 782     // Call the next day tomorrow
+#define IDS_CAL_TOMORROW_TIP 783         // The title of the next day says so instead of the date alone.
+#define IDS_CAL_COUNTERS 679             // Counters
+#define IDS_CAL_COUNTERS_CAPTION 784     // Show counters in titles
+#define IDS_CAL_COUNTERS_TIP 785         // A title tells how many entries its day has.
+#define IDS_CAL_SMART_FOLDING 680        // Smart folding
+#define IDS_SMART_FOLDING 786            // Use smart folding
+#define IDS_CAL_SMART_FOLDING_TIP 787    // Opening one group folds up the one that was open before.
+#define IDS_CAL_WRAP 681                 // Long titles
+#define IDS_WRAP_TITLES 788              // Wrap titles
+#define IDS_CAL_WRAP_TIP 789             // A title too long for its line goes on in the next, or is cut.
+#define IDS_WRAP_ALWAYS 790              // Always
+#define IDS_WRAP_NEVER 791               // Never
+#define IDS_WRAP_SELECTED 792            // When selected
+#define IDS_CAL_FREE 682                 // Free times
+#define IDS_CAL_FREE_CAPTION 797         // Leave out free appointments
+#define IDS_CAL_FREE_TIP 798             // Appointments marked as free do not count in the time lines.
+#define IDS_CAL_TODAY_TITLE 685          // Title of today
 #define IDS_CAL_TODAY_TITLE_CAPTION 801  // Always show today's title
 #define IDS_CAL_TODAY_TITLE_TIP 802      // Today has its title also when it has no entries.
 #define IDS_CAL_TODAY_DATE 686           // Date of today
@@ -383,60 +378,59 @@
 #define IDS_CAL_LINES_WIDTH_TIP 1192     // How wide time lines are drawn.
 
 // The monthly calendar that pops up.
-#define IDS_CAL_MONTH_TAP 689             // Tap on a day
-#define IDS_CAL_MONTH_TAP_LABEL 809       // Opens
-#define IDS_CAL_MONTH_TAP_TIP 810         // What a tap on a day of the monthly calendar opens.
-#define IDS_CAL_MONTH_TAP_DAY 811         // The day
-#define IDS_CAL_MONTH_TAP_WEEK 812        // The week
-#define IDS_CAL_MONTH_TAP_MONTH 813       // The month
-#define IDS_CAL_MONTH_TAP_NEW 814         // A new entry
-#define IDS_CAL_MONTH_DATE 690            // Dates
-#define IDS_CAL_MONTH_DATE_LABEL 815      // Date format
-#define IDS_CAL_MONTH_DATE_TIP 816        // How dates are written in the monthly calendar.
-#define IDS_CAL_WEEK_START 691            // First day of the week
-#define IDS_CAL_WEEK_START_LABEL 1193     // First day
-#define IDS_CAL_WEEK_START_TIP 1194       // With this day a week of the monthly calendar begins.
-#define IDS_CAL_WORK_START 1219           // First working day
-#define IDS_CAL_WORK_START_LABEL 1195     // First day
-#define IDS_CAL_WORK_START_TIP 1196       // With this day the working week begins.
-#define IDS_CAL_MONTH_WEEKS 692           // Week numbers
-#define IDS_CAL_MONTH_WEEKS_CAPTION 819   // Show week numbers
-#define IDS_CAL_MONTH_WEEKS_TIP 820       // The number of each week stands beside it.
-#define IDS_CAL_MONTH_LINES 1220          // Time lines
-#define IDS_CAL_MONTH_LINES_LABEL 1197    // Time lines
-#define IDS_CAL_MONTH_LINES_TIP 1198      // A time line in each day shows which hours are busy.
-#define IDS_CAL_MONTH_LINES_OFF 1207      // Off
-#define IDS_CAL_MONTH_LINES_TODAY 1208    // Today only
-#define IDS_CAL_MONTH_LINES_ALL 1209      // All days
-#define IDS_CAL_MONTH_ICONS 1221          // Category icons
-#define IDS_CAL_MONTH_ICONS_CAPTION 1199  // Show category icons
-#define IDS_CAL_MONTH_ICONS_TIP 1200      // The icons of its entries' categories stand in each day.
-#define IDS_CAL_MONTH_ICON_SIZE 1222      // Size of the icons
-#define IDS_CAL_MONTH_ICON_SIZE_LABEL 1201  // Pixels
-#define IDS_CAL_MONTH_ICON_SIZE_TIP 1202    // How large the icons of the monthly calendar are.
-#define IDS_CAL_MONTH_DPAD 1455             // D-pad
-#define IDS_CAL_MONTH_DPAD_TIP 1456         // What the D-pad moves through in the monthly calendar.
-#define IDS_CAL_MONTH_DPAD_OFF 1452         // Off
-#define IDS_CAL_MONTH_DPAD_MONTHS 1453      // Months
-#define IDS_CAL_MONTH_DPAD_DAYS 1454        // Days
-#define IDS_CAL_PINNED 1223                 // Pinned calendar
-#define IDS_CAL_PINNED_CAPTION 1203         // Pin the monthly calendar
-#define IDS_CAL_PINNED_TIP 1204  // The calendar stays on the Today screen. It needs a height of %d.
-#define IDS_CAL_PINNED_TOO_LOW \
-  1205  // This needs a height of %d or more: set it on the General page first.
+#define IDS_CAL_MONTH_TAP 689                // Tap on a day
+#define IDS_CAL_MONTH_TAP_LABEL 809          // Opens
+#define IDS_CAL_MONTH_TAP_TIP 810            // What a tap on a day of the monthly calendar opens.
+#define IDS_CAL_MONTH_TAP_DAY 811            // The day
+#define IDS_CAL_MONTH_TAP_WEEK 812           // The week
+#define IDS_CAL_MONTH_TAP_MONTH 813          // The month
+#define IDS_CAL_MONTH_TAP_NEW 814            // A new entry
+#define IDS_CAL_MONTH_DATE 690               // Dates
+#define IDS_CAL_MONTH_DATE_LABEL 815         // Date format
+#define IDS_CAL_MONTH_DATE_TIP 816           // How dates are written in the monthly calendar.
+#define IDS_CAL_WEEK_START 691               // First day of the week
+#define IDS_CAL_WEEK_START_LABEL 1193        // First day
+#define IDS_CAL_WEEK_START_TIP 1194          // With this day a week of the monthly calendar begins.
+#define IDS_CAL_WORK_START 1219              // First working day
+#define IDS_CAL_WORK_START_LABEL 1195        // First day
+#define IDS_CAL_WORK_START_TIP 1196          // With this day the working week begins.
+#define IDS_CAL_MONTH_WEEKS 692              // Week numbers
+#define IDS_CAL_MONTH_WEEKS_CAPTION 819      // Show week numbers
+#define IDS_CAL_MONTH_WEEKS_TIP 820          // The number of each week stands beside it.
+#define IDS_CAL_MONTH_LINES 1220             // Time lines
+#define IDS_CAL_MONTH_LINES_LABEL 1197       // Time lines
+#define IDS_CAL_MONTH_LINES_TIP 1198         // A time line in each day shows which hours are busy.
+#define IDS_CAL_MONTH_LINES_OFF 1207         // Off
+#define IDS_CAL_MONTH_LINES_TODAY 1208       // Today only
+#define IDS_CAL_MONTH_LINES_ALL 1209         // All days
+#define IDS_CAL_MONTH_ICONS 1221             // Category icons
+#define IDS_CAL_MONTH_ICONS_CAPTION 1199     // Show category icons
+#define IDS_CAL_MONTH_ICONS_TIP 1200         // The icons of its entries' categories stand in each day.
+#define IDS_CAL_MONTH_ICON_SIZE 1222         // Size of the icons
+#define IDS_CAL_MONTH_ICON_SIZE_LABEL 1201   // Pixels
+#define IDS_CAL_MONTH_ICON_SIZE_TIP 1202     // How large the icons of the monthly calendar are.
+#define IDS_CAL_MONTH_DPAD 1455              // D-pad
+#define IDS_CAL_MONTH_DPAD_TIP 1456          // What the D-pad moves through in the monthly calendar.
+#define IDS_CAL_MONTH_DPAD_OFF 1452          // Off
+#define IDS_CAL_MONTH_DPAD_MONTHS 1453       // Months
+#define IDS_CAL_MONTH_DPAD_DAYS 1454         // Days
+#define IDS_CAL_PINNED 1223                  // Pinned calendar
+#define IDS_CAL_PINNED_CAPTION 1203          // Pin the monthly calendar
+#define IDS_CAL_PINNED_TIP 1204              // The calendar stays on the Today screen. It needs a height of %d.
+#define IDS_CAL_PINNED_TOO_LOW 1205          // This needs a height of %d or more: set it on the General page first.
 #define IDS_CAL_PINNED_TOO_LOW_CAPTION 1206  // Not enough height
 
 // The line of mail.
-#define IDS_CAL_MAIL 706               // Mail line
-#define IDS_CAL_MAIL_CAPTION 821       // Show mail in the calendar
-#define IDS_CAL_MAIL_TIP 822           // A line of the calendar tells how many messages there are.
-#define IDS_CAL_MAIL_HIDE 707          // Without messages
-#define IDS_CAL_MAIL_HIDE_CAPTION 823  // Hide it without messages
-#define IDS_CAL_MAIL_HIDE_TIP 824      // The line is hidden as long as no message is unread.
-#define IDS_CAL_MAIL_FORMAT 708        // Text of the line
-#define IDS_CAL_MAIL_FORMAT_LABEL 825  // Tells
-#define IDS_CAL_MAIL_FORMAT_TIP 826    // What the line tells of the messages.
-#define IDS_CAL_MAIL_UNREAD 827        // Unread
+#define IDS_CAL_MAIL 706                  // Mail line
+#define IDS_CAL_MAIL_CAPTION 821          // Show mail in the calendar
+#define IDS_CAL_MAIL_TIP 822              // A line of the calendar tells how many messages there are.
+#define IDS_CAL_MAIL_HIDE 707             // Without messages
+#define IDS_CAL_MAIL_HIDE_CAPTION 823     // Hide it without messages
+#define IDS_CAL_MAIL_HIDE_TIP 824         // The line is hidden as long as no message is unread.
+#define IDS_CAL_MAIL_FORMAT 708           // Text of the line
+#define IDS_CAL_MAIL_FORMAT_LABEL 825     // Tells
+#define IDS_CAL_MAIL_FORMAT_TIP 826       // What the line tells of the messages.
+#define IDS_CAL_MAIL_UNREAD 827           // Unread
 #define IDS_CAL_MAIL_UNREAD_AND_ALL 828   // Unread and all
 #define IDS_CAL_MAIL_ACCOUNTS 829         // Each account
 #define IDS_CAL_MAIL_ACCOUNTS_UNREAD 830  // Accounts, unread
@@ -446,9 +440,8 @@
 #define IDS_CAL_MAIL_PROGRAM_SYSTEM 833   // Messaging
 #define IDS_CAL_MAIL_PROGRAM_OTHER 834    // Another one
 #define IDS_CAL_MAIL_OTHER 710            // Other mail program
-#define IDS_CAL_MAIL_OTHER_TIP \
-  835                           // A tap on the line opens this program, when another one is chosen.
-#define IDS_CAL_MAIL_TITLE 711  // Title under today
+#define IDS_CAL_MAIL_OTHER_TIP 835        // A tap on the line opens this program, when another one is chosen.
+#define IDS_CAL_MAIL_TITLE 711            // Title under today
 #define IDS_CAL_MAIL_TITLE_CAPTION 836    // No title under today
 #define IDS_CAL_MAIL_TITLE_TIP 837        // Under today the line of mail has no title of its own.
 #define IDS_CAL_MAIL_COUNTER 712          // Counter in the title
@@ -467,22 +460,19 @@
 #define IDS_CAL_NIGHT_TIP 850              // What ends before this time belongs to the day before.
 #define IDS_CAL_OVERDUE_TITLE 697          // Title of overdue tasks
 #define IDS_CAL_OVERDUE_TITLE_CAPTION 851  // Hide this title
-#define IDS_CAL_OVERDUE_TITLE_TIP \
-  852                              // Overdue tasks stand under today without a title of their own.
-#define IDS_CAL_UNDATED_TITLE 698  // Title of tasks without a date
+#define IDS_CAL_OVERDUE_TITLE_TIP 852      // Overdue tasks stand under today without a title of their own.
+#define IDS_CAL_UNDATED_TITLE 698          // Title of tasks without a date
 #define IDS_CAL_UNDATED_TITLE_CAPTION 853  // Hide this title
-#define IDS_CAL_UNDATED_TITLE_TIP \
-  854  // Tasks without a date stand under today without a title of their own.
-#define IDS_CAL_OWN_FORMAT 699  // Own date format
-#define IDS_CAL_OWN_FORMAT_TIP \
-  855  // The date in titles, such as ddd, d MMM. Empty: as on the Days tab.
-#define IDS_CAL_TITLES_ORDER 1224  // Order of the titles
-#define IDS_CAL_TITLE_OVERDUE 700  // Overdue tasks
-#define IDS_CAL_TITLE_UNDATED 701  // Tasks without a date
-#define IDS_CAL_TITLE_TODAY 702    // Today
-#define IDS_CAL_TITLE_MAIL 703     // Mail
-#define IDS_CAL_TITLE_WEATHER 704  // Weather
-#define IDS_CAL_TITLE_EVENTS 705   // Special events
+#define IDS_CAL_UNDATED_TITLE_TIP 854      // Tasks without a date stand under today without a title of their own.
+#define IDS_CAL_OWN_FORMAT 699             // Own date format
+#define IDS_CAL_OWN_FORMAT_TIP 855         // The date in titles, such as ddd, d MMM. Empty: as on the Days tab.
+#define IDS_CAL_TITLES_ORDER 1224          // Order of the titles
+#define IDS_CAL_TITLE_OVERDUE 700          // Overdue tasks
+#define IDS_CAL_TITLE_UNDATED 701          // Tasks without a date
+#define IDS_CAL_TITLE_TODAY 702            // Today
+#define IDS_CAL_TITLE_MAIL 703             // Mail
+#define IDS_CAL_TITLE_WEATHER 704          // Weather
+#define IDS_CAL_TITLE_EVENTS 705           // Special events
 
 // The Tasks page.
 #define IDS_TASKS_TAB_SHOWN 2100            // Tasks

@@ -43,6 +43,7 @@ std::vector<Place> ReadPlaces() {
 std::set<int> TextsOfPages() {
   TestDevice device;
   device.UseScreen(480, 640, 192);
+  device.InstallWeather();
   std::set<int> ids;
   for (const PageEntry& page : kPages) {
     ids.insert(page.captionId);
@@ -52,6 +53,11 @@ std::set<int> TextsOfPages() {
       for (const Row* row : tab.Rows()) {
         ids.insert(row->textId);
         for (const Choice& choice : row->choices) ids.insert(choice.textId);
+      }
+      if (const auto* list = std::get_if<OptionList>(&tab.body)) {
+        for (const Option& option : list->options) {
+          ids.insert({option.lineTextId, option.tipTextId});
+        }
       }
     }
   }

@@ -79,6 +79,9 @@ struct TestDevice {
     Put(L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath", L"");
     Put({RegistryRoot::kLocalMachine, L"SOFTWARE\\Developer One, Inc.\\Agenda Fusion"}, L"VerMajor",
         L"");
+    InstallWeather();
+  }
+  void InstallWeather() {
     Put(L"SOFTWARE\\Velmont Weather", L"UtilityLibrary", kWeatherLibrary);
     files.Put(kWeatherLibrary, "MZ");
   }
