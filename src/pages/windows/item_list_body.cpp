@@ -48,6 +48,7 @@ bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
   ShowLines(Page().Control(listId), lines, [this](const ListLine& line) {
     return icons_ ? icons_->Load(line.text, true) : FileIcons::kNone;
   });
+  FitColumn(Page().Control(listId));
   return true;
 }
 

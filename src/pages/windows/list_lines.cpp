@@ -51,7 +51,7 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
 }
 
 void FitColumn(HWND list) {
-  ListView_SetColumnWidth(list, 0, ClientArea(list).right - GetSystemMetrics(SM_CXVSCROLL));
+  ListView_SetColumnWidth(list, 0, ClientArea(list).right);
 }
 
 }  // namespace tidewell

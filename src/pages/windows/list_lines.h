@@ -15,8 +15,8 @@ std::vector<ListLine> LinesOf(HWND list);
 void ShowLines(HWND list, const std::vector<ListLine>& lines,
                const std::function<int(const ListLine&)>& imageOf = {});
 
-// Makes the one column as wide as the list beside its scroll bar: a desktop's list view scrolls
-// sideways otherwise.
+// Makes the one column as wide as the list beside its scroll bar, if it has one: a desktop's list
+// view scrolls sideways otherwise. To be called after each change of the lines or of the place.
 void FitColumn(HWND list);
 
 }  // namespace tidewell
