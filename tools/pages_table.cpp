@@ -31,9 +31,9 @@ MemoryLibraries::Texts ReadTexts(const char* path) {
   MemoryLibraries::Texts texts;
   std::ifstream file(path);
   for (std::string line; std::getline(file, line);) {
-    unsigned id = 0;
+    int id = 0;
     const auto comment = line.find("// ");
-    if (comment == std::string::npos || std::sscanf(line.c_str(), "#define %*s %u", &id) != 1) {
+    if (comment == std::string::npos || std::sscanf(line.c_str(), "#define %*s %d", &id) != 1) {
       continue;
     }
     texts[id] = std::wstring(line.begin() + static_cast<std::ptrdiff_t>(comment) + 3, line.end());

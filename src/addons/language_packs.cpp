@@ -16,7 +16,7 @@ const std::wstring* LanguagePacks::PathOf(int choice) const {
   return &paths[slot];
 }
 
-LanguagePacks ScanLanguagePacks(Machine& machine, const std::wstring& installFolder,
+LanguagePacks ScanLanguagePacks(const Machine& machine, const std::wstring& installFolder,
                                 const std::wstring& present) {
   LanguagePacks packs;
   std::size_t slot = 0;

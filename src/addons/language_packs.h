@@ -24,7 +24,7 @@ struct LanguagePacks {
 // the slots are full; the choices are those that tell their name. A library without a name takes
 // its slot all the same, on purpose: the slots of later packs are then no longer their choices'
 // positions.
-LanguagePacks ScanLanguagePacks(Machine& machine, const std::wstring& installFolder,
+LanguagePacks ScanLanguagePacks(const Machine& machine, const std::wstring& installFolder,
                                 const std::wstring& present);
 
 }  // namespace tidewell

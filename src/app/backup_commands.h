@@ -14,7 +14,7 @@ namespace tidewell {
 
 // What the commands work on; everything in it outlives them.
 struct BackupCommands {
-  Machine& machine;
+  const Machine& machine;
   SettingsStore& settings;
   CategoryCatalog& categories;
   Language& language;

@@ -297,7 +297,7 @@ class CalendarRules final : public PageRules {
 
 PageTabs CalendarRules::Tabs() {
   CalendarSettings& s = Settings();
-  Machine& machine = context_.machine;
+  const Machine& machine = context_.machine;
   return {
       GeneralTab(s),
       AppointmentsTab(s),

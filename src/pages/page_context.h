@@ -13,7 +13,7 @@ namespace tidewell {
 class UserDialogs;
 
 struct PageContext {
-  Machine& machine;
+  const Machine& machine;
   SettingsStore& settings;
   CategoryCatalog& categories;
   const Language& language;

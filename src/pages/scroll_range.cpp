@@ -27,15 +27,8 @@ bool ScrollRange::BringIntoView(int top, int bottom) {
   return false;
 }
 
-ScrollRange::Thumb ScrollRange::ThumbOf(int minimumThumb) const {
-  if (!Needed()) return {};
-  const int height =
-      std::min(std::max(viewHeight_ * viewHeight_ / contentHeight_, minimumThumb), viewHeight_);
-  return {(viewHeight_ - height) * offset_ / Last(), height};
-}
-
-bool ScrollRange::DragThumb(int top, int minimumThumb) {
-  const int room = viewHeight_ - ThumbOf(minimumThumb).height;
+bool ScrollRange::DragThumb(int top, int shortest) {
+  const int room = viewHeight_ - ThumbOf(shortest).height;
   if (!Needed() || room <= 0) return false;
   return ScrollTo((top * Last() + room / 2) / room);
 }

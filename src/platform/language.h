@@ -26,7 +26,7 @@ class Language {
   // The same with a text for that case.
   std::wstring Text(int id, const wchar_t* builtIn) const {
     if (!library_ || id == 0) return builtIn;
-    return library_->FindText(static_cast<std::uint32_t>(id)).value_or(builtIn);
+    return library_->FindText(id).value_or(builtIn);
   }
 
  private:

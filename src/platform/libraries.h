@@ -12,7 +12,7 @@ class ResourceLibrary {
  public:
   virtual ~ResourceLibrary() = default;  // frees the library
   // Nothing when the library has no string of that id.
-  virtual std::optional<std::wstring> FindText(std::uint32_t id) const = 0;
+  virtual std::optional<std::wstring> FindText(int id) const = 0;
   // The module handle for calls that take one (pictures); null where there is none.
   virtual void* Handle() const = 0;
 };

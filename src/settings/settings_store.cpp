@@ -68,7 +68,7 @@ std::array<SettingGroup*, 16> SettingsStore::Groups() {
           &customPim, &tabSettings,     &categories,   &iconSet};
 }
 
-void SettingsStore::Load(Machine& machine, const ScreenScale& scale, Language& language) {
+void SettingsStore::Load(const Machine& machine, const ScreenScale& scale, Language& language) {
   isLoaded_ = false;
   Registry& registry = machine.registry;
   LoadContext context;

@@ -41,7 +41,7 @@ class SettingsStore {
 
   // Reads everything anew, repairs what cannot be, and replaces the language library by the chosen
   // one, else by the English one; null when neither loads. What cannot be read is its default.
-  void Load(Machine& machine, const ScreenScale& scale, Language& language);
+  void Load(const Machine& machine, const ScreenScale& scale, Language& language);
   // Writes what was changed, and what the registry does not hold of the hosted tabs. What the load
   // was refused is left as it is unless it was set since. Nothing before a load has come to its
   // end. Failures are silent.

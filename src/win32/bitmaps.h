@@ -14,6 +14,6 @@ namespace tidewell {
 Bitmap LoadBitmapFile(Files& files, const std::wstring& path);
 
 // Null when the module has no bitmap of that id, or a damaged one.
-Bitmap LoadBitmapResource(HMODULE module, WORD id);
+Bitmap LoadBitmapResource(HMODULE module, int id);
 
 }  // namespace tidewell

@@ -141,7 +141,7 @@ TEST(Scrolling, StaysWithinItsEndsAndMovesNoFurtherThanNeeded) {
 }
 
 TEST(Scrolling, TheThumbShowsWhereTheViewIsAndMovesIt) {
-  using Thumb = ScrollRange::Thumb;
+  using Thumb = ScrollThumb;
   ScrollRange range;
   range.Resize(400, 200);
   EXPECT_EQ(range.ThumbOf(16), (Thumb{0, 100}));

@@ -43,7 +43,7 @@ inline std::vector<std::string> LanguageLibraryNames() {
 inline std::map<int, std::wstring> TextsOf(const Library& library) {
   std::map<int, std::wstring> texts;
   for (int id = 1; id < 0x10000; ++id) {
-    if (const auto text = library->FindText(std::uint32_t(id))) texts.emplace(id, *text);
+    if (const auto text = library->FindText(id)) texts.emplace(id, *text);
   }
   return texts;
 }

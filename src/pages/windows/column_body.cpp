@@ -144,7 +144,7 @@ void ColumnBody::PaintBackground(HDC dc) {
 }
 
 RECT ColumnBody::ThumbArea() const {
-  const ScrollRange::Thumb thumb = scroll_.ThumbOf(Scale().ScaleY(kSmallestThumb));
+  const ScrollThumb thumb = scroll_.ThumbOf(Scale().ScaleY(kSmallestThumb));
   const int right = static_cast<int>(ClientArea(Page().Window()).right) - Scale().ScaleX(1);
   return {right - Scale().ScaleX(kThumbWidth), thumb.top, right, thumb.top + thumb.height};
 }

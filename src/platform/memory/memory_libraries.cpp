@@ -22,7 +22,7 @@ class MemoryLibraries::Library final : public ResourceLibrary {
       : texts_(std::move(texts)), loaded_(std::move(loaded)) {}
 
   // A library cannot tell an empty text from an absent one.
-  std::optional<std::wstring> FindText(std::uint32_t id) const override {
+  std::optional<std::wstring> FindText(int id) const override {
     const auto found = texts_->find(id);
     if (found == texts_->end() || found->second.empty()) return std::nullopt;
     return found->second;

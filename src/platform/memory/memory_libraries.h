@@ -10,7 +10,7 @@ namespace tidewell {
 
 class MemoryLibraries final : public ResourceLibraries {
  public:
-  using Texts = std::map<std::uint32_t, std::wstring>;
+  using Texts = std::map<int, std::wstring>;
 
   void Put(const std::wstring& path, Texts texts);
   std::unique_ptr<ResourceLibrary> Load(const std::wstring& path) override;

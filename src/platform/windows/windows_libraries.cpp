@@ -10,7 +10,7 @@ namespace tidewell {
 
 namespace {
 
-constexpr std::uint32_t kTextsInBlock = 16;
+constexpr int kTextsInBlock = 16;
 
 // A broken library is our caller's to deal with; without this the system shows a message box.
 class QuietErrors {
@@ -31,10 +31,10 @@ class WindowsLibrary final : public ResourceLibrary {
   WindowsLibrary(const WindowsLibrary&) = delete;
   WindowsLibrary& operator=(const WindowsLibrary&) = delete;
 
-  std::optional<std::wstring> FindText(std::uint32_t id) const override {
-    if (id > 0xFFFF) return std::nullopt;
+  std::optional<std::wstring> FindText(int id) const override {
+    if (id < 0 || id > 0xFFFF) return std::nullopt;
     std::wstring_view rest = BlockOf(id);
-    for (std::uint32_t before = id % kTextsInBlock;; --before) {
+    for (int before = id % kTextsInBlock;; --before) {
       if (rest.empty() || rest.size() - 1 < rest[0]) return std::nullopt;
       const std::wstring_view text = rest.substr(1, rest[0]);
       if (before == 0) return text.empty() ? std::nullopt : std::optional<std::wstring>(text);
@@ -46,7 +46,7 @@ class WindowsLibrary final : public ResourceLibrary {
  private:
   // A block's texts, each behind its length. LoadString goes by the lengths without looking where
   // the block ends; a damaged one would lead it out of the library.
-  std::wstring_view BlockOf(std::uint32_t id) const {
+  std::wstring_view BlockOf(int id) const {
     const auto number = static_cast<WORD>(id / kTextsInBlock + 1);
     const HRSRC found = FindResourceW(module_, MAKEINTRESOURCEW(number), RT_STRING);
     const HGLOBAL block = found ? LoadResource(module_, found) : nullptr;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/scroll_thumb.h"
 #include "ui/windows/look.h"
 #include "win32/gdi.h"
 
@@ -56,11 +57,12 @@ RECT KineticList::ThumbArea() const {
   if (content <= view.height) return {};
   const int margin = scale_.ScaleX(kThumbMargin);
   const int track = view.height - 2 * margin;
-  const int length = std::max(scale_.ScaleY(kShortestThumb), track * view.height / content);
   const int scrolled = std::clamp(-scroller_.Offset(), 0, content - view.height);
-  const int top = margin + (track - length) * scrolled / (content - view.height);
+  const ScrollThumb thumb =
+      PlaceThumb(track, view.height, content, scrolled, scale_.ScaleY(kShortestThumb));
+  const int top = margin + thumb.top;
   const int right = view.width - margin;
-  return {right - scale_.ScaleX(kThumbWidth), top, right, top + length};
+  return {right - scale_.ScaleX(kThumbWidth), top, right, top + thumb.height};
 }
 
 bool KineticList::PointerDown(POINT point) {

@@ -4,7 +4,7 @@
 
 namespace tidewell {
 
-Picture::Picture(HMODULE module, WORD id) {
+Picture::Picture(HMODULE module, int id) {
   if (!module) return;
   bitmap_ = LoadBitmapResource(module, id);
   BITMAP facts{};

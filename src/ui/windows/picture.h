@@ -12,7 +12,7 @@ class Picture {
   // No picture: draws nothing, has no size.
   Picture() = default;
   // No picture either when `module` is null or holds no such bitmap, or a damaged one.
-  Picture(HMODULE module, WORD id);
+  Picture(HMODULE module, int id);
 
   explicit operator bool() const { return static_cast<bool>(bitmap_); }
   HBITMAP Handle() const { return bitmap_.Get(); }

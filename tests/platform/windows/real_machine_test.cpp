@@ -87,7 +87,7 @@ TEST(WindowsLibraries, GiveTextsByIdAndNothingForOthers) {
   EXPECT_EQ(library->FindText(101), L"Gr\u00F6\u00DFe, \u03A9, \u0416");
   EXPECT_EQ(library->FindText(60000), L"Last");
   // Absent in a block that is there, empty, absent with its block, and beyond all ids.
-  for (const std::uint32_t id : {102u, 116u, 30000u, 70000u}) {
+  for (const int id : {-1, 102, 116, 30000, 70000}) {
     EXPECT_EQ(library->FindText(id), std::nullopt) << id;
   }
 }
