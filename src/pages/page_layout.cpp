@@ -92,6 +92,18 @@ Rect PlaceLabel(const PageMetrics& metrics, int id, const std::wstring& text, in
           controlHeight};
 }
 
+// A label and one control, `controlHeight` high at 96 dots per inch.
+RowPlace PlaceLabelledRow(const PageMetrics& metrics, int labelId, int controlId,
+                          const std::wstring& caption, int y, int controlHeight) {
+  RowPlace row;
+  row.top = y;
+  row.height = metrics.scale.ScaleY(kRowHeight);
+  const Rect place =
+      PlaceLabel(metrics, labelId, caption, metrics.scale.ScaleY(controlHeight), row);
+  row.controls.push_back({controlId, place});
+  return row;
+}
+
 // The buttons that clear a path and browse for one.
 void PlacePathButtons(const PageMetrics& metrics, int clearId, int browseId, int y, RowPlace& row) {
   const ScreenScale& scale = metrics.scale;
@@ -134,13 +146,7 @@ RowPlace PlaceCheckRow(const PageMetrics& metrics, int id, const std::wstring& c
 
 RowPlace PlaceComboRow(const PageMetrics& metrics, int labelId, int comboId,
                        const std::wstring& caption, int y) {
-  const ScreenScale& scale = metrics.scale;
-  RowPlace row;
-  row.top = y;
-  row.height = scale.ScaleY(kRowHeight);
-  const Rect place = PlaceLabel(metrics, labelId, caption, scale.ScaleY(kDropHeight), row);
-  row.controls.push_back({comboId, place});
-  return row;
+  return PlaceLabelledRow(metrics, labelId, comboId, caption, y, kDropHeight);
 }
 
 RowPlace PlacePathRow(const PageMetrics& metrics, int labelId, int editId, int clearId,
@@ -157,13 +163,7 @@ RowPlace PlacePathRow(const PageMetrics& metrics, int labelId, int editId, int c
 
 RowPlace PlaceTextRow(const PageMetrics& metrics, int labelId, int editId,
                       const std::wstring& caption, int y) {
-  const ScreenScale& scale = metrics.scale;
-  RowPlace row;
-  row.top = y;
-  row.height = scale.ScaleY(kRowHeight);
-  const Rect place = PlaceLabel(metrics, labelId, caption, scale.ScaleY(kControlHeight), row);
-  row.controls.push_back({editId, place});
-  return row;
+  return PlaceLabelledRow(metrics, labelId, editId, caption, y, kControlHeight);
 }
 
 RowPlace PlaceNotice(const PageMetrics& metrics, int labelId, const std::wstring& text, int y) {

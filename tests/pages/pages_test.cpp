@@ -212,6 +212,14 @@ TEST_P(EachPage, ShowsEveryOptionAndStoresItAloneHoweverItIsLeft) {
       row.browseId = row.kind == RowKind::kOrder ? list->editor.downId : list->editor.browseId;
       Turn(static_cast<int>(tab));
       SelectLine(list->listId, static_cast<int>(line));
+      const OptionEditor& editor = list->editor;
+      for (int id : {editor.checkId, editor.listId, editor.pathId, editor.textId, editor.orderId}) {
+        EXPECT_EQ(IsShown(id), id == row.controlId) << id << " for " << line;
+      }
+      if (const int tip = list->options[line].tipTextId) {
+        const int number = list->options[line].tipNumber;
+        EXPECT_EQ(TextOfControl(editor.tipId), WithNumber(language.Text(tip), number));
+      }
       ControlState expected = StateOf(row);
       EXPECT_EQ(StateOfControl(row), expected) << list->listId << " " << line;
       Change(row);

@@ -11,8 +11,8 @@
 namespace tidewell {
 namespace {
 
-enum : int { kOptions = 1300, kItems, kUp, kTip, kLabel, kList, kCheck, kPath, kClear, kBrowse };
-const OptionEditor kEditor{kTip, kLabel, kList, kCheck, kPath, kClear, kBrowse, 0, 0, 0, 0, 0};
+enum : int { kOptions = 1300, kItems, kUp, kLabel, kList };
+const OptionEditor kEditor{0, kLabel, kList};
 
 class SampleRules final : public PageRules {
  public:
@@ -22,14 +22,10 @@ class SampleRules final : public PageRules {
   PageTabs Tabs() override {
     MessagesSettings& s = context_.settings.messages;
     return {{IDS_PAGE_TAB_GENERAL,
-             OptionList{
-                 kOptions,
-                 kEditor,
-                 {{IDS_GROUP_TASKS, IDS_ON_TAP, Check(0, IDS_TAP_OPENS, s.MsgsOpenOnClick)},
-                  {IDS_GROUP_NOTES, 0,
-                   DataList(0, 0, IDS_DIVIDER, s.MsgsBreakLineStyle, Numbers(1, 3, 1))},
-                  {IDS_GROUP_FONTS, IDS_SKIN_FOLDER,
-                   Path(0, 0, 0, 0, 0, context_.settings.root.SkinPath, {L"Choose", L"*.exe"})}}}},
+             OptionList{kOptions,
+                        kEditor,
+                        {{IDS_GROUP_NOTES, 0,
+                          DataList(0, 0, IDS_DIVIDER, s.MsgsBreakLineStyle, Numbers(1, 3, 1))}}}},
             {IDS_PAGE_TAB_DISPLAY, ItemList{kItems,
                                             ListLook::kTicked,
                                             {10, 8, -100, 28},
@@ -65,47 +61,9 @@ class TabBodies : public PageHost {
   void Select(int list, int line) const {
     ListView_SetItemState(Control(list), line, LVIS_SELECTED, LVIS_SELECTED);
   }
-  std::vector<int> ShownParts() const {
-    std::vector<int> ids;
-    for (int id = kTip; id <= kBrowse; ++id) {
-      if (IsShown(id)) ids.push_back(id);
-    }
-    return ids;
-  }
 
   std::vector<PageEvent> heard_;
 };
-
-using Ids = std::vector<int>;
-
-TEST_F(TabBodies, AnOptionIsEditedWhileItIsSelectedAndStoredWhenItIsNoLonger) {
-  MessagesSettings& s = store.messages;
-  s.MsgsBreakLineStyle.Set(2);
-  EXPECT_EQ(ShownParts(), Ids());
-  Select(kOptions, 0);
-  EXPECT_EQ(ShownParts(), (Ids{kTip, kCheck}));
-  EXPECT_EQ(TextOfControl(kTip), L"On a tap");
-  TapControl(kCheck);
-  EXPECT_EQ(s.MsgsOpenOnClick.Value(), 0u);
-  Select(kOptions, 1);
-  EXPECT_EQ(s.MsgsOpenOnClick.Value(), 1u);
-  EXPECT_EQ(ShownParts(), (Ids{kLabel, kList}));
-  EXPECT_EQ(Selection(kList), 1);
-  Choose(kList, 2);
-  Select(kOptions, 2);
-  EXPECT_EQ(s.MsgsBreakLineStyle.Value(), 3u);
-  dialogs.answer = L"\\mail.exe";
-  TapControl(kBrowse);
-  EXPECT_THAT(dialogs.shown, testing::ElementsAre(L"Choose: , *.exe"));
-  Turn(1);
-  EXPECT_EQ(store.root.SkinPath.Value(), L"\\mail.exe");
-  EXPECT_EQ(ShownParts(), Ids());
-  Turn(0);
-  Select(kOptions, 0);
-  TapControl(kCheck);
-  Close();
-  EXPECT_EQ(s.MsgsOpenOnClick.Value(), 0u) << "the page closes while it is selected";
-}
 
 TEST_F(TabBodies, ItemsAreTickedMovedAndToldOfAndAMissingControlStoresNothing) {
   Turn(1);
@@ -119,7 +77,7 @@ TEST_F(TabBodies, ItemsAreTickedMovedAndToldOfAndAMissingControlStoresNothing) {
   EXPECT_EQ(heard_.back(), (PageEvent{kItems, PageEventKind::kTicked, 1}));
   store.messages.MsgsBreakLineStyle.Set(2);
   Turn(0);
-  Select(kOptions, 1);
+  Select(kOptions, 0);
   DestroyWindow(Control(kList));
   Close();
   EXPECT_EQ(store.messages.MsgsBreakLineStyle.Value(), 2u);
