@@ -12,13 +12,21 @@
 
 namespace tidewell::bench {
 
-enum class Request : std::uint8_t { kOpen, kCreate, kQuery, kEnumSubkey, kClose };
+enum class Request : std::uint8_t {
+  kOpen,
+  kCreate,
+  kQuery,
+  kCountValues,
+  kEnumValue,
+  kEnumSubkey,
+  kClose
+};
 
 struct RecordedRequest {
   Request request = Request::kClose;
   RegistryRoot root = RegistryRoot::kNone;
   std::wstring name;       // the path of a key or the name of a value
-  std::uint32_t room = 0;  // bytes of the query's buffer, or the index of the subkey
+  std::uint32_t room = 0;  // bytes of the query's buffer, or the index of the value or subkey
 };
 
 class RecordingRegistry final : public Registry {
@@ -57,8 +65,13 @@ class RecordingRegistry final : public Registry {
     RegistryStatus DeleteValue(const std::wstring& name) override {
       return inner_->DeleteValue(name);
     }
+    RegistryStatus CountValues(ValueCounts& counts) override {
+      requests_.push_back({Request::kCountValues, RegistryRoot::kNone, L"", 0});
+      return inner_->CountValues(counts);
+    }
     RegistryStatus EnumValue(std::uint32_t index, std::uint32_t nameCapacity,
                              std::uint32_t dataCapacity, EnumeratedValue& value) override {
+      requests_.push_back({Request::kEnumValue, RegistryRoot::kNone, L"", index});
       return inner_->EnumValue(index, nameCapacity, dataCapacity, value);
     }
     RegistryStatus EnumSubkey(std::uint32_t index, std::uint32_t nameCapacity,

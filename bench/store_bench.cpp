@@ -1,4 +1,4 @@
-// Loading the settings beside a bare loop that opens the same keys and queries the same names, and
+// Loading the settings beside a bare loop that makes the same calls to the registry, and
 // what saving asks of the registry. No language library takes part: loading one is the system's.
 #include <windows.h>
 
@@ -61,6 +61,19 @@ void AskBare(const std::vector<RecordedRequest>& requests) {
         DWORD size = request.room;
         RegQueryValueExW(key, request.name.c_str(), nullptr, nullptr, size ? buffer : nullptr,
                          &size);
+        break;
+      }
+      case Request::kCountValues: {
+        DWORD values = 0;
+        RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &values,
+                         nullptr, nullptr, nullptr, nullptr);
+        break;
+      }
+      case Request::kEnumValue: {
+        wchar_t name[256];
+        DWORD length = 256;
+        DWORD size = sizeof buffer;
+        RegEnumValueW(key, request.room, name, &length, nullptr, nullptr, buffer, &size);
         break;
       }
       case Request::kEnumSubkey: {

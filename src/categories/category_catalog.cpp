@@ -7,6 +7,7 @@
 #include "platform/replacement_file.h"
 #include "platform/text.h"
 #include "platform/whole_file.h"
+#include "settings/read_ahead.h"
 #include "settings/registry_values.h"
 
 namespace tidewell {
@@ -78,13 +79,14 @@ CategoryRecord* CategoryCatalog::Add(const PimCategory& category) {
 
 void CategoryCatalog::LoadCategoryValues() {
   const FlushedKey key = CreateSettingKey(machine_.registry, SettingKey::kCategories);
+  ReadAhead values(key.Get(), 2 * categories_.size());
   for (const auto& category : categories_) {
     category->colorRefused = category->filterFlagsRefused = false;
-    category->color = ReadDword(key.Get(), ValueName(kColorPrefix, *category), category->color,
+    category->color = ReadDword(&values, ValueName(kColorPrefix, *category), category->color,
                                 &category->colorRefused);
   }
   for (const auto& category : categories_) {
-    category->filterFlags = ReadDword(key.Get(), ValueName(kFilterPrefix, *category),
+    category->filterFlags = ReadDword(&values, ValueName(kFilterPrefix, *category),
                                       category->filterFlags, &category->filterFlagsRefused);
   }
 }

@@ -38,20 +38,33 @@ struct EnumeratedValue {
   std::vector<std::byte> data;  // as stored: strings may lack their terminating zero
 };
 
-// One open key; destruction closes it. Names are compared without regard to case.
-class RegistryKey {
+// How many values a key holds, and the room that its longest ones take.
+struct ValueCounts {
+  std::uint32_t values = 0;
+  std::uint32_t longestName = 0;  // characters, without the terminating zero
+  std::uint32_t longestData = 0;  // bytes
+};
+
+// What gives values by their names, which are compared without regard to case.
+class ValueSource {
  public:
-  virtual ~RegistryKey() = default;
+  virtual ~ValueSource() = default;
 
   // Reads a value into `buffer`. An empty buffer asks only for existence, type and size and
   // succeeds. A buffer that is too small gives kStatusMoreData, an absent value
   // kStatusFileNotFound; the buffer's contents are then of no meaning.
   virtual RegistryStatus Query(const std::wstring& name, std::span<std::byte> buffer,
                                ValueInfo& info) = 0;
+};
+
+// One open key; destruction closes it.
+class RegistryKey : public ValueSource {
+ public:
   virtual RegistryStatus Set(const std::wstring& name, std::uint32_t type,
                              std::span<const std::byte> data) = 0;
   virtual RegistryStatus DeleteValue(const std::wstring& name) = 0;
 
+  virtual RegistryStatus CountValues(ValueCounts& counts) = 0;
   // The value at `index`, in no promised order. Capacities are the system's: `nameCapacity` in
   // characters with the terminating zero, `dataCapacity` in bytes. kStatusMoreData when one of
   // them is too small, kStatusNoMoreItems past the end; `value` is then of no meaning.

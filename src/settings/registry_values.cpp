@@ -27,11 +27,12 @@ void NoteRefusal(RegistryStatus status, bool* refused) {
 
 }  // namespace
 
-std::optional<std::uint32_t> FindDword(RegistryKey* key, const std::wstring& name, bool* refused) {
+std::optional<std::uint32_t> FindDword(ValueSource* values, const std::wstring& name,
+                                       bool* refused) {
   static_assert(std::endian::native == std::endian::little, "registry numbers are little-endian");
   std::array<std::byte, 4> bytes{};
   ValueInfo info;
-  const RegistryStatus status = key ? key->Query(name, bytes, info) : kStatusAccessDenied;
+  const RegistryStatus status = values ? values->Query(name, bytes, info) : kStatusAccessDenied;
   const bool isTooLong = status == kStatusMoreData && info.size > bytes.size();
   if (!isTooLong) NoteRefusal(status, refused);
   // Fewer bytes would leave a number of which only a part was ever written.
@@ -39,10 +40,11 @@ std::optional<std::uint32_t> FindDword(RegistryKey* key, const std::wstring& nam
   return std::bit_cast<std::uint32_t>(bytes);
 }
 
-std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& name, bool* refused) {
+std::optional<std::wstring> FindString(ValueSource* values, const std::wstring& name,
+                                       bool* refused) {
   std::array<std::byte, kUsualTextBytes> usual;
   ValueInfo info;
-  const RegistryStatus status = key ? key->Query(name, usual, info) : kStatusAccessDenied;
+  const RegistryStatus status = values ? values->Query(name, usual, info) : kStatusAccessDenied;
   if (status == kStatusSuccess) return TextUpToZero(std::span(usual).first(info.size));
   if (status != kStatusMoreData) {
     NoteRefusal(status, refused);
@@ -50,7 +52,7 @@ std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& nam
   }
 
   std::vector<std::byte> bytes(info.size);
-  RegistryStatus again = key->Query(name, bytes, info);
+  RegistryStatus again = values->Query(name, bytes, info);
   // The value may have grown in between.
   if (again == kStatusSuccess && info.size > bytes.size()) again = kStatusMoreData;
   NoteRefusal(again, refused);
@@ -58,14 +60,14 @@ std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& nam
   return TextUpToZero(std::span(bytes).first(info.size));
 }
 
-std::uint32_t ReadDword(RegistryKey* key, const std::wstring& name, std::uint32_t defaultValue,
+std::uint32_t ReadDword(ValueSource* values, const std::wstring& name, std::uint32_t defaultValue,
                         bool* refused) {
-  return FindDword(key, name, refused).value_or(defaultValue);
+  return FindDword(values, name, refused).value_or(defaultValue);
 }
 
-bool ReadString(RegistryKey* key, const std::wstring& name, const std::wstring& defaultText,
+bool ReadString(ValueSource* values, const std::wstring& name, const std::wstring& defaultText,
                 std::wstring& text, bool* refused) {
-  std::optional<std::wstring> found = FindString(key, name, refused);
+  std::optional<std::wstring> found = FindString(values, name, refused);
   if (!found) {
     text = defaultText;
     return false;

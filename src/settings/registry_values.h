@@ -1,5 +1,5 @@
 // Single registry values, read with a default and written without a report: what settings, pages
-// and add-ons share. A null key reads as empty and writes nothing.
+// and add-ons share. Null reads as empty and writes nothing.
 #pragma once
 
 #include <cstdint>
@@ -14,17 +14,17 @@ namespace tidewell {
 // true when the registry would not say, as for a null key, and is left alone otherwise.
 
 // Nothing unless the value holds exactly four bytes; its stored type does not matter.
-std::optional<std::uint32_t> FindDword(RegistryKey* key, const std::wstring& name,
+std::optional<std::uint32_t> FindDword(ValueSource* values, const std::wstring& name,
                                        bool* refused = nullptr);
 // Nothing when the value is absent. Its bytes count as text whatever their stored type, up to the
 // first zero; a missing terminator or an odd last byte does no harm.
-std::optional<std::wstring> FindString(RegistryKey* key, const std::wstring& name,
+std::optional<std::wstring> FindString(ValueSource* values, const std::wstring& name,
                                        bool* refused = nullptr);
 
-std::uint32_t ReadDword(RegistryKey* key, const std::wstring& name, std::uint32_t defaultValue,
+std::uint32_t ReadDword(ValueSource* values, const std::wstring& name, std::uint32_t defaultValue,
                         bool* refused = nullptr);
 // True when the value was read; `text` holds it or the default.
-bool ReadString(RegistryKey* key, const std::wstring& name, const std::wstring& defaultText,
+bool ReadString(ValueSource* values, const std::wstring& name, const std::wstring& defaultText,
                 std::wstring& text, bool* refused = nullptr);
 
 void WriteDword(RegistryKey* key, const std::wstring& name, std::uint32_t value);

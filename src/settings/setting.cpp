@@ -53,10 +53,10 @@ Setting::Setting(SettingGroup& group, const wchar_t* name, Access access)
   group.settings_.push_back(this);
 }
 
-void Setting::Load(RegistryKey* key, const LoadContext& context) {
+void Setting::Load(ValueSource* values, const LoadContext& context) {
   changed_ = false;
   refused_ = false;
-  Read(key, context, refused_);
+  Read(values, context, refused_);
 }
 
 void Setting::Save(RegistryKey* key) {
@@ -79,9 +79,9 @@ std::uint32_t DwordSetting::Set(std::uint32_t value) {
   return std::exchange(value_, value);
 }
 
-void DwordSetting::Read(RegistryKey* key, const LoadContext& context, bool& refused) {
+void DwordSetting::Read(ValueSource* values, const LoadContext& context, bool& refused) {
   default_ = rule_.Resolve(context);
-  value_ = ReadDword(key, Name(), default_, &refused);
+  value_ = ReadDword(values, Name(), default_, &refused);
   if (range_.checked == ValueRange::Checked::kAtLoad) KeepInRange();
 }
 
@@ -102,22 +102,22 @@ void StringSetting::Set(std::wstring text) {
   value_ = std::move(text);
 }
 
-void StringSetting::Read(RegistryKey* key, const LoadContext& context, bool& refused) {
+void StringSetting::Read(ValueSource* values, const LoadContext& context, bool& refused) {
   default_ = rule_.Resolve(context);
-  ReadString(key, Name(), default_, value_, &refused);
+  ReadString(values, Name(), default_, value_, &refused);
 }
 
 void StringSetting::Write(RegistryKey& key) {
   WriteStringOrDelete(&key, Name(), value_, default_);
 }
 
-void FlagArraySetting::Read(RegistryKey* key, const LoadContext&, bool&) {
+void FlagArraySetting::Read(ValueSource* values, const LoadContext&, bool&) {
   const std::size_t count = (bits_ + 7) / 8;
   const auto fill = std::byte(fill_ == FlagFill::kAllSet ? 0xFF : 0x00);
   bytes_.assign(count, fill);
-  if (!key) return;
+  if (!values) return;
   ValueInfo info;
-  const RegistryStatus status = key->Query(Name(), bytes_, info);
+  const RegistryStatus status = values->Query(Name(), bytes_, info);
   const bool fits = status == kStatusSuccess && info.type == kTypeBinary && info.size == count;
   // A value that does not fit may have been copied in part.
   if (!fits) bytes_.assign(count, fill);
@@ -165,8 +165,8 @@ std::array<DwordSetting*, 6> FontSetting::Members() {
   return {&weight, &italic, &underline, &strikeOut, &height, &color};
 }
 
-void FontSetting::Read(RegistryKey* key, const LoadContext& context, bool&) {
-  for (DwordSetting* member : Members()) member->Load(key, context);
+void FontSetting::Read(ValueSource* values, const LoadContext& context, bool&) {
+  for (DwordSetting* member : Members()) member->Load(values, context);
   faceName_ = look_.face.Value().substr(0, kFaceNameLength);
   clearType_ = look_.clearType.Value() != 0;
 }
@@ -175,8 +175,8 @@ void FontSetting::Write(RegistryKey& key) {
   for (DwordSetting* member : Members()) member->Save(&key);
 }
 
-void SettingGroup::Load(RegistryKey* key, const LoadContext& context) {
-  for (Setting* setting : settings_) setting->Load(key, context);
+void SettingGroup::Load(ValueSource* values, const LoadContext& context) {
+  for (Setting* setting : settings_) setting->Load(values, context);
 }
 
 void SettingGroup::Save(RegistryKey* key) {

@@ -50,8 +50,8 @@ class Setting {
   // True when the last load was not told what is stored: the default merely stands for it.
   bool WasRefused() const { return refused_; }
 
-  // `key` is the setting's own key, opened by the caller; a null one loads the default.
-  void Load(RegistryKey* key, const LoadContext& context);
+  // `values` are those of the setting's own key; null loads the default.
+  void Load(ValueSource* values, const LoadContext& context);
   // Writes nothing unless the setting was changed; deletes the value when it is the default.
   void Save(RegistryKey* key);
 
@@ -67,8 +67,8 @@ class Setting {
   void MarkChanged() { changed_ = true; }
 
  private:
-  // A null key is a refusal.
-  virtual void Read(RegistryKey* key, const LoadContext& context, bool& refused) = 0;
+  // Null is a refusal.
+  virtual void Read(ValueSource* values, const LoadContext& context, bool& refused) = 0;
   virtual void Write(RegistryKey& key) = 0;
   virtual void PrepareSave() {}
 
@@ -100,7 +100,7 @@ class DwordSetting final : public Setting {
   void Accept(SettingVisitor& visitor) override { visitor.Visit(*this); }
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
+  void Read(ValueSource* values, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey& key) override;
   void PrepareSave() override;
   void KeepInRange();
@@ -126,7 +126,7 @@ class StringSetting final : public Setting {
   void Accept(SettingVisitor& visitor) override { visitor.Visit(*this); }
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
+  void Read(ValueSource* values, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey& key) override;
 
   StringDefault rule_;
@@ -150,7 +150,7 @@ class FlagArraySetting final : public Setting {
   void Accept(SettingVisitor& visitor) override { visitor.Visit(*this); }
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
+  void Read(ValueSource* values, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey&) override {}
 
   std::size_t bits_;
@@ -205,7 +205,7 @@ class FontSetting final : public Setting {
   DwordSetting color;
 
  private:
-  void Read(RegistryKey* key, const LoadContext& context, bool& refused) override;
+  void Read(ValueSource* values, const LoadContext& context, bool& refused) override;
   void Write(RegistryKey& key) override;
 
   const FontLook& look_;
@@ -222,7 +222,7 @@ class SettingGroup {
   SettingGroup& operator=(const SettingGroup&) = delete;
 
   SettingKey Key() const { return key_; }
-  void Load(RegistryKey* key, const LoadContext& context);
+  void Load(ValueSource* values, const LoadContext& context);
   void Save(RegistryKey* key);
   void Accept(SettingVisitor& visitor);
 

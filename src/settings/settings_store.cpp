@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/text.h"
+#include "settings/read_ahead.h"
 
 namespace tidewell {
 
@@ -19,9 +20,26 @@ bool ShowsTwelveHours(const std::wstring& timeStyle) {
   return !timeStyle.starts_with(L"1") && !timeStyle.starts_with(L"49");
 }
 
+class ValueCounter final : public SettingVisitor {
+ public:
+  void Visit(DwordSetting&) override { ++count; }
+  void Visit(StringSetting&) override { ++count; }
+  void Visit(FlagArraySetting&) override { ++count; }
+  using SettingVisitor::Visit;
+
+  std::size_t count = 0;
+};
+
+void LoadGroup(RegistryKey* key, SettingGroup& group, const LoadContext& context) {
+  ValueCounter counter;
+  group.Accept(counter);
+  ReadAhead values(key, counter.count);
+  group.Load(&values, context);
+}
+
 void LoadGroup(Registry& registry, SettingGroup& group, const LoadContext& context) {
   const FlushedKey key = CreateSettingKey(registry, group.Key());
-  group.Load(key.Get(), context);
+  LoadGroup(key.Get(), group, context);
 }
 
 void SaveGroup(Registry& registry, SettingGroup& group) {
@@ -132,7 +150,7 @@ void SettingsStore::LoadTabs(Registry& registry, const LoadContext& context,
                              const Language& language) {
   tabs.clear();
   const FlushedKey key = CreateSettingKey(registry, tabSettings.Key());
-  tabSettings.Load(key.Get(), context);
+  LoadGroup(key.Get(), tabSettings, context);
   for (const BuiltInTab& tab : tabSettings.builtInTabs) {
     TabEntry entry;
     entry.type = tab.type;

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "settings/read_ahead.h"
+#include "settings/registry_values.h"
 #include "tests/support/setting_lines.h"
 #include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
@@ -87,18 +89,40 @@ class RefusingRegistryTest : public testing::Test, protected TestDevice {
 
 TEST_F(RefusingRegistryTest, ARefusalCostsNoMoreThanWhatItWasFor) {
   const std::string tree = Tree();
-  const int calls = Run(store, [](Calls&) {});
-  EXPECT_EQ(recorded.CountWrites(), 0) << "nothing was changed";
-  ASSERT_GT(calls, 480);
-  for (int n = 1; n <= calls && !HasFailure(); ++n) {
-    SCOPED_TRACE(n);
-    SettingsStore once;
-    recorded.SetFailure(kStatusMoreData);  // the answer that invites a second question
-    Run(once, [n](Calls& made) { made.FailNth(n); });
-    SettingsStore everSince;
-    recorded.SetFailure(kStatusAccessDenied);
-    Run(everSince, [n](Calls& made) { made.FailFrom(n); });
-    EXPECT_EQ(Tree(), tree);
+  for (const bool isAskedValueByValue : {false, true}) {
+    const auto arrange = [&](Calls& made) {
+      if (isAskedValueByValue) made.FailEvery(RegistryCall::kCountValues);
+    };
+    const int calls = Run(store, arrange);
+    EXPECT_EQ(recorded.CountWrites(), 0) << "nothing was changed";
+    ASSERT_GT(calls, isAskedValueByValue ? 480 : 100);
+    for (int n = 1; n <= calls && !HasFailure(); ++n) {
+      SCOPED_TRACE(n);
+      SettingsStore once;
+      recorded.SetFailure(kStatusMoreData);  // the answer that invites a second question
+      Run(once, [&](Calls& made) { arrange(made), made.FailNth(n); });
+      SettingsStore everSince;
+      recorded.SetFailure(kStatusAccessDenied);
+      Run(everSince, [&](Calls& made) { arrange(made), made.FailFrom(n); });
+      EXPECT_EQ(Tree(), tree);
+    }
+  }
+}
+
+TEST(ReadAhead, AValueThatComesOrGoesMeanwhileHidesNoOther) {
+  for (const bool comes : {true, false}) {
+    MemoryRegistry sorted(MemoryRegistry::Order::kSorted);
+    RecordedRegistry read(sorted);
+    const auto key = read.Create(RegistryRoot::kCurrentUser, L"Read");
+    for (const wchar_t* name : {L"B", L"C", L"D"}) WriteDword(key.get(), name, 7);
+    const auto other = sorted.Open(RegistryRoot::kCurrentUser, L"Read");
+    read.Calls().Watch([&](RegistryCall call) {
+      if (call != RegistryCall::kEnumValue || read.Count(call) != 2) return;
+      comes ? WriteDword(other.get(), L"A", 7) : static_cast<void>(other->DeleteValue(L"B"));
+    });
+    ReadAhead values(key.get(), 10);
+    EXPECT_EQ(ReadDword(&values, L"C", 0), 7u) << comes;
+    EXPECT_EQ(ReadDword(&values, L"D", 0), 7u) << comes;
   }
 }
 

@@ -147,6 +147,19 @@ class MemoryRegistry::OpenKey final : public RegistryKey {
     return kStatusSuccess;
   }
 
+  RegistryStatus CountValues(ValueCounts& counts) override {
+    if (node_->isDeleted) return kStatusKeyDeleted;
+    counts = {static_cast<std::uint32_t>(node_->values.Size())};
+    for (std::size_t i = 0; i < node_->values.Size(); ++i) {
+      const Value& value = *node_->values.At(i);
+      counts.longestName =
+          std::max(counts.longestName, static_cast<std::uint32_t>(value.name.size()));
+      counts.longestData =
+          std::max(counts.longestData, static_cast<std::uint32_t>(value.data.size()));
+    }
+    return kStatusSuccess;
+  }
+
   RegistryStatus EnumValue(std::uint32_t index, std::uint32_t nameCapacity,
                            std::uint32_t dataCapacity, EnumeratedValue& value) override {
     if (node_->isDeleted) return kStatusKeyDeleted;

@@ -39,6 +39,10 @@ class RecordedRegistry::Key final : public RegistryKey {
     const bool fails = calls_->Note(RegistryCall::kDeleteValue);
     return Logged(RegistryCall::kDeleteValue, name, fails ? failure_ : inner_->DeleteValue(name));
   }
+  RegistryStatus CountValues(ValueCounts& counts) override {
+    if (calls_->Note(RegistryCall::kCountValues)) return failure_;
+    return inner_->CountValues(counts);
+  }
   RegistryStatus EnumValue(std::uint32_t index, std::uint32_t nameCapacity,
                            std::uint32_t dataCapacity, EnumeratedValue& value) override {
     if (calls_->Note(RegistryCall::kEnumValue)) return failure_;

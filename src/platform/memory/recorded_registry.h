@@ -15,6 +15,7 @@ enum class RegistryCall : std::uint8_t {
   kQuery,
   kSet,
   kDeleteValue,
+  kCountValues,
   kEnumValue,
   kEnumSubkey,
   kFlush,  // flush and close cannot fail

@@ -63,6 +63,18 @@ class WindowsRegistryKey final : public RegistryKey {
     return RegDeleteValueW(key_, name.c_str());
   }
 
+  RegistryStatus CountValues(ValueCounts& counts) override {
+    DWORD values = 0;
+    DWORD longestName = 0;
+    DWORD longestData = 0;
+    const LSTATUS status =
+        RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &values,
+                         &longestName, &longestData, nullptr, nullptr);
+    counts = {static_cast<std::uint32_t>(values), static_cast<std::uint32_t>(longestName),
+              static_cast<std::uint32_t>(longestData)};
+    return status;
+  }
+
   RegistryStatus EnumValue(std::uint32_t index, std::uint32_t nameCapacity,
                            std::uint32_t dataCapacity, EnumeratedValue& value) override {
     DWORD nameLength = nameCapacity;
