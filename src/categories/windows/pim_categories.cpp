@@ -36,13 +36,12 @@ bool Has(const CEPROPVAL& value, CEPROPID id) {
   return value.propid == id && (value.wFlags & CEDB_PROPNOTFOUND) == 0;
 }
 
-std::unique_ptr<CategoryIcon> LoadIconOf(const std::wstring& category, Files& files,
-                                         const std::wstring& iconsFolder) {
-  Bitmap bitmap = LoadBitmapFile(files, iconsFolder + L"\\" + category + L".bmp");
-  return bitmap ? std::make_unique<BitmapIcon>(std::move(bitmap)) : nullptr;
-}
-
 }  // namespace
+
+HBITMAP BitmapIcon::Handle() {
+  if (!bitmap_) bitmap_ = LoadBitmapFile(files_, path_);
+  return bitmap_->Get();
+}
 
 void ReadPimCategories(PimDatabase& database, const std::wstring& volumePath, Files& files,
                        const std::wstring& iconsFolder, CategoryCatalog& catalog) {
@@ -65,7 +64,8 @@ void ReadPimCategories(PimDatabase& database, const std::wstring& volumePath, Fi
       category.flag = Has(values[2], ids[2]) && values[2].val.lVal == 1;
     }
     if (CategoryRecord* record = catalog.Add(category)) {
-      record->bitmap = LoadIconOf(record->name, files, iconsFolder);
+      record->bitmap =
+          std::make_unique<BitmapIcon>(files, iconsFolder + L"\\" + record->name + L".bmp");
     }
     buffer.Release();
   }

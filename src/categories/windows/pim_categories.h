@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -12,14 +13,18 @@
 
 namespace tidewell {
 
-// The icon of every category that the shell made.
+// The icon of every category that the shell made. Its file is read when the icon is first asked
+// for: no start shows one, and reading all of them took as long as loading the settings.
 class BitmapIcon final : public CategoryIcon {
  public:
-  explicit BitmapIcon(Bitmap bitmap) : bitmap_(std::move(bitmap)) {}
-  HBITMAP Handle() const { return bitmap_.Get(); }
+  BitmapIcon(Files& files, std::wstring path) : files_(files), path_(std::move(path)) {}
+  // Null where the file is missing or damaged.
+  HBITMAP Handle();
 
  private:
-  Bitmap bitmap_;
+  Files& files_;
+  std::wstring path_;
+  std::optional<Bitmap> bitmap_;
 };
 
 // Adds what the volume holds, the device's own when none is named, with icons from `iconsFolder`.

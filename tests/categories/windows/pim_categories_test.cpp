@@ -50,8 +50,9 @@ class PimCategories : public testing::Test, protected TestDevice {
     catalog.Rebuild(source, L"All");
     std::string text;
     for (const auto& category : catalog.Categories()) {
+      auto& icon = static_cast<BitmapIcon&>(*category->bitmap);
       text += Utf8(category->name) + ' ' + std::to_string(category->pimId) +
-              (category->pimFlag ? " flag" : "") + (category->bitmap ? " icon" : "") + '\n';
+              (category->pimFlag ? " flag" : "") + (icon.Handle() ? " icon" : "") + '\n';
     }
     return text;
   }
