@@ -49,6 +49,7 @@ void TitleStrip::SetButton(TitleButton button) {
 }
 
 void TitleStrip::Place(const RECT& place, bool visible) {
+  if (!visible && !IsWindowVisible(window_)) return;
   SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top,
                SWP_NOACTIVATE | SWP_NOZORDER | (visible ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));

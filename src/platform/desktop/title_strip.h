@@ -18,7 +18,8 @@ class TitleStrip {
   HWND Window() const { return window_; }
   TitleButton Button() const { return button_; }
   void SetButton(TitleButton button);
-  // Moves the strip to `place`, in screen coordinates.
+  // Moves the strip to `place`, in screen coordinates. One that stays out of sight stays where it
+  // is.
   void Place(const RECT& place, bool visible);
   void Refresh();
   // What a tap on the button does: its command is posted to the owner. Nothing while the owner is
