@@ -55,7 +55,8 @@ void RegisterPlainClass(const wchar_t* name) {
   RegisterClassW(&plain);
 }
 
-// A window with the controls of another, as they are without texts, lines, rules or keys.
+// A window with the controls of another, list views with their column, as they are without texts,
+// lines, rules or keys.
 class BareWindow {
  public:
   struct Control {
@@ -113,6 +114,9 @@ class BareWindow {
           control.place.right - control.place.left, control.place.bottom - control.place.top,
           window_, nullptr, nullptr, nullptr);
       SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(face_), FALSE);
+      // Without a column a list view has no header and shows nothing.
+      LVCOLUMNW column{};
+      if (control.kind == WC_LISTVIEWW) ListView_InsertColumn(made, 0, &column);
     }
   }
 

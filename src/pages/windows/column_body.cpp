@@ -25,7 +25,7 @@ void ColumnBody::Build() {
 void ColumnBody::Show(int showCommand) {
   for (const RowPlace& row : places_) {
     for (const ControlPlace& control : row.controls) {
-      Page().ShowControlRange(Page().Window(), control.id, control.id, showCommand);
+      ShowWindow(Page().Control(control.id), showCommand);
     }
   }
   if (!scroll_.Needed()) return;

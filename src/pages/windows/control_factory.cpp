@@ -25,7 +25,6 @@ constexpr DWORD kEditStyle = WS_BORDER | ES_AUTOHSCROLL;
 constexpr DWORD kComboStyle = WS_VSCROLL | WS_TABSTOP;
 constexpr DWORD kListStyle = WS_BORDER | WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE |
                              LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER;
-constexpr int kListColumnWidth = 300;
 constexpr int kRowTextCapacity = 256;
 
 // What moves with a row of a list.
@@ -105,6 +104,7 @@ HWND SettingsPage::MakeControl(const wchar_t* windowClass, DWORD style, int id,
       CreateWindowExW(0, windowClass, text.c_str(), WS_CHILD | WS_CLIPSIBLINGS | style, place.left,
                       place.top, place.width, place.height, window_,
                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance_, nullptr);
+  controls_[id] = control;
   SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
   return control;
 }
@@ -148,12 +148,6 @@ HWND SettingsPage::AddCombo(int id, bool editable, const Rect& place) {
 HWND SettingsPage::AddListView(int id, const Rect& place) {
   const HWND list = MakeControl(WC_LISTVIEWW, kListStyle, id, {}, place);
   ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_NOHSCROLL);
-  std::wstring title = L"List Column";
-  LVCOLUMNW column{};
-  column.mask = LVCF_TEXT | LVCF_WIDTH;
-  column.pszText = title.data();
-  column.cx = Scale().ScaleX(kListColumnWidth);
-  ListView_InsertColumn(list, 0, &column);
   navigation_.Add(list, ControlKind::kRows);
   return list;
 }
@@ -226,6 +220,7 @@ void SettingsPage::AddStrip(const Row& row, const Rect& place) {
       window_, POINT{place.left, place.top}, row.controlId, row.controlId,
       IconMarkerModel(mode, row.icons, StateOf(row).data, context_.language), context_.icons,
       Scale()));
+  controls_[row.controlId] = strips_.back()->Window();
   navigation_.Add(strips_.back()->Window(), ControlKind::kStrip);
 }
 
@@ -255,6 +250,11 @@ void SettingsPage::DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const {
   SetBkMode(dc, TRANSPARENT);
   DrawTextW(dc, Text(IDS_COLOR_AUTOMATIC).c_str(), -1, &area,
             DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+HWND SettingsPage::Control(int id) const {
+  const auto found = controls_.find(id);
+  return found != controls_.end() && IsWindow(found->second) ? found->second : nullptr;
 }
 
 void SettingsPage::ShowControlRange(HWND window, int firstId, int lastId, int showCommand) const {

@@ -51,7 +51,17 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
 }
 
 void FitColumn(HWND list) {
-  ListView_SetColumnWidth(list, 0, ClientArea(list).right);
+  const int width = ClientArea(list).right;
+  if (Header_GetItemCount(ListView_GetHeader(list)) > 0) {
+    ListView_SetColumnWidth(list, 0, width);
+    return;
+  }
+  std::wstring title = L"List Column";
+  LVCOLUMNW column{};
+  column.mask = LVCF_TEXT | LVCF_WIDTH;
+  column.pszText = title.data();
+  column.cx = width;
+  ListView_InsertColumn(list, 0, &column);
 }
 
 }  // namespace tidewell

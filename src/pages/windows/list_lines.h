@@ -16,7 +16,8 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
                const std::function<int(const ListLine&)>& imageOf = {});
 
 // Makes the one column as wide as the list beside its scroll bar, if it has one: a desktop's list
-// view scrolls sideways otherwise. To be called after each change of the lines or of the place.
+// view scrolls sideways otherwise. To be called after each change of the lines or of the place; a
+// list gets its column from the first call, for each line added beside a column moves its header.
 void FitColumn(HWND list);
 
 }  // namespace tidewell

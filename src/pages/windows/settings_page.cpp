@@ -17,6 +17,7 @@ constexpr int kFocusRoom = 2;             // design width of the room around a f
 constexpr COLORREF kFocusInk = RGB(74, 132, 196);
 
 constexpr int kTabPadding = 4;  // design width beside a tab's title
+constexpr int kEndlessWidth = 0x4000;
 
 // The tab row is told so once, as soon as it is made.
 constexpr UINT kTabRowMessage = 0x2007;
@@ -171,7 +172,11 @@ void SettingsPage::MakeTabRow() {
   LoadCommonControls();
   const int count = GetTabCount();
   if (count < 1) return;
-  tabs_ = MakeControl(WC_TABCONTROLW, WS_VISIBLE | TCS_BOTTOM, 0, {}, TabRowPlace());
+  // Beyond every title until all are there: the system puts arrows into a row that is too short,
+  // for each title anew.
+  const Rect place = TabRowPlace();
+  tabs_ = MakeControl(WC_TABCONTROLW, WS_VISIBLE | TCS_BOTTOM, 0, {},
+                      {place.left, place.top, kEndlessWidth, place.height});
   SendMessageW(tabs_, kTabRowMessage, kTabRowVersion, 0);
   SendMessageW(tabs_, TCM_SETPADDING, 0,
                MAKELPARAM(Scale().ScaleX(kTabPadding), Scale().ScaleY(kTabPadding)));
@@ -182,6 +187,7 @@ void SettingsPage::MakeTabRow() {
     item.pszText = title.data();
     SendMessageW(tabs_, TCM_INSERTITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
   }
+  Move(tabs_, place);
 }
 
 Rect SettingsPage::TabRowPlace() const {

@@ -7,6 +7,7 @@
 #include <aygshell.h>
 #include <commctrl.h>
 
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
@@ -73,7 +74,8 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   void MoveListItem(HWND window, int listId, bool up);
   void Enable(std::span<const Enabling> rule) const;
 
-  HWND Control(int id) const { return GetDlgItem(window_, id); }
+  // Null where there is none, or none any more.
+  HWND Control(int id) const;
   void Place(int id, const Rect& place) const;
   // What a control holds, by its kind; that of nothing where there is none.
   ControlState State(int id) const;
@@ -145,6 +147,7 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   void AddPathControls(const std::wstring& path, std::span<const ControlPlace> places);
 
   HWND window_ = nullptr;
+  std::map<int, HWND> controls_;  // by their ids; the system would ask for all windows
   HWND menuBar_ = nullptr;
   std::wstring className_;
   SHACTIVATEINFO activation_{};

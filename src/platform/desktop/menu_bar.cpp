@@ -58,7 +58,6 @@ void MenuBar::LoadKeys() {
 
 void MenuBar::Place(const RECT& place, bool visible) {
   const bool show = visible && !hidden_;
-  if (!show && !IsWindowVisible(window_)) return;
   SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top,
                SWP_NOACTIVATE | SWP_NOZORDER | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
