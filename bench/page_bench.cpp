@@ -1,13 +1,17 @@
-// Opening each settings page, until its first tab is painted and all of its tabs are built, and
-// turning to each tab; beside making as many bare controls of the same kinds in a bare window.
+// Opening each settings page, until its first tab is painted and all of its tabs are built, turning
+// to each tab and selecting each option; beside making as many bare controls of the same kinds in a
+// bare window.
 #include <windows.h>
 
 #include <aygshell.h>
 #include <commctrl.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "bench/figures.h"
@@ -25,6 +29,8 @@ namespace {
 
 constexpr int kRounds = 30;
 constexpr double kAim = 1.3;
+constexpr double kFirstTabAim = 120;  // milliseconds
+constexpr double kSelectingAim = 16;
 constexpr wchar_t kBareClass[] = L"BareWindow";
 constexpr wchar_t kHostClass[] = L"PageBenchHost";
 
@@ -125,6 +131,43 @@ class BareWindow {
   HFONT face_;
 };
 
+// Tells when a page's first tab was painted: just before the first control of another tab is made.
+class FirstTabWatch {
+ public:
+  explicit FirstTabWatch(std::vector<int> ids) {
+    ids_ = std::move(ids);
+    painted_ = 0;
+    watch_.emplace();
+    hook_ = SetWindowsHookExW(WH_CBT, OnCreation, nullptr, GetCurrentThreadId());
+  }
+  FirstTabWatch(const FirstTabWatch&) = delete;
+  FirstTabWatch& operator=(const FirstTabWatch&) = delete;
+  ~FirstTabWatch() { UnhookWindowsHookEx(hook_); }
+
+  // In milliseconds; 0 for a page of one tab.
+  static double Painted() { return painted_; }
+
+ private:
+  static constexpr int kFirstControl = 1200;
+
+  static LRESULT CALLBACK OnCreation(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_CREATEWND && painted_ == 0) {
+      const CREATESTRUCTW& created = *reinterpret_cast<CBT_CREATEWNDW*>(lParam)->lpcs;
+      const auto id = static_cast<int>(reinterpret_cast<INT_PTR>(created.hMenu));
+      const bool isChild = (created.style & WS_CHILD) != 0;
+      if (isChild && id >= kFirstControl && std::ranges::count(ids_, id) == 0) {
+        painted_ = watch_->Milliseconds();
+      }
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+  }
+
+  static inline std::vector<int> ids_;
+  static inline std::optional<Stopwatch> watch_;
+  static inline double painted_ = 0;
+  HHOOK hook_ = nullptr;
+};
+
 class PageBench {
  public:
   PageBench() {
@@ -167,9 +210,60 @@ class PageBench {
       DestroyWindow(opened->Window());
     }
     PrintRatio(("open " + name).c_str(), opening, kAim, "ms");
+    MeasureFirstTab(page);
     for (std::size_t tab = 0; tab < turning.size(); ++tab) {
       PrintRatio(("  turn to tab " + std::to_string(tab + 1)).c_str(), turning[tab], kAim, "ms");
     }
+  }
+
+  void MeasureFirstTab(int page) {
+    const PageTabs tabs = kPages[static_cast<std::size_t>(page)].make(*context_)->Tabs();
+    Samples painting;
+    Samples selecting;
+    for (int round = 0; round < kRounds; ++round) {
+      HandleAll();
+      std::unique_ptr<PageWindow> opened;
+      {
+        const FirstTabWatch watch(tabs.front().ControlIds());
+        opened = CreatePage(page, host_, *context_);
+        painting.Add(FirstTabWatch::Painted());
+      }
+      HandleAll();
+      SelectAll(opened->Window(), tabs, selecting);
+      SetActiveWindow(host_);
+      DestroyWindow(opened->Window());
+    }
+    PrintTimes("  first tab painted", painting, kFirstTabAim);
+    if (selecting.Quantile(1) > 0) PrintTimes("  select an option", selecting, kSelectingAim);
+  }
+
+  static void PrintTimes(const char* name, const Samples& times, double aim) {
+    PrintFigure(name, times.Median(), Spread(times.Quantile(0.25), times.Quantile(0.75)), aim,
+                " ms", "");
+  }
+
+  // Each option of each list of options, one after another.
+  static void SelectAll(HWND page, const PageTabs& tabs, Samples& selecting) {
+    for (std::size_t tab = 0; tab < tabs.size(); ++tab) {
+      const auto* options = std::get_if<OptionList>(&tabs[tab].body);
+      if (!options) continue;
+      TurnTo(page, tab);
+      const HWND list = GetDlgItem(page, options->listId);
+      for (int line = 0; line < std::ssize(options->options); ++line) {
+        const Stopwatch watch;
+        ListView_SetItemState(list, line, LVIS_SELECTED, LVIS_SELECTED);
+        PaintAll();
+        selecting.Add(watch.Milliseconds());
+      }
+    }
+  }
+
+  static void TurnTo(HWND page, std::size_t tab) {
+    const HWND tabs = FindWindowExW(page, nullptr, WC_TABCONTROLW, nullptr);
+    Tell(page, tabs, TCN_SELCHANGING);
+    SendMessageW(tabs, TCM_SETCURSEL, tab, 0);
+    Tell(page, tabs, TCN_SELCHANGE);
+    PaintAll();
   }
 
   double TimeBareWindow(const std::vector<BareWindow::Control>& controls) const {
@@ -189,10 +283,7 @@ class PageBench {
     for (std::size_t step = 1; step <= count; ++step) {
       const std::size_t tab = step % count;
       const Stopwatch watch;
-      Tell(page, tabs, TCN_SELCHANGING);
-      SendMessageW(tabs, TCM_SETCURSEL, tab, 0);
-      Tell(page, tabs, TCN_SELCHANGE);
-      PaintAll();
+      TurnTo(page, tab);
       const double turn = watch.Milliseconds();
 
       const auto controls = BareWindow::ControlsOf(page, true);
