@@ -79,6 +79,58 @@ TEST_F(DeviceTest, KeysOpenAPageAndWorkItAndWhatTheyChangedIsStored) {
   EXPECT_EQ(CaptionOf(open(program)), L"Allgemein");
 }
 
+// On each tab of a page one change, and no other value than those comes into the registry.
+TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
+  // From the row of tabs: a step of the D-pad each, t for Tab, s for Space.
+  const struct {
+    int page, tab;
+    std::string_view keys;
+  } changes[] = {{1, 0, "ddr"},  {1, 1, "dr"},       {1, 2, "dts"},  {1, 3, "ddddtds"},
+                 {1, 4, "ddds"}, {1, 5, "dddddtds"}, {1, 6, "dtds"}, {1, 7, "dr"},
+                 {1, 8, "dtds"}, {2, 0, "ds"},       {2, 1, "dr"},   {2, 2, "dr"},
+                 {2, 3, "ddds"}};
+  ASSERT_TRUE(ImportRegistry(R"(
+[HKEY_CURRENT_USER\SOFTWARE\Velmont Weather]
+"UtilityLibrary"="C:\\Program Files\\Velmont\\Tidewell\\LowDpiRes.dll"
+)"));
+  const auto press = [](DrivenProgram& program, std::string_view keys) {
+    for (const char key : keys) {
+      program.Press(key == 'd' ? VK_DOWN : key == 'r' ? VK_RIGHT : key == 't' ? VK_TAB : VK_SPACE);
+    }
+  };
+  DrivenProgram program;
+  ASSERT_TRUE(program.WaitForMainWindow());
+  int page = 0;
+  for (const auto& change : changes) {
+    program.Press(VK_DOWN, change.page - std::exchange(page, change.page));
+    program.Press(VK_RETURN);
+    ASSERT_TRUE(program.WaitForPopup());
+    program.Press(VK_UP);  // to its tabs
+    program.Press(VK_RIGHT, change.tab);
+    press(program, change.keys);
+    program.PressOk();
+    ASSERT_TRUE(program.WaitForPopupToGo());
+  }
+  program.Press(VK_F1);  // Done
+  EXPECT_TRUE(program.Ended());
+  EXPECT_EQ(QueryProductTree(), R"([\Calendar]
+    ClrApptRightIcons = REG_DWORD 0x1de
+    dAppoPassedToday = REG_DWORD 0x1
+    FirstWeekInYear = REG_DWORD 0x1
+    Force2DigitsTImeFrmt = REG_DWORD 0x1
+    IncldTasksInCR = REG_DWORD 0x0
+    IncludeMainOnCal = REG_DWORD 0x1
+    MonthlyPopWithWeekNum = REG_DWORD 0x1
+    ShowTomorrowTtl = REG_DWORD 0x0
+    WeatehrLayout = REG_DWORD 0x2
+[\Tasks]
+    HideCompletedTasks = REG_DWORD 0x1
+    TasksRightIcons = REG_DWORD 0x17e
+    TsksDateFrmt = REG_DWORD 0x4
+    TsksLineBreaker = REG_DWORD 0x2
+)");
+}
+
 TEST_F(DeviceTest, ASecondStartBringsTheFirstForwardAndEndsWithZero) {
   ShowWindow(listener_.Get(), SW_SHOW);
   for (const wchar_t* firstCommandLine : {L"", L"About"}) {

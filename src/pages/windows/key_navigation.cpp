@@ -39,6 +39,13 @@ void FocusARow(HWND rows) {
   ListView_SetItemState(rows, 0, LVIS_FOCUSED, LVIS_FOCUSED);
 }
 
+// Keys that come to a list of rows select one, as keys that move on in it do.
+void SelectARow(HWND rows) {
+  if (ListView_GetNextItem(rows, -1, LVNI_SELECTED) >= 0) return;
+  const int focused = ListView_GetNextItem(rows, -1, LVNI_FOCUSED);
+  ListView_SetItemState(rows, focused, LVIS_SELECTED, LVIS_SELECTED);
+}
+
 // Whether the list of rows cannot go further that way, so that the key leaves it.
 bool IsAtEnd(HWND rows, int direction) {
   const int count = ListView_GetItemCount(rows);
@@ -206,9 +213,11 @@ void KeyNavigation::Walk(HWND from, int direction) {
   int start = 0;
   while (start < count && at(start).control != from) ++start;
   for (int step = 1; step <= count; ++step) {
-    const HWND next = at((start + direction * step + count * 2) % count).control;
+    const Entry& entry = at((start + direction * step + count * 2) % count);
+    const HWND next = entry.control;
     if (next == from || !CanFocus(next)) continue;
     SetFocus(next);
+    if (entry.kind == ControlKind::kRows) SelectARow(next);
     // As in a dialog: what is there can be typed over at once.
     if (SendMessageW(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) {
       SendMessageW(next, EM_SETSEL, 0, -1);
