@@ -122,10 +122,10 @@ bool OptionListBody::OnCommand(int id, int notification) {
 void OptionListBody::OnSelection(int listId, int line, bool selected) {
   if (listId != list_.listId) return;
   const Option& option = list_.options[static_cast<std::size_t>(line)];
-  HideEditor();
   if (selected) {
     ShowEditor(option);
   } else {
+    HideEditor(option);
     StoreOption(option);
   }
   selected_ = selected ? &option : nullptr;
@@ -156,9 +156,9 @@ void OptionListBody::ShowChoices(const Row& row) const {
   Page().SetChoices(e.listId, row.choices);
 }
 
-void OptionListBody::HideEditor() const {
-  for (const ControlPlace& part : PlaceOptionEditor(Page().Metrics(), list_.editor)) {
-    ShowWindow(Page().Control(part.id), SW_HIDE);
+void OptionListBody::HideEditor(const Option& option) const {
+  for (const int part : ControlsOf(option, list_.editor)) {
+    ShowWindow(Page().Control(part), SW_HIDE);
   }
 }
 

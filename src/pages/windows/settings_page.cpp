@@ -14,7 +14,6 @@ namespace {
 constexpr DWORD kPageStyle = 0x90000800;  // a visible pop-up; the lowest bit is the shell's
 constexpr int kTextHeight = 12;           // design height of the letters
 constexpr int kFocusRoom = 2;             // design width of the room around a focused control
-constexpr COLORREF kFocusInk = RGB(74, 132, 196);
 
 constexpr int kTabPadding = 4;  // design width beside a tab's title
 constexpr int kEndlessWidth = 0x4000;
@@ -239,7 +238,7 @@ void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
   FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
   if (!focused_ || navigation_.MarksItself(focused_)) return;
   RECT frame = FocusFrame(focused_);
-  const Brush ink(CreateSolidBrush(kFocusInk));
+  const Brush ink(CreateSolidBrush(kFocusEdge));
   FillRect(dc, &frame, ink.Get());
   const int width = Scale().ScaleX(1);
   InflateRect(&frame, -width, -width);

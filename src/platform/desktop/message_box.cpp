@@ -164,8 +164,8 @@ INT_PTR Box::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return TRUE;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
-      SetBkColor(reinterpret_cast<HDC>(wParam), kBoxPaper);
-      SetTextColor(reinterpret_cast<HDC>(wParam), kBoxInk);
+      SetBkColor(reinterpret_cast<HDC>(wParam), kPaper);
+      SetTextColor(reinterpret_cast<HDC>(wParam), kInk);
       return reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH));
     default:
       return FALSE;
@@ -200,7 +200,7 @@ void Box::OnErase(HDC dc) const {
   const RECT client = ClientArea(window_);
   FillPlain(dc, client, kStripEdge);
   const int border = Scaled(1);
-  FillPlain(dc, {border, 0, client.right - border, client.bottom - border}, kBoxPaper);
+  FillPlain(dc, {border, 0, client.right - border, client.bottom - border}, kPaper);
   if (!icon_) return;
   DrawIconEx(dc, Scaled(kMargin), Scaled(kMargin), icon_, Scaled(kIconSize), Scaled(kIconSize), 0,
              nullptr, DI_NORMAL);
@@ -227,14 +227,14 @@ void Box::MakeKeys() {
 void Box::DrawKey(const DRAWITEMSTRUCT& item) const {
   const bool hasFocus = (item.itemState & ODS_FOCUS) != 0;
   RECT area = item.rcItem;
-  FillPlain(item.hDC, area, hasFocus ? kFocusEdge : kFlatEdge);
+  FillPlain(item.hDC, area, hasFocus ? kFocusEdge : kEdge);
   const int edge = Scaled(hasFocus ? 2 : 1);
   InflateRect(&area, -edge, -edge);
-  FillPlain(item.hDC, area, item.itemState & ODS_SELECTED ? kFlatPaper : kBoxPaper);
+  FillPlain(item.hDC, area, item.itemState & ODS_SELECTED ? kFlatPaper : kPaper);
   wchar_t word[64] = {};  // behind the mark of its letter
   GetWindowTextW(item.hwndItem, word, ARRAYSIZE(word));
   SetBkMode(item.hDC, TRANSPARENT);
-  SetTextColor(item.hDC, kBoxInk);
+  SetTextColor(item.hDC, kInk);
   DrawTextW(item.hDC, word + 1, -1, &area, DT_SINGLELINE | DT_VCENTER | DT_CENTER | DT_NOPREFIX);
 }
 

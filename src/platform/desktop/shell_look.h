@@ -5,6 +5,7 @@
 
 #include "platform/scale.h"
 #include "win32/gdi.h"
+#include "win32/palette.h"
 
 namespace tidewell {
 
@@ -15,12 +16,8 @@ inline constexpr COLORREF kStripText = RGB(255, 255, 255);
 inline constexpr COLORREF kStripTextDisabled = RGB(148, 160, 176);
 inline constexpr COLORREF kStripEdge = RGB(24, 34, 50);
 
-// Tabs, and what lies on white paper: boxes and their keys.
+// Tabs, and the keys of boxes that lie on white paper.
 inline constexpr COLORREF kFlatPaper = RGB(236, 239, 243);
-inline constexpr COLORREF kFlatEdge = RGB(186, 195, 206);
-inline constexpr COLORREF kFocusEdge = RGB(74, 132, 196);
-inline constexpr COLORREF kBoxPaper = RGB(255, 255, 255);
-inline constexpr COLORREF kBoxInk = RGB(32, 38, 46);
 
 // The scale of the screen itself, whatever a program does with its own lengths.
 const ScreenScale& ShellScale();

@@ -221,7 +221,7 @@ void TabRow::OnPaint() {
   const HDC dc = paint.Dc();
   const RECT& client = paint.Client();
   FillPlain(dc, client, kFlatPaper);
-  FillPlain(dc, {0, 0, client.right, Scaled(1)}, kFlatEdge);
+  FillPlain(dc, {0, 0, client.right, Scaled(1)}, kEdge);
   const Selected font(dc, FontOf(Window()));
   SetBkMode(dc, TRANSPARENT);
   SaveDC(dc);
@@ -238,14 +238,14 @@ void TabRow::DrawTab(HDC dc, int index) const {
   const int line = Scaled(1);
   const bool isSelected = index == SelectedTab();
   const bool hasFocus = isSelected && GetFocus() == Window();
-  if (isSelected) FillPlain(dc, area, kBoxPaper);
+  if (isSelected) FillPlain(dc, area, kPaper);
   if (hasFocus) {
     FillPlain(dc, {area.left, area.bottom - Scaled(kFocusBarHeight), area.right, area.bottom},
               kFocusEdge);
   }
-  FillPlain(dc, {area.left - line, area.top, area.left, area.bottom}, kFlatEdge);
-  FillPlain(dc, {area.right - line, area.top, area.right, area.bottom}, kFlatEdge);
-  SetTextColor(dc, hasFocus ? kFocusInk : kBoxInk);
+  FillPlain(dc, {area.left - line, area.top, area.left, area.bottom}, kEdge);
+  FillPlain(dc, {area.right - line, area.top, area.right, area.bottom}, kEdge);
+  SetTextColor(dc, hasFocus ? kFocusInk : kInk);
   area.right -= line;
   DrawTextW(dc, TitleOf(index).c_str(), -1, &area,
             DT_SINGLELINE | DT_VCENTER | DT_CENTER | DT_NOPREFIX);
@@ -254,14 +254,14 @@ void TabRow::DrawTab(HDC dc, int index) const {
 void TabRow::DrawArrow(HDC dc, bool right) const {
   const RECT area = ArrowArea(right);
   const int line = Scaled(1);
-  FillPlain(dc, {area.left, area.top, area.left + line, area.bottom}, kFlatEdge);
+  FillPlain(dc, {area.left, area.top, area.left + line, area.bottom}, kEdge);
   const int size = Scaled(kArrowSize);
   const LONG middle = (area.top + area.bottom) / 2;
   const LONG back = (area.left + line + area.right) / 2 + (right ? -size / 2 : size / 2);
   const POINT corners[] = {
       {back, middle - size}, {back, middle + size}, {back + (right ? size : -size), middle}};
   const bool leads = right ? first_ < LastFirst() : first_ > 0;
-  const COLORREF ink = leads ? kBoxInk : kFlatEdge;
+  const COLORREF ink = leads ? kInk : kEdge;
   const Brush brush(CreateSolidBrush(ink));
   const Pen pen(CreatePen(PS_SOLID, 1, ink));
   const Selected withBrush(dc, brush.Get());

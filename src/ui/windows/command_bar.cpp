@@ -39,7 +39,7 @@ std::optional<int> CommandBar::Command(std::size_t slot) const {
 
 void CommandBar::Paint(HDC dc, const RECT& bar, const ScreenScale& scale) const {
   FillVertically(dc, bar, kBarTop, kBarBottom);
-  FillPlain(dc, {bar.left, bar.top, bar.right, bar.top + 1}, kBarEdge);
+  FillPlain(dc, {bar.left, bar.top, bar.right, bar.top + 1}, kEdge);
   for (std::size_t slot = 0; slot < kSlots; ++slot) {
     if (!buttons_[slot]) continue;
     RECT area = SlotArea(bar, slot);
