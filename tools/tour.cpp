@@ -42,6 +42,11 @@ void Popup(DrivenProgram& program) {
   program.WaitForPopup();
 }
 
+void ClosePage(DrivenProgram& program) {
+  program.PressOk();
+  program.WaitForPopupToGo();
+}
+
 // Confirms that name in the file name dialog, and waits for the message that follows.
 Step Confirm(const wchar_t* name) {
   return [=](DrivenProgram& program) {
@@ -86,6 +91,10 @@ const View kViews[] = {
     {"import-question",
      {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Confirm(kOtherKeys)}},
     {"about", {Press(VK_DOWN, kAboutRow), Press(VK_RETURN), Popup}},
+    // The other icon set, chosen on one page and shown at once by the next.
+    {"calendar-5-other-set",
+     {Press(VK_RETURN), Popup, Press(VK_UP), Press(VK_RIGHT), Press(VK_DOWN, 5), Press(VK_RIGHT),
+      ClosePage, Press(VK_DOWN), Press(VK_RETURN), Popup, Press(VK_UP), Press(VK_RIGHT, 4)}},
 };
 
 // "PIMSettingsWin" is shown as "pim".
