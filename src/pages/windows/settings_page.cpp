@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/windows/focus_frame.h"
 #include "ui/windows/look.h"
 #include "win32/common_controls.h"
 #include "win32/tahoma.h"
@@ -13,7 +14,6 @@ namespace {
 
 constexpr DWORD kPageStyle = 0x90000800;  // a visible pop-up; the lowest bit is the shell's
 constexpr int kTextHeight = 12;           // design height of the letters
-constexpr int kFocusRoom = 2;             // design width of the room around a focused control
 
 constexpr int kTabPadding = 4;  // design width beside a tab's title
 constexpr int kEndlessWidth = 0x4000;
@@ -220,38 +220,18 @@ void SettingsPage::OnFocusMoved(HWND control) {
 // The frame lies in the room between a control and its neighbours.
 void SettingsPage::InvalidateFocus(HWND control) const {
   if (!control || navigation_.MarksItself(control)) return;
-  const RECT frame = FocusFrame(control);
+  const RECT frame = FocusFrame(control, Scale());
   InvalidateRect(window_, &frame, TRUE);
-}
-
-RECT SettingsPage::FocusFrame(HWND control) const {
-  RECT frame;
-  GetWindowRect(control, &frame);
-  MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&frame), 2);
-  const int room = Scale().ScaleX(kFocusRoom);
-  InflateRect(&frame, room, room);
-  return frame;
 }
 
 void SettingsPage::OnEraseBackground(HWND window, HDC dc) {
   const RECT client = ClientArea(window);
   FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
   if (!focused_ || navigation_.MarksItself(focused_)) return;
-  RECT frame = FocusFrame(focused_);
-  const Brush ink(CreateSolidBrush(kFocusEdge));
-  FillRect(dc, &frame, ink.Get());
-  const int width = Scale().ScaleX(1);
-  InflateRect(&frame, -width, -width);
-  FillRect(dc, &frame, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  DrawFocusFrame(dc, focused_, Scale(), kFocusEdge);
 }
 
 void SettingsPage::OnPainted(HWND) {}
-
-bool SettingsPage::OnPageKey(int) {
-  return false;
-}
-
-void SettingsPage::OnWheel(int) {}
 
 void SettingsPage::OnPaint(HWND window) {
   PAINTSTRUCT paint;

@@ -16,9 +16,9 @@
 
 #include "pages/page_layout.h"
 #include "pages/page_rules.h"
-#include "pages/windows/key_navigation.h"
 #include "pages/windows/page_window.h"
 #include "ui/windows/icon_marker.h"
+#include "ui/windows/key_navigation.h"
 #include "win32/gdi.h"
 
 namespace tidewell {
@@ -122,8 +122,6 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   virtual void OnEraseBackground(HWND window, HDC dc);
 
   void OnFocusMoved(HWND control) override;
-  bool OnPageKey(int direction) override;
-  void OnWheel(int distance) override;
 
   HWND Tabs() const { return tabs_; }
   int SelectedTab() const;
@@ -139,7 +137,6 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   void MakeTabRow();
   Rect TabRowPlace() const;
   void InvalidateFocus(HWND control) const;
-  RECT FocusFrame(HWND control) const;
   HWND MakeControl(const wchar_t* windowClass, DWORD style, int id, const std::wstring& text,
                    const Rect& place);
   void AddStrip(const Row& row, const Rect& place);

@@ -1,5 +1,5 @@
-// The focusable controls of a page: keys walk through them and work them. A device has four
-// directions and an action key (Enter); a keyboard adds Tab, Space and the rest.
+// The focusable controls of a page or a dialog: keys walk through them and work them. A device has
+// four directions and an action key (Enter); a keyboard adds Tab, Space and the rest.
 #pragma once
 
 #include <windows.h>
@@ -18,20 +18,25 @@ enum class ControlKind : std::uint8_t {
   kList,
   kNumber,
   kEdit,
+  kSlider,
   kRows,
   kTabs,
   kStrip
 };
 
-// What the keys tell the page whose controls they walk through.
+// What the keys tell the page or dialog whose controls they walk through.
 class NavigationOwner {
  public:
   virtual ~NavigationOwner() = default;
-  // Null when the focus has left the page's navigation.
+  // Null when the focus has left the navigation.
   virtual void OnFocusMoved(HWND control) = 0;
   // Up (-1) or down (1) by what is in view; true when there is more to see at all.
-  virtual bool OnPageKey(int direction) = 0;
-  virtual void OnWheel(int distance) = 0;
+  virtual bool OnPageKey(int /*direction*/) { return false; }
+  virtual void OnWheel(int /*distance*/) {}
+  // Up (-1) or down (1) from a control; true when the owner has moved the focus by itself.
+  virtual bool OnVerticalKey(HWND /*control*/, int /*direction*/) { return false; }
+  // True when the owner has dealt with it.
+  virtual bool OnEscape() { return false; }
 };
 
 class KeyNavigation {
@@ -58,7 +63,7 @@ class KeyNavigation {
 
   void Hook(HWND window, HWND control, ControlKind kind);
   // The answer to a message that the control is not to have.
-  std::optional<LRESULT> OnMessage(const Entry& entry, UINT message, WPARAM wParam);
+  std::optional<LRESULT> OnMessage(const Entry& entry, UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(const Entry& entry, WPARAM key);
   bool OnArrow(const Entry& entry, int direction, bool vertical);
   bool OnAction(const Entry& entry, bool isSpace);

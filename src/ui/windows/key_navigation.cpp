@@ -1,4 +1,4 @@
-#include "pages/windows/key_navigation.h"
+#include "ui/windows/key_navigation.h"
 
 #include <commctrl.h>
 
@@ -66,13 +66,18 @@ void KeyNavigation::Hook(HWND window, HWND control, ControlKind kind) {
   Entry& entry = entries_.emplace_back();
   entry.control = control;
   entry.kind = kind;
-  entry.hook.Attach(window, [this, &entry](UINT message, WPARAM wParam, LPARAM) {
-    return OnMessage(entry, message, wParam);
+  entry.hook.Attach(window, [this, &entry](UINT message, WPARAM wParam, LPARAM lParam) {
+    return OnMessage(entry, message, wParam, lParam);
   });
 }
 
-std::optional<LRESULT> KeyNavigation::OnMessage(const Entry& entry, UINT message, WPARAM wParam) {
+std::optional<LRESULT> KeyNavigation::OnMessage(const Entry& entry, UINT message, WPARAM wParam,
+                                                LPARAM lParam) {
   switch (message) {
+    case WM_GETDLGCODE:
+      // A dialog's loop asks before it takes a key for itself.
+      if (lParam) return DLGC_WANTMESSAGE;
+      break;
     case WM_KEYDOWN:
       if (OnKey(entry, wParam)) return 0;
       break;
@@ -111,6 +116,8 @@ bool KeyNavigation::OnKey(const Entry& entry, WPARAM key) {
       return OnAction(entry, false);
     case VK_SPACE:
       return OnAction(entry, true);
+    case VK_ESCAPE:
+      return !IsDropped(entry.control) && owner_.OnEscape();
     case VK_PRIOR:
     case VK_NEXT:
       if (entry.kind == ControlKind::kRows || IsDropped(entry.control)) return false;
@@ -121,6 +128,7 @@ bool KeyNavigation::OnKey(const Entry& entry, WPARAM key) {
 }
 
 bool KeyNavigation::OnArrow(const Entry& entry, int direction, bool vertical) {
+  if (vertical && owner_.OnVerticalKey(entry.control, direction)) return true;
   switch (entry.kind) {
     case ControlKind::kList:
     case ControlKind::kNumber:
@@ -133,6 +141,7 @@ bool KeyNavigation::OnArrow(const Entry& entry, int direction, bool vertical) {
       if (!vertical || !IsAtEnd(entry.control, direction)) return false;
       break;
     case ControlKind::kEdit:
+    case ControlKind::kSlider:
     case ControlKind::kTabs:
     case ControlKind::kStrip:
       if (!vertical) return false;
@@ -163,6 +172,7 @@ bool KeyNavigation::OnAction(const Entry& entry, bool isSpace) {
       }
       return true;
     case ControlKind::kEdit:
+    case ControlKind::kSlider:
     case ControlKind::kTabs:
       if (isSpace) return false;
       Walk(entry.control, 1);
