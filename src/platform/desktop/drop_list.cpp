@@ -18,6 +18,7 @@ class DropList final : public Subclass {
 
  private:
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+  int BoxHeight() const;
   void FitLines() const;
 
   int height_;
@@ -25,20 +26,26 @@ class DropList final : public Subclass {
 
 LRESULT DropList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   const auto* place = reinterpret_cast<WINDOWPOS*>(lParam);
-  const bool isSized = message == WM_WINDOWPOSCHANGING && !(place->flags & SWP_NOSIZE);
+  const bool isMoving = message == WM_WINDOWPOSCHANGING;
+  const bool isSized = (isMoving || message == WM_WINDOWPOSCHANGED) && !(place->flags & SWP_NOSIZE);
   const int asked = isSized ? place->cy : 0;
   const LRESULT result = PassOn(message, wParam, lParam);
-  // The control keeps no more than its box; it sizes itself to that too.
-  const bool isCut = isSized && asked > place->cy;
+  // The control keeps no more than its box, before it is moved or after; it sizes itself to that
+  // too.
+  const bool isCut = isSized && asked > (isMoving ? place->cy : BoxHeight());
   if (isCut) height_ = asked;
   if (isCut || message == WM_SETFONT) FitLines();
   return result;
 }
 
-void DropList::FitLines() const {
+int DropList::BoxHeight() const {
   RECT box;
   GetWindowRect(Window(), &box);
-  const int room = height_ - (box.bottom - box.top) - 2 * GetSystemMetrics(SM_CYBORDER);
+  return box.bottom - box.top;
+}
+
+void DropList::FitLines() const {
+  const int room = height_ - BoxHeight() - 2 * GetSystemMetrics(SM_CYBORDER);
   const int line = std::max(static_cast<int>(PassOn(CB_GETITEMHEIGHT, 0, 0)), 1);
   PassOn(CB_SETMINVISIBLE, static_cast<WPARAM>(std::max(room / line, 1)), 0);
 }
