@@ -489,6 +489,30 @@
 #define IDS_TASKS_START_FORMAT 2111         // Start format
 #define IDS_TASKS_END_FORMAT 2112           // Due format
 
+// The colour picker.
+#define IDS_PICKER_TITLE 2200         // Choose Color
+#define IDS_PICKER_RED 2201           // Red
+#define IDS_PICKER_GREEN 2202         // Green
+#define IDS_PICKER_BLUE 2203          // Blue
+#define IDS_PICKER_CHANNELS 2204      // RGB Values
+#define IDS_PICKER_SWATCHES 2205      // Picker
+#define IDS_PICKER_DEFAULT 2206       // Default
+#define IDS_PICKER_OUT_OF_RANGE 2207  // Valid values are between 0-255
+#define IDS_PICKER_INVALID 2208       // Invalid value
+#define IDS_PICKER_SELECTED 2209      // Selected color
+
+// The font dialog.
+#define IDS_FONT_TITLE 2210        // Font Style
+#define IDS_FONT_SIZE 1121         // Size
+#define IDS_FONT_BOLD 1118         // Bold
+#define IDS_FONT_ITALIC 1117       // Italic
+#define IDS_FONT_UNDERLINE 1119    // Underlined
+#define IDS_FONT_STRIKE_OUT 1120   // Struck out
+#define IDS_FONT_COLOR 1116        // Color
+#define IDS_FONT_CHOOSE_COLOR 861  // Pick
+#define IDS_FONT_OK 1114           // OK
+#define IDS_FONT_CANCEL 1115       // Cancel
+
 // Own texts, from 2000 on: dialogs whose texts have no number elsewhere.
 #define IDS_CANCEL 2000             // Cancel
 #define IDS_SELECT 2001             // Select

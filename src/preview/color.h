@@ -25,4 +25,14 @@ inline constexpr Color kBlack = Rgb(0, 0, 0);
 inline constexpr Color kWhite = Rgb(255, 255, 255);
 inline constexpr Color kRed = Rgb(255, 0, 0);
 
+// How bright an eye finds a colour, 0 to 255.
+constexpr std::uint32_t Brightness(Color color) {
+  return ((color & 0xFF) * 299 + (color >> 8 & 0xFF) * 587 + (color >> 16 & 0xFF) * 114) / 1000;
+}
+
+// Black or white, whichever is read better on `ground`.
+constexpr Color InkOn(Color ground) {
+  return Brightness(ground) > 127 ? kBlack : kWhite;
+}
+
 }  // namespace tidewell

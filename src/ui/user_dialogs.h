@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "preview/color.h"
+#include "settings/setting.h"
 #include "ui/file_name_dialog_model.h"
 
 namespace tidewell {
@@ -24,6 +26,12 @@ class UserDialogs {
   // Lets the user name a file in the request's folder. True when one was named: the request holds
   // its path.
   virtual bool ChooseFileName(FileNameRequest& request) = 0;
+  // The colour that the user chose, kNoColor for the default one only where `allowsDefault`;
+  // nothing when cancelled. Begins at `present`.
+  virtual std::optional<Color> ChooseColor(Color present, bool allowsDefault) = 0;
+  // Lets the user edit size, style and colour. False when cancelled: the font is as it was then,
+  // but a colour that was confirmed in the picker before stays chosen.
+  virtual bool ChooseFont(LogFont& font, Color& color) = 0;
 };
 
 }  // namespace tidewell

@@ -128,6 +128,8 @@ class PaintDc {
   ~PaintDc() { EndPaint(window_, &paint_); }
 
   HDC Dc() const { return dc_; }
+  // What is to be painted anew lies within it.
+  const RECT& Area() const { return paint_.rcPaint; }
 
  private:
   HWND window_;
@@ -179,6 +181,30 @@ class BufferedPaint {
  private:
   PaintDc screen_;
   BufferedArea buffer_;
+};
+
+// The same for what is to be painted anew alone, in the client area's own coordinates.
+class PartialPaint {
+ public:
+  explicit PartialPaint(HWND window)
+      : screen_(window),
+        buffer_(screen_.Dc(), screen_.Area().right - screen_.Area().left,
+                screen_.Area().bottom - screen_.Area().top) {
+    SetViewportOrgEx(buffer_.Dc(), -screen_.Area().left, -screen_.Area().top, nullptr);
+  }
+  PartialPaint(const PartialPaint&) = delete;
+  PartialPaint& operator=(const PartialPaint&) = delete;
+  ~PartialPaint() {
+    const RECT& area = screen_.Area();
+    BitBlt(screen_.Dc(), area.left, area.top, area.right - area.left, area.bottom - area.top,
+           buffer_.Dc(), area.left, area.top, SRCCOPY);
+  }
+
+  HDC Dc() const { return buffer_.Dc(); }
+
+ private:
+  PaintDc screen_;
+  MemoryBitmap buffer_;
 };
 
 // A window's device context outside WM_PAINT; null stands for the screen.

@@ -1,10 +1,12 @@
 // Answers in the user's place, and keeps what was shown.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/text.h"
 #include "ui/user_dialogs.h"
 
 namespace tidewell {
@@ -33,11 +35,22 @@ class FakeDialogs final : public UserDialogs {
     if (answer) request.resultPath = *answer;
     return answer.has_value();
   }
+  std::optional<Color> ChooseColor(Color present, bool allowsDefault) override {
+    shown.push_back(L"color " + FormatDecimal(static_cast<std::int32_t>(present)) +
+                    (allowsDefault ? L" or none" : L""));
+    return chosenColor;
+  }
+  bool ChooseFont(LogFont& font, Color& color) override {
+    shown.push_back(L"font " + FormatDecimal(font.height));
+    return editFont && editFont(font, color);
+  }
 
   std::vector<std::wstring> shown;
   bool agrees = false;
   std::optional<std::wstring> answer;  // nothing cancels
   FileNameRequest named;
+  std::optional<std::uint32_t> chosenColor;                   // nothing cancels
+  std::function<bool(LogFont& font, Color& color)> editFont;  // empty cancels
 };
 
 }  // namespace tidewell

@@ -8,6 +8,7 @@
 #include "platform/text.h"
 #include "resources/text/text_ids.h"
 #include "ui/user_dialogs.h"
+#include "ui/windows/color_swatch.h"
 #include "ui/windows/look.h"
 #include "win32/gdi.h"
 
@@ -240,16 +241,9 @@ void SettingsPage::AddList(int id, std::span<const int> itemIds, int yOffset) {
 }
 
 void SettingsPage::DrawColorSwatch(HDC dc, COLORREF color, int x, int y) const {
-  const bool automatic = color == kNoColor;
-  RECT area{x, y, x + Scale().ScaleX(44), y + Scale().ScaleX(20)};
-  FillPlain(dc, area, RGB(0, 0, 0));
-  InflateRect(&area, -Scale().ScaleX(1), -Scale().ScaleX(1));
-  FillPlain(dc, area, automatic ? kPaper : color);
-  if (!automatic) return;
   const Selected font(dc, TextFont());
-  SetBkMode(dc, TRANSPARENT);
-  DrawTextW(dc, Text(IDS_COLOR_AUTOMATIC).c_str(), -1, &area,
-            DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+  tidewell::DrawColorSwatch(dc, {x, y, Scale().ScaleX(44), Scale().ScaleX(20)}, Scale().ScaleX(1),
+                            color, Text(IDS_COLOR_AUTOMATIC));
 }
 
 HWND SettingsPage::Control(int id) const {

@@ -59,10 +59,6 @@ const GdiImage& GdiImageOf(const Image& image) {
   return static_cast<const GdiImage&>(image);
 }
 
-RECT SystemRect(const Rect& area) {
-  return {area.left, area.top, area.Right(), area.Bottom()};
-}
-
 UINT Flags(TextAlign align) {
   constexpr UINT kLine = DT_SINGLELINE | DT_NOPREFIX;
   switch (align) {
@@ -76,6 +72,10 @@ UINT Flags(TextAlign align) {
 }
 
 }  // namespace
+
+RECT SystemRect(const Rect& area) {
+  return {area.left, area.top, area.Right(), area.Bottom()};
+}
 
 LOGFONTW SystemDescription(const LogFont& font) {
   LOGFONTW system{};

@@ -9,6 +9,7 @@
 
 namespace tidewell {
 
+RECT SystemRect(const Rect& area);
 LOGFONTW SystemDescription(const LogFont& font);
 
 // A bitmap as it is loaded or decoded. One of 32 bits has its transparency in them, and colours

@@ -1,6 +1,8 @@
 #include "ui/windows/device_dialogs.h"
 
+#include "ui/windows/color_picker.h"
 #include "ui/windows/file_name_dialog.h"
+#include "ui/windows/font_dialog.h"
 #include "ui/windows/path_dialog.h"
 
 namespace tidewell {
@@ -27,6 +29,16 @@ std::optional<std::wstring> DeviceDialogs::ChooseFile(const std::wstring& title,
 
 bool DeviceDialogs::ChooseFileName(FileNameRequest& request) {
   return RunFileNameDialog(context_(), request) == 1;
+}
+
+std::optional<Color> DeviceDialogs::ChooseColor(Color present, bool allowsDefault) {
+  Color color = present;
+  if (!RunColorPicker(context_(), color, allowsDefault)) return std::nullopt;
+  return color;
+}
+
+bool DeviceDialogs::ChooseFont(LogFont& font, Color& color) {
+  return RunFontDialog(context_(), font, color) == 1;
 }
 
 }  // namespace tidewell

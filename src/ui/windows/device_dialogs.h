@@ -21,6 +21,8 @@ class DeviceDialogs final : public UserDialogs {
   std::optional<std::wstring> ChooseFile(const std::wstring& title, const std::wstring& present,
                                          const std::wstring& pattern) override;
   bool ChooseFileName(FileNameRequest& request) override;
+  std::optional<Color> ChooseColor(Color present, bool allowsDefault) override;
+  bool ChooseFont(LogFont& font, Color& color) override;
 
  private:
   std::function<DialogContext()> context_;

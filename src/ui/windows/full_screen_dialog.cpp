@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kTextHeight = 12;  // design heights of the letters
 constexpr int kLabelHeight = 10;
+constexpr int kRightKey = 1;  // its position in the menu
 
 void SetKeyText(HWND menuBar, int command, std::wstring& text) {
   TBBUTTONINFOW info{};
@@ -44,11 +45,21 @@ void FullScreenDialog::EnableLeftKey(bool enable) {
   SendMessageW(menuBar_, TB_ENABLEBUTTON, IDOK, MAKELPARAM(enable, 0));
 }
 
+void FullScreenDialog::CheckEntry(int first, int last, int checked) {
+  CheckMenuRadioItem(menu_, static_cast<UINT>(first), static_cast<UINT>(last),
+                     static_cast<UINT>(checked), MF_BYCOMMAND);
+}
+
 HWND FullScreenDialog::MakeControl(const wchar_t* windowClass, DWORD style, int id,
                                    const std::wstring& text) {
-  const HWND control = CreateWindowExW(
-      0, windowClass, text.c_str(), WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, window_,
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+  return MakeHiddenControl(windowClass, WS_VISIBLE | style, id, text);
+}
+
+HWND FullScreenDialog::MakeHiddenControl(const wchar_t* windowClass, DWORD style, int id,
+                                         const std::wstring& text) {
+  const HWND control = CreateWindowExW(0, windowClass, text.c_str(), WS_CHILD | style, 0, 0, 0, 0,
+                                       window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                       GetModuleHandleW(nullptr), nullptr);
   SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
   return control;
 }
@@ -66,6 +77,7 @@ INT_PTR CALLBACK FullScreenDialog::DialogProc(HWND window, UINT message, WPARAM 
 }
 
 INT_PTR FullScreenDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const auto answer = OnMessage(message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_INITDIALOG:
       OnInit();
@@ -127,12 +139,27 @@ void FullScreenDialog::MakeSoftKeys() {
   bar.cbSize = sizeof bar;
   bar.hwndParent = window_;
   bar.dwFlags = SHCMBF_HMENU;
-  bar.nToolBarId = IDR_CHOICE_KEYS;
+  bar.nToolBarId = keys_.menu.empty() ? IDR_CHOICE_KEYS : IDR_CHOICE_AND_MENU;
   bar.hInstRes = GetModuleHandleW(nullptr);
   if (!SHCreateMenuBar(&bar)) return;
   menuBar_ = bar.hwndMB;
   SetKeyText(menuBar_, IDOK, keys_.left);
-  SetKeyText(menuBar_, IDCANCEL, keys_.right);
+  if (keys_.menu.empty()) {
+    SetKeyText(menuBar_, IDCANCEL, keys_.right);
+  } else {
+    FillMenu();
+  }
+}
+
+// Takes the place of what the resource holds for a menu to be one.
+void FullScreenDialog::FillMenu() {
+  menu_ =
+      GetSubMenu(reinterpret_cast<HMENU>(SendMessageW(menuBar_, SHCMBM_GETMENU, 0, 0)), kRightKey);
+  DeleteMenu(menu_, 0, MF_BYPOSITION);
+  for (const MenuEntry& entry : keys_.menu) {
+    AppendMenuW(menu_, entry.command ? MF_STRING : MF_SEPARATOR,
+                static_cast<UINT_PTR>(entry.command), entry.text.c_str());
+  }
 }
 
 void FullScreenDialog::LayOut() {
