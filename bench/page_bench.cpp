@@ -3,7 +3,6 @@
 // bare window.
 #include <windows.h>
 
-#include <aygshell.h>
 #include <commctrl.h>
 
 #include <algorithm>
@@ -14,13 +13,13 @@
 #include <variant>
 #include <vector>
 
+#include "bench/bare_window.h"
 #include "bench/figures.h"
 #include "bench/stopwatch.h"
 #include "pages/page_list.h"
 #include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
 #include "platform/windows/windows_machine.h"
-#include "ui/windows/look.h"
 #include "win32/tahoma.h"
 
 namespace tidewell::bench {
@@ -31,105 +30,7 @@ constexpr int kRounds = 30;
 constexpr double kAim = 1.3;
 constexpr double kFirstTabAim = 120;  // milliseconds
 constexpr double kSelectingAim = 16;
-constexpr wchar_t kBareClass[] = L"BareWindow";
 constexpr wchar_t kHostClass[] = L"PageBenchHost";
-
-void Dispatch(UINT kinds) {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | kinds)) DispatchMessageW(&message);
-}
-
-// Until everything is on the screen: to read from it is to wait for what was drawn before.
-void PaintAll() {
-  Dispatch(PM_QS_PAINT);
-  GdiFlush();
-  const HDC screen = GetDC(nullptr);
-  GetPixel(screen, 0, 0);
-  ReleaseDC(nullptr, screen);
-}
-
-void HandleAll() {
-  Dispatch(0);
-  PaintAll();
-}
-
-void RegisterPlainClass(const wchar_t* name) {
-  WNDCLASSW plain{};
-  plain.lpfnWndProc = DefWindowProcW;
-  plain.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
-  plain.lpszClassName = name;
-  RegisterClassW(&plain);
-}
-
-// A window with the controls of another, list views with their column, as they are without texts,
-// lines, rules or keys.
-class BareWindow {
- public:
-  struct Control {
-    std::wstring kind;
-    DWORD style;
-    RECT place;
-  };
-
-  static std::vector<Control> ControlsOf(HWND window, bool shownOnly = false) {
-    std::vector<Control> controls;
-    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-      if (shownOnly && !IsWindowVisible(child)) continue;
-      Control control;
-      wchar_t kind[64];
-      GetClassNameW(child, kind, 64);
-      control.kind = kind;
-      control.style = static_cast<DWORD>(GetWindowLongW(child, GWL_STYLE));
-      GetWindowRect(child, &control.place);
-      // A list is made with the height that it has when it is open.
-      if (control.kind == L"ComboBox") {
-        SendMessageW(child, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&control.place));
-      }
-      MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&control.place), 2);
-      controls.push_back(control);
-    }
-    return controls;
-  }
-
-  // As every page must be: a pop-up with the shell's strips, the OK button's above, the menu bar's
-  // below, and one type face for its controls.
-  BareWindow(HWND host, HFONT face) : face_(face) {
-    RECT place;
-    GetWindowRect(host, &place);
-    window_ =
-        CreateWindowExW(static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kBareClass, L"",
-                        WS_POPUP | WS_CLIPCHILDREN, place.left, place.top, place.right - place.left,
-                        place.bottom - place.top, host, nullptr, nullptr, nullptr);
-    SHMENUBARINFO bar{};
-    bar.cbSize = sizeof bar;
-    bar.hwndParent = window_;
-    bar.dwFlags = SHCMBF_EMPTYBAR;
-    SHCreateMenuBar(&bar);
-  }
-  ~BareWindow() { DestroyWindow(window_); }
-
-  void Show() const {
-    ShowWindow(window_, SW_SHOW);
-    UpdateWindow(window_);
-    PaintAll();
-  }
-  void Make(const std::vector<Control>& controls) const {
-    for (const Control& control : controls) {
-      const HWND made = CreateWindowExW(
-          0, control.kind.c_str(), L"", control.style, control.place.left, control.place.top,
-          control.place.right - control.place.left, control.place.bottom - control.place.top,
-          window_, nullptr, nullptr, nullptr);
-      SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(face_), FALSE);
-      // Without a column a list view has no header and shows nothing.
-      LVCOLUMNW column{};
-      if (control.kind == WC_LISTVIEWW) ListView_InsertColumn(made, 0, &column);
-    }
-  }
-
- private:
-  HWND window_;
-  HFONT face_;
-};
 
 // Tells when a page's first tab was painted: just before the first control of another tab is made.
 class FirstTabWatch {

@@ -32,10 +32,6 @@ struct Recording {
   std::map<const CanvasFont*, Font> fonts;
 };
 
-RECT SystemRect(const Rect& area) {
-  return {area.left, area.top, area.Right(), area.Bottom()};
-}
-
 class RecordingCanvas : public GdiCanvas {
  public:
   RecordingCanvas(HDC dc, Recording& recording) : GdiCanvas(dc), dc_(dc), recording_(recording) {}
