@@ -91,7 +91,7 @@ take_pictures() {
 
 write_pictures() {
   say "Building the program"
-  build_preset windows device tour preview_sheet || exit
+  build_preset windows device tour preview_sheet dialog_sheet || exit
   mkdir -p "$pictures"
   pictures=$(cd "$pictures" && pwd)
   forget_device pictures  # the pictures show the program as it is on its first day
@@ -105,6 +105,7 @@ write_pictures() {
     for tour_language in ${chosen_language:-${languages[@]}}; do
       take_pictures tour "$tour_language"
       take_pictures preview_sheet "$tour_language"
+      take_pictures dialog_sheet "$tour_language"
     done
   done
 }
