@@ -41,7 +41,7 @@ TEST_F(Catalog, SavingWritesWhatHasAMeaningAndTheRegistryDoesNotHold) {
   Put(kCategories, L"CatColor.C", 8);
   PutBytes(kCategories, L"CatFilter.C", {1, 2, 3, 4});
   recorded.Calls().Reset();
-  catalog.SaveCategoryValues();
+  CategoryCatalog(machine, store).SaveCategoryValues();
   EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 0) << "nothing was loaded yet";
   LoadWith({L"A", L"B \x00DC", L"C"});
   CategoryRecord& c = *catalog.FindCategory(L"C");
