@@ -114,7 +114,7 @@ TEST(ReadAhead, AValueThatComesOrGoesMeanwhileHidesNoOther) {
     MemoryRegistry sorted(MemoryRegistry::Order::kSorted);
     RecordedRegistry read(sorted);
     const auto key = read.Create(RegistryRoot::kCurrentUser, L"Read");
-    for (const wchar_t* name : {L"B", L"C", L"D"}) WriteDword(key.get(), name, 7);
+    for (const wchar_t* name : {L"B", L"c", L"D"}) WriteDword(key.get(), name, 7);
     const auto other = sorted.Open(RegistryRoot::kCurrentUser, L"Read");
     read.Calls().Watch([&](RegistryCall call) {
       if (call != RegistryCall::kEnumValue || read.Count(call) != 2) return;
