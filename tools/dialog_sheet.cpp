@@ -73,6 +73,7 @@ const View kViews[] = {
     {"picker-2", Picker(Rgb(255, 128, 0)), {Command(kViewCommand + 1)}},
     {"picker-3", Picker(Rgb(204, 0, 102)), {Command(kViewCommand + 2), Press(VK_DOWN)}},
     {"picker-tabs", Picker(kWhite), {Press(VK_UP), Press(VK_UP)}},
+    {"picker-to-default", Picker(kWhite), {Press(VK_UP)}},
     {"picker-menu", Picker(kWhite), {OpenMenu}},
     {"picker-refused", Picker(kWhite), {Press(VK_DOWN), TypeTooMuch, Press(VK_DOWN)}},
     {"font", FontOf(12, Rgb(0, 102, 51)), {}},

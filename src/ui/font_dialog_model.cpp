@@ -27,7 +27,7 @@ FontDialogTexts::FontDialogTexts(const Language& language)
       color(language.Text(IDS_FONT_COLOR)),
       chooseColor(language.Text(IDS_FONT_CHOOSE_COLOR)),
       automatic(language.Text(IDS_COLOR_AUTOMATIC)),
-      sample(language.Text(IDS_SAMPLE_TASK)) {}
+      sample(language.Text(IDS_SAMPLE_APPOINTMENT)) {}
 
 FontDialogModel::FontDialogModel(const LogFont& font)
     : font_(font),

@@ -70,7 +70,9 @@ class ColorPicker final : public PaintedDialog {
   std::optional<INT_PTR> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool OnVerticalKey(HWND control, int direction) override;
   void Paint(HDC dc) override;
-  COLORREF FocusInk() const override { return shades_.cardInk; }
+  COLORREF FocusInk(HWND control) const override {
+    return control == defaultButton_ ? shades_.bandInk : shades_.cardInk;
+  }
 
   View& ViewOf(PickerView view) { return views_[static_cast<std::size_t>(view)]; }
   HWND MakeHidden(PickerView view, const wchar_t* windowClass, DWORD style, int id,
@@ -274,6 +276,7 @@ void ColorPicker::ShowView(PickerView view) {
   CheckEntry(kFirstView, kLastView, kFirstView + static_cast<int>(view));
   for (const HWND control : ViewOf(view)) ShowWindow(control, SW_SHOW);
   SetFocus(ViewOf(view).front());
+  SendMessageW(htmlField_, EM_SETSEL, 0, -1);
   for (const View& other : views_) {
     if (&other == &ViewOf(view)) continue;
     for (const HWND control : other) ShowWindow(control, SW_HIDE);

@@ -36,7 +36,7 @@ class FontDialog final : public PaintedDialog {
   void OnShown() override { SetFocus(sizeList_); }
   void OnCommand(int id, int notification) override;
   void Paint(HDC dc) override;
-  COLORREF FocusInk() const override { return kFocusEdge; }
+  COLORREF FocusInk(HWND) const override { return kFocusEdge; }
 
   void MakeSizes();
   void MakeCheck(FontStyle style);
@@ -164,7 +164,9 @@ void FontDialog::PaintSample(HDC dc) {
   if (area.height < lineHeight) return;
   const Color letters = color_ == kNoColor ? kBlack : color_;
   canvas.Fill(area, GroundOfSample(letters));
-  const Rect line{area.left, area.top + (area.height - lineHeight) / 2, area.width, lineHeight};
+  const int margin = Scale().ScaleX(4);
+  const Rect line{area.left + margin, area.top + (area.height - lineHeight) / 2,
+                  area.width - 2 * margin, lineHeight};
   WriteTitle(canvas, line, texts_.sample, {font, letters});
 }
 

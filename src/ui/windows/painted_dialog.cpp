@@ -43,7 +43,7 @@ void PaintedDialog::OnPaint() {
   const PartialPaint paint(Window());
   SetBkMode(paint.Dc(), TRANSPARENT);
   Paint(paint.Dc());
-  if (HasFrame()) DrawFocusFrame(paint.Dc(), focused_, Scale(), FocusInk());
+  if (HasFrame()) DrawFocusFrame(paint.Dc(), focused_, Scale(), FocusInk(focused_));
 }
 
 void PaintedDialog::RepaintFrame() const {

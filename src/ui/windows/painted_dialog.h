@@ -19,7 +19,8 @@ class PaintedDialog : public FullScreenDialog, protected NavigationOwner {
 
   // The whole client area, controls aside; only what is to be painted anew reaches the screen.
   virtual void Paint(HDC dc) = 0;
-  virtual COLORREF FocusInk() const = 0;
+  // Of the frame around a control.
+  virtual COLORREF FocusInk(HWND control) const = 0;
 
   // Reached by keys, in the order of the calls.
   void AddToWalk(HWND control, ControlKind kind) { navigation_.Add(control, kind); }
