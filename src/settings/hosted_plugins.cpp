@@ -4,21 +4,16 @@
 #include <array>
 #include <functional>
 #include <optional>
-#include <span>
 #include <utility>
 
 #include "platform/text.h"
+#include "settings/exact_key.h"
 #include "settings/registry_values.h"
 #include "settings/setting_key.h"
 
 namespace tidewell {
 
 namespace {
-
-constexpr std::uint32_t kNameCapacity = 256;
-// Nearly every value fits the usual room.
-constexpr std::uint32_t kUsualDataBytes = 4096;
-constexpr std::uint32_t kMostDataBytes = 16u << 20;
 
 // This subkey belongs to a built-in tab. Reading and deleting must agree on it to the letter, or
 // a plug-in named "contacts" would be deleted without ever having been read.
@@ -46,102 +41,24 @@ std::optional<TabEntry> ReadHostedPlugin(RegistryKey& key, std::wstring name) {
   return entry;
 }
 
-// What a subkey is to hold under a name.
-struct HostedValue {
-  const wchar_t* name;
-  std::uint32_t type;
-  std::vector<std::byte> data;  // empty for a default, which is not stored
-  bool isStored = false;
-  bool isAbsent = false;
-};
-
-HostedValue NumberValue(const wchar_t* name, std::uint32_t number, std::uint32_t defaultNumber) {
-  HostedValue value{name, kTypeDword, {}};
-  const auto bytes = std::as_bytes(std::span(&number, 1));
-  if (number != defaultNumber) value.data.assign(bytes.begin(), bytes.end());
-  return value;
-}
-
-HostedValue TextValue(const wchar_t* name, const std::wstring& text) {
-  HostedValue value{name, kTypeString, {}};
-  if (!text.empty()) value.data = BytesOf({text.c_str(), text.size() + 1});
+// A default is not stored.
+KeyValue Unless(bool isDefault, KeyValue value) {
+  if (isDefault) value.data.clear();
   return value;
 }
 
 // In the order of writing: a new tab is enabled when it has all the rest.
-std::array<HostedValue, 6> ValuesOf(const TabEntry& entry) {
-  constexpr std::uint32_t kNever = 0;  // no type of a tab
-  return {NumberValue(L"Type", static_cast<std::uint32_t>(entry.type), kNever),
-          TextValue(L"DLL", entry.dll),
-          TextValue(L"InstallPath", entry.installPath),
-          TextValue(L"CustomIconName", entry.customIconName),
-          NumberValue(L"Order", static_cast<std::uint32_t>(entry.order), kHostedOrder),
-          NumberValue(L"Enabled", entry.enabled, 0)};
-}
-
-RegistryStatus EnumWholeValue(RegistryKey& key, std::uint32_t index, EnumeratedValue& value) {
-  RegistryStatus status = kStatusMoreData;
-  for (std::uint32_t room = kUsualDataBytes; status == kStatusMoreData && room <= kMostDataBytes;
-       room *= 16) {
-    status = key.EnumValue(index, room / 16, room, value);
-  }
-  return status;
-}
-
-// Notes which of the values the key holds already, or does not hold, and returns the names of all
-// others in it. What a refusal hides is neither.
-std::vector<std::wstring> CompareValues(RegistryKey& key, std::span<HostedValue> values) {
-  std::vector<std::wstring> others;
-  for (HostedValue& value : values) value.isAbsent = true;
-  EnumeratedValue stored;
-  RegistryStatus status = kStatusSuccess;
-  for (std::uint32_t index = 0; (status = EnumWholeValue(key, index, stored)) == kStatusSuccess;
-       ++index) {
-    const auto found = std::ranges::find_if(values, [&](const HostedValue& value) {
-      return EqualIgnoringCase(value.name, stored.name);
-    });
-    if (found == values.end()) {
-      others.push_back(stored.name);
-      continue;
-    }
-    found->isAbsent = false;
-    found->isStored = stored.type == found->type && stored.data == found->data;
-  }
-  if (status != kStatusNoMoreItems) {
-    for (HostedValue& value : values) value.isAbsent = false;
-  }
-  return others;
-}
-
-// True when there was something to write.
-bool StoreValues(RegistryKey& key, std::span<const HostedValue> values) {
-  bool isWritten = false;
-  for (const HostedValue& value : values) {
-    if (value.data.empty() || value.isStored) continue;
-    key.Set(value.name, value.type, value.data);
-    isWritten = true;
-  }
-  for (const HostedValue& value : values) {
-    if (!value.data.empty() || value.isAbsent) continue;
-    key.DeleteValue(value.name);
-    isWritten = true;
-  }
-  return isWritten;
-}
-
-// True when there were any.
-bool DeleteSubkeys(Registry& registry, RegistryKey& key, const std::wstring& path) {
-  bool isWritten = false;
-  std::uint32_t index = 0;
-  std::wstring name;
-  while (key.EnumSubkey(index, kNameCapacity, name) == kStatusSuccess) {
-    isWritten = true;
-    // The next subkey moves up into a deleted one's place; one that the system refuses to delete
-    // is passed over.
-    const std::wstring subkey = JoinPath(path, name);
-    if (registry.DeleteTree(RegistryRoot::kCurrentUser, subkey) != kStatusSuccess) ++index;
-  }
-  return isWritten;
+std::array<KeyValue, 6> ValuesOf(const TabEntry& entry) {
+  const auto text = [](const wchar_t* name, const std::wstring& value) {
+    return Unless(value.empty(), TextValue(name, value));
+  };
+  return {NumberValue(L"Type", static_cast<std::uint32_t>(entry.type)),
+          text(L"DLL", entry.dll),
+          text(L"InstallPath", entry.installPath),
+          text(L"CustomIconName", entry.customIconName),
+          Unless(entry.order == kHostedOrder,
+                 NumberValue(L"Order", static_cast<std::uint32_t>(entry.order))),
+          Unless(entry.enabled == 0, NumberValue(L"Enabled", entry.enabled))};
 }
 
 template <typename Same>
@@ -199,13 +116,8 @@ void HostedPlugins::SaveEntry(Registry& registry, const TabEntry& entry) {
   if (!key) return;
   if (isNew && !IsBuiltInSubkey(entry.caption)) names_.push_back(entry.caption);
 
-  std::array<HostedValue, 6> values = ValuesOf(entry);
-  const std::vector<std::wstring> others = CompareValues(*key, values);
-  bool isWritten = StoreValues(*key, values);
-  if (isOurs) {
-    for (const std::wstring& name : others) key->DeleteValue(name);
-    isWritten = DeleteSubkeys(registry, *key, path) || isWritten || !others.empty();
-  }
+  const bool isWritten =
+      StoreExactly(registry, path, *key, ValuesOf(entry), isOurs ? Others::kGo : Others::kStay);
   if (isWritten || isNew) key->Flush();
 }
 

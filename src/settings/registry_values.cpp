@@ -15,17 +15,17 @@ namespace {
 // Nearly every text fits, so that it costs one query.
 constexpr std::size_t kUsualTextBytes = 512;
 
-std::wstring TextUpToZero(std::span<const std::byte> bytes) {
-  std::wstring text = TextOfBytes(bytes);
-  text.resize(std::min(text.size(), text.find(L'\0')));
-  return text;
-}
-
 void NoteRefusal(RegistryStatus status, bool* refused) {
   if (refused && status != kStatusSuccess && status != kStatusFileNotFound) *refused = true;
 }
 
 }  // namespace
+
+std::wstring TextUpToZero(std::span<const std::byte> bytes) {
+  std::wstring text = TextOfBytes(bytes);
+  text.resize(std::min(text.size(), text.find(L'\0')));
+  return text;
+}
 
 std::optional<std::uint32_t> FindDword(ValueSource* values, const std::wstring& name,
                                        bool* refused) {

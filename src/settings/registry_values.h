@@ -4,11 +4,15 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "platform/registry.h"
 
 namespace tidewell {
+
+// The text that a value's bytes are, up to the first zero.
+std::wstring TextUpToZero(std::span<const std::byte> bytes);
 
 // Whoever passes `refused` learns whether nothing means that nothing usable is stored: it becomes
 // true when the registry would not say, as for a null key, and is left alone otherwise.

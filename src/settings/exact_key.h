@@ -1,0 +1,39 @@
+// A registry key that is to hold certain values and nothing else. It is brought there so that each
+// value is at every moment the old or the new one, and that nothing goes before all is written.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/registry.h"
+
+namespace tidewell {
+
+// What a key is to hold under a name.
+struct KeyValue {
+  std::wstring name;
+  std::uint32_t type = 0;
+  std::vector<std::byte> data;  // empty for a value that is not to be there
+};
+
+KeyValue NumberValue(std::wstring name, std::uint32_t number);
+KeyValue TextValue(std::wstring name, const std::wstring& text);
+
+// What becomes of other values in the key, and of its subkeys.
+enum class Others : std::uint8_t { kStay, kGo };
+
+// What is there already is not written again; after a refusal nothing more is. True when anything
+// was written or deleted. The caller flushes.
+bool StoreExactly(Registry& registry, const std::wstring& path, RegistryKey& key,
+                  std::span<const KeyValue> values, Others others);
+
+// The value at `index` with all of its data and a name of any length.
+RegistryStatus EnumWholeValue(RegistryKey& key, std::uint32_t index, EnumeratedValue& value);
+
+// The capacity of names that are enumerated, with the terminating zero.
+inline constexpr std::uint32_t kNameCapacity = 256;
+
+}  // namespace tidewell
