@@ -65,6 +65,7 @@ struct MarkingMachine final : ResourceLibraries, System {
     return machine.system.Screen();
   }
   SystemVersion Version() override { return machine.system.Version(); }
+  void RefreshTodayScreen() override { machine.system.RefreshTodayScreen(); }
 
   Marks& marks;
   WindowsMachine machine;

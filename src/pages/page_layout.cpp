@@ -203,6 +203,25 @@ Rect PlaceOf(const PageMetrics& metrics, const DesignPlace& place) {
   return rect;
 }
 
+std::vector<ControlPlace> PlaceButtons(const PageMetrics& metrics,
+                                       const std::vector<ItemButton>& buttons) {
+  std::vector<ControlPlace> places;
+  bool fit = true;
+  for (const ItemButton& button : buttons) {
+    places.push_back({button.id, PlaceOf(metrics, button.place)});
+    fit = fit && places.back().rect.left >= 0;
+  }
+  if (fit) return places;
+  const int width = metrics.clientWidth / static_cast<int>(places.size());
+  int left = 0;
+  for (ControlPlace& place : places) {
+    place.rect.left = left;
+    place.rect.width = width;
+    left += width;
+  }
+  return places;
+}
+
 Rect PlaceList(const ScreenScale& scale, int clientWidth, int clientHeight, int yOffset) {
   const int offset = scale.ScaleY(yOffset);
   return {scale.ScaleX(kMargin), scale.ScaleY(68) + offset, clientWidth - scale.ScaleX(2 * kMargin),

@@ -45,6 +45,16 @@ struct ControlPlace {
   bool operator==(const ControlPlace&) const = default;
 };
 
+// A button, or a label, beside a list.
+struct ItemButton {
+  int id;
+  int textId;
+  DesignPlace place;
+};
+// Buttons on one line share the width of a page that is too narrow for them.
+std::vector<ControlPlace> PlaceButtons(const PageMetrics& metrics,
+                                       const std::vector<ItemButton>& buttons);
+
 struct RowPlace {
   std::wstring caption;  // shortened where a word is wider than its column
   bool wraps = false;

@@ -125,6 +125,12 @@ Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting) {
   return row;
 }
 
+Row CheckByRules(int id, int textId, DwordSetting& setting) {
+  Row row = Check(id, textId, setting);
+  row.stored = Stored::kByRules;
+  return row;
+}
+
 Row Icon(int labelId, int stripId, int textId, DwordSetting& setting,
          std::span<const MarkerChoice> offered) {
   return IconRow(RowKind::kIcon, labelId, stripId, textId, setting, offered);

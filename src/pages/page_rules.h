@@ -27,6 +27,8 @@ struct ListLine {
 class PageView {
  public:
   virtual ~PageView() = default;
+  // Whether there is a control of that id.
+  virtual bool Has(int id) const = 0;
   virtual ControlState State(int id) const = 0;
   // Whichever of the state's fields the control has.
   virtual void SetState(int id, const ControlState& state) = 0;
@@ -36,6 +38,7 @@ class PageView {
   virtual void SetLines(int listId, const std::vector<ListLine>& lines) = 0;
   // kNoChoice stands for none, in both directions.
   virtual int SelectedLine(int listId) const = 0;
+  // A selected line comes into view.
   virtual void SelectLine(int listId, int line) = 0;
   // Moves the selected line one place; without one, tells the user to select it first.
   virtual void MoveLine(int listId, bool up) = 0;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
 
 namespace tidewell {
 
@@ -25,6 +24,7 @@ struct IdCollector {
   void operator()(const ItemList& list) {
     ids.insert(list.listId);
     for (const ItemButton& button : list.buttons) ids.insert(button.id);
+    for (const ItemButton& label : list.labels) ids.insert(label.id);
   }
 
   std::set<int> ids;
@@ -85,6 +85,19 @@ std::vector<const Row*> PageTab::Rows() const {
   RowCollector collector;
   std::visit(std::ref(collector), body);
   return collector.rows;
+}
+
+std::set<const Setting*> PageTab::Settings() const {
+  std::set<const Setting*> settings;
+  for (const Row* row : Rows()) {
+    settings.insert({row->number, row->text});
+    settings.insert(row->order.begin(), row->order.end());
+  }
+  if (const auto* list = std::get_if<ItemList>(&body)) {
+    settings.insert(list->settings.begin(), list->settings.end());
+  }
+  settings.erase(nullptr);
+  return settings;
 }
 
 PageTab RowTab(int titleId, std::initializer_list<Row> rows) {

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <set>
 #include <variant>
 #include <vector>
 
@@ -64,18 +65,14 @@ enum class ListLook : std::uint8_t {
   kIcons,   // with the icon of the folder that each line names
 };
 
-struct ItemButton {
-  int id;
-  int textId;
-  DesignPlace place;
-};
-
 // Items that the page's rules fill in, and buttons that do something to them.
 struct ItemList {
   int listId;
   ListLook look;
   DesignPlace place;
   std::vector<ItemButton> buttons;
+  std::vector<ItemButton> labels = {};
+  std::vector<const Setting*> settings = {};  // that the items are stored in
 };
 
 // Strips of icons behind their labels, on two lines.
@@ -107,6 +104,8 @@ struct PageTab {
   std::vector<int> ControlIds() const;
   // The rows that show a setting of their own, those of options and pickers among them.
   std::vector<const Row*> Rows() const;
+  // Of its rows and its items.
+  std::set<const Setting*> Settings() const;
 };
 using PageTabs = std::vector<PageTab>;
 

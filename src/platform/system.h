@@ -1,4 +1,4 @@
-// The door to the device itself: its screen and its version.
+// The door to the device itself: its screen, its version and its Today screen.
 #pragma once
 
 namespace tidewell {
@@ -25,6 +25,8 @@ class System {
   virtual ~System() = default;
   virtual ScreenFacts Screen() = 0;
   virtual SystemVersion Version() = 0;
+  // Asks the Today screen to read anew what is registered with it.
+  virtual void RefreshTodayScreen() = 0;
 };
 
 }  // namespace tidewell

@@ -6,6 +6,7 @@
 
 #include "preview/color.h"
 #include "settings/setting.h"
+#include "ui/dialog_requests.h"
 #include "ui/file_name_dialog_model.h"
 
 namespace tidewell {
@@ -32,6 +33,10 @@ class UserDialogs {
   // Lets the user edit size, style and colour. False when cancelled: the font is as it was then,
   // but a colour that was confirmed in the picker before stays chosen.
   virtual bool ChooseFont(LogFont& font, Color& color) = 0;
+  // The line that was taken; nothing when cancelled.
+  virtual std::optional<std::size_t> ChooseLine(const LineRequest& request) = 0;
+  // Lets the user tick the request's lines. False when cancelled: they are as they were.
+  virtual bool TickLines(TickRequest& request) = 0;
 };
 
 }  // namespace tidewell

@@ -72,14 +72,33 @@ class FakeView final : public PageView {
   void SetState(int id, const ControlState& state) override {
     states_[id] = state;
     const auto line = static_cast<std::size_t>(state.selection);
-    if (line < choices_[id].size()) states_[id].data = choices_[id][line].data;
+    if (line >= choices_[id].size()) return;
+    states_[id].data = choices_[id][line].data;
+    states_[id].text = choices_[id][line].text;
   }
   void SetChoices(int id, const Choices& choices) override { choices_[id] = choices; }
+  bool Has(int id) const override { return enabled_.contains(id); }
   std::vector<ListLine> Lines(int listId) const override { return lines_.at(listId); }
-  void SetLines(int listId, const std::vector<ListLine>& lines) override { lines_[listId] = lines; }
-  int SelectedLine(int) const override { return kNoChoice; }
-  void SelectLine(int, int) override {}
-  void MoveLine(int, bool) override {}
+  void SetLines(int listId, const std::vector<ListLine>& lines) override {
+    lines_[listId] = lines;
+    selected_ = kNoChoice;
+  }
+  // One list is worked at a time.
+  int SelectedLine(int) const override { return selected_; }
+  void SelectLine(int, int line) override {
+    selected_ = line;
+    Ask();
+  }
+  void MoveLine(int listId, bool up) override {
+    const auto line = lines_[listId].begin() + selected_;
+    std::iter_swap(line, up ? line - 1 : line + 1);
+    selected_ += up ? -1 : 1;
+  }
+  void Tick(int listId, int line) {
+    ListLine& ticked = lines_[listId][static_cast<std::size_t>(line)];
+    ticked.ticked = !ticked.ticked;
+    Tell({listId, PageEventKind::kTicked, line});
+  }
   void Repaint() override { ++repaints; }
 
   int repaints = 0;
@@ -109,6 +128,7 @@ class FakeView final : public PageView {
   std::map<int, ControlState> states_;
   std::map<int, Choices> choices_;
   std::map<int, std::vector<ListLine>> lines_;
+  int selected_ = kNoChoice;
   std::map<int, bool> enabled_;
 };
 

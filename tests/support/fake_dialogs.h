@@ -44,6 +44,20 @@ class FakeDialogs final : public UserDialogs {
     shown.push_back(L"font " + FormatDecimal(font.height));
     return editFont && editFont(font, color);
   }
+  // Confirms the chosen line, once; the user cancels a dialog that stays open.
+  std::optional<std::size_t> ChooseLine(const LineRequest& request) override {
+    lines = request.lines;
+    if (!confirms) return std::nullopt;
+    return request.confirm(chosenLine, *this) == Verdict::kTake ? chosenLine : std::nullopt;
+  }
+  // Turns the ticks of those lines.
+  bool TickLines(TickRequest& request) override {
+    for (const TickedLine& line : request.lines) {
+      shown.push_back((line.ticked ? L"+" : L"-") + line.text);
+    }
+    for (const std::size_t line : turned) request.lines[line].ticked = !request.lines[line].ticked;
+    return confirms;
+  }
 
   std::vector<std::wstring> shown;
   bool agrees = false;
@@ -51,6 +65,10 @@ class FakeDialogs final : public UserDialogs {
   FileNameRequest named;
   std::optional<std::uint32_t> chosenColor;                   // nothing cancels
   std::function<bool(LogFont& font, Color& color)> editFont;  // empty cancels
+  bool confirms = true;
+  std::vector<std::wstring> lines;
+  std::optional<std::size_t> chosenLine = 0;
+  std::vector<std::size_t> turned;
 };
 
 }  // namespace tidewell

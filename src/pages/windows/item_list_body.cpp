@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include <array>
 #include <utility>
 
 #include "pages/windows/list_lines.h"
@@ -23,21 +24,25 @@ void ItemListBody::Build() {
     ListView_SetImageList(list, icons_->Images(), LVSIL_SMALL);
   }
   for (const ItemButton& button : list_.buttons) Page().AddButton(button.id, button.textId, {});
+  for (const ItemButton& label : list_.labels) Page().AddLabel(label.id, label.textId, {}, SS_LEFT);
   LayOut();
 }
 
 void ItemListBody::Show(int showCommand) {
   ShowWindow(Page().Control(list_.listId), showCommand);
-  for (const ItemButton& button : list_.buttons) {
-    ShowWindow(Page().Control(button.id), showCommand);
+  for (const auto* controls : {&list_.buttons, &list_.labels}) {
+    for (const ItemButton& each : *controls) ShowWindow(Page().Control(each.id), showCommand);
   }
 }
 
 void ItemListBody::LayOut() {
   const PageMetrics metrics = Page().Metrics();
   Page().Place(list_.listId, PlaceOf(metrics, list_.place));
-  for (const ItemButton& button : list_.buttons) {
-    Page().Place(button.id, PlaceOf(metrics, button.place));
+  for (const ControlPlace& button : PlaceButtons(metrics, list_.buttons)) {
+    Page().Place(button.id, button.rect);
+  }
+  for (const ItemButton& label : list_.labels) {
+    Page().Place(label.id, PlaceOf(metrics, label.place));
   }
   FitColumn(Page().Control(list_.listId));
 }
@@ -45,11 +50,19 @@ void ItemListBody::LayOut() {
 bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
   if (listId != list_.listId) return false;
   if (icons_) icons_->Clear();
-  ShowLines(Page().Control(listId), lines, [this](const ListLine& line) {
-    return icons_ ? icons_->Load(line.text, true) : FileIcons::kNone;
-  });
+  ShowLines(Page().Control(listId), lines,
+            [this](const ListLine&) { return icons_ ? I_IMAGECALLBACK : FileIcons::kNone; });
   FitColumn(Page().Control(listId));
   return true;
+}
+
+// An icon takes some milliseconds to get, so it is fetched for the lines that are seen.
+void ItemListBody::OnShowLine(LVITEMW& line) {
+  if (!icons_ || !(line.mask & LVIF_IMAGE)) return;
+  std::array<wchar_t, MAX_PATH> path{};
+  ListView_GetItemText(Page().Control(list_.listId), line.iItem, 0, path.data(), MAX_PATH);
+  line.iImage = icons_->Load(path.data(), true);
+  line.mask |= LVIF_DI_SETITEM;
 }
 
 }  // namespace tidewell

@@ -16,6 +16,7 @@ class ItemListBody final : public TabBody {
   void Show(int showCommand) override;
   void LayOut() override;
   void Store() override {}
+  void OnShowLine(LVITEMW& line) override;
   bool SetLines(int listId, const std::vector<ListLine>& lines) override;
 
  private:

@@ -29,8 +29,6 @@ std::optional<PageEventKind> KindOf(WORD notification) {
       return PageEventKind::kClicked;
     case CBN_SELCHANGE:
       return PageEventKind::kChanged;
-    case CBN_SELENDOK:
-      return PageEventKind::kChosen;
     case CBN_EDITCHANGE:
     case EN_CHANGE:
       return PageEventKind::kEdited;
@@ -110,13 +108,28 @@ LRESULT RulesPage::OnCommand(HWND, WPARAM wParam, LPARAM) {
   const int id = LOWORD(wParam);
   const WORD notification = HIWORD(wParam);
   if (silent_ || !Control(id) || SelectedBody().OnCommand(id, notification)) return 0;
-  if (const auto kind = KindOf(notification)) Tell({id, *kind});
+  if (IsDecision(id, notification)) {
+    Tell({id, PageEventKind::kChosen});
+  } else if (const auto kind = KindOf(notification)) {
+    Tell({id, *kind});
+  }
   return 0;
+}
+
+// A decision in a list that is open is one when the list has closed: the rules may open a dialog.
+bool RulesPage::IsDecision(int id, WORD notification) {
+  if (notification == CBN_CLOSEUP) return std::exchange(decided_, false);
+  if (notification != CBN_SELENDOK) return false;
+  decided_ = SendMessageW(Control(id), CB_GETDROPPEDSTATE, 0, 0) != 0;
+  return !decided_;
 }
 
 LRESULT RulesPage::OnNotify(HWND, NMHDR* header) {
   const int id = static_cast<int>(header->idFrom);
   switch (header->code) {
+    case static_cast<UINT>(LVN_GETDISPINFOW):
+      SelectedBody().OnShowLine(reinterpret_cast<NMLVDISPINFOW*>(header)->item);
+      break;
     case static_cast<UINT>(LVN_ITEMCHANGED):
       if (!silent_) OnItemChanged(*reinterpret_cast<NMLISTVIEW*>(header));
       break;
@@ -232,7 +245,8 @@ void RulesPage::SetLines(int listId, const std::vector<ListLine>& lines) {
 }
 
 int RulesPage::SelectedLine(int listId) const {
-  return ListView_GetNextItem(Control(listId), -1, LVNI_SELECTED);
+  const HWND list = Control(listId);
+  return list ? ListView_GetNextItem(list, -1, LVNI_SELECTED) : kNoChoice;
 }
 
 void RulesPage::SelectLine(int listId, int line) {
@@ -240,6 +254,7 @@ void RulesPage::SelectLine(int listId, int line) {
   const int marked = line == kNoChoice ? SelectedLine(listId) : line;
   if (marked == kNoChoice) return;
   ListView_SetItemState(Control(listId), marked, line == kNoChoice ? 0 : marks, marks);
+  if (line != kNoChoice) ListView_EnsureVisible(Control(listId), line, FALSE);
 }
 
 void RulesPage::MoveLine(int listId, bool up) {

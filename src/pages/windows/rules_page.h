@@ -39,6 +39,7 @@ class RulesPage final : public SettingsPage, private PageView {
   bool OnPageKey(int direction) override;
   void OnWheel(int distance) override;
 
+  bool Has(int id) const override { return Control(id) != nullptr; }
   ControlState State(int id) const override { return SettingsPage::State(id); }
   void SetState(int id, const ControlState& state) override;
   void SetChoices(int id, const Choices& choices) override;
@@ -55,14 +56,16 @@ class RulesPage final : public SettingsPage, private PageView {
   // Tells the rules, and asks them what can be used now.
   void Tell(const PageEvent& event);
   void OnItemChanged(const NMLISTVIEW& change);
+  bool IsDecision(int id, WORD notification);
   LRESULT OnIconChosen(int id);
   void PaintRoom(HDC dc, const RECT& place);
 
   std::unique_ptr<PageRules> rules_;
   PageTabs tabs_;
   std::vector<BuiltTab> bodies_;
-  SIZE laidOut_{};       // the client size that the controls stand in
-  bool silent_ = false;  // the page and its rules change the controls themselves
+  SIZE laidOut_{};        // the client size that the controls stand in
+  bool decided_ = false;  // a line of the open drop-down list
+  bool silent_ = false;   // the page and its rules change the controls themselves
 };
 
 }  // namespace tidewell

@@ -33,6 +33,8 @@ class TabBody {
   // True when a command was the body's own business.
   virtual bool OnCommand(int /*id*/, int /*notification*/) { return false; }
   virtual void OnSelection(int /*listId*/, int /*line*/, bool /*selected*/) {}
+  // A line of the body's list comes into view whose picture is still to be told.
+  virtual void OnShowLine(LVITEMW& /*line*/) {}
   // False when the list is none of the body's.
   virtual bool SetLines(int /*listId*/, const std::vector<ListLine>& /*lines*/) { return false; }
   // Brings a control into view.

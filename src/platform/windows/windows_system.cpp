@@ -4,6 +4,12 @@
 
 namespace tidewell {
 
+namespace {
+
+constexpr WPARAM kTodayScreenChanged = 0xF2;
+
+}  // namespace
+
 ScreenFacts WindowsSystem::Screen() {
   const HDC screen = GetDC(nullptr);
   const ScreenFacts facts{GetDeviceCaps(screen, HORZRES), GetDeviceCaps(screen, VERTRES),
@@ -17,6 +23,10 @@ SystemVersion WindowsSystem::Version() {
   info.dwOSVersionInfoSize = sizeof info;
   if (!GetVersionExW(&info)) return {};
   return {info.dwMajorVersion, info.dwMinorVersion};
+}
+
+void WindowsSystem::RefreshTodayScreen() {
+  SendMessageW(GetDesktopWindow(), WM_SETTINGCHANGE, kTodayScreenChanged, 0);
 }
 
 }  // namespace tidewell

@@ -8,6 +8,7 @@ class WindowsSystem final : public System {
  public:
   ScreenFacts Screen() override;
   SystemVersion Version() override;
+  void RefreshTodayScreen() override;
 };
 
 }  // namespace tidewell

@@ -3,7 +3,9 @@
 #include "ui/windows/color_picker.h"
 #include "ui/windows/file_name_dialog.h"
 #include "ui/windows/font_dialog.h"
+#include "ui/windows/line_dialog.h"
 #include "ui/windows/path_dialog.h"
+#include "ui/windows/tick_dialog.h"
 
 namespace tidewell {
 
@@ -39,6 +41,14 @@ std::optional<Color> DeviceDialogs::ChooseColor(Color present, bool allowsDefaul
 
 bool DeviceDialogs::ChooseFont(LogFont& font, Color& color) {
   return RunFontDialog(context_(), font, color) == 1;
+}
+
+std::optional<std::size_t> DeviceDialogs::ChooseLine(const LineRequest& request) {
+  return tidewell::ChooseLine(context_(), request);
+}
+
+bool DeviceDialogs::TickLines(TickRequest& request) {
+  return tidewell::TickLines(context_(), request);
 }
 
 }  // namespace tidewell

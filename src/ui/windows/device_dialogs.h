@@ -23,6 +23,8 @@ class DeviceDialogs final : public UserDialogs {
   bool ChooseFileName(FileNameRequest& request) override;
   std::optional<Color> ChooseColor(Color present, bool allowsDefault) override;
   bool ChooseFont(LogFont& font, Color& color) override;
+  std::optional<std::size_t> ChooseLine(const LineRequest& request) override;
+  bool TickLines(TickRequest& request) override;
 
  private:
   std::function<DialogContext()> context_;
