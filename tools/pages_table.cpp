@@ -94,11 +94,29 @@ class PagesWriter {
       return;
     }
     for (const Row* row : tab.Rows()) Line(Text(row->textId), Controls(*row), *row);
+    if (const auto* list = std::get_if<ItemList>(&tab.body)) Items(*list);
+  }
+
+  void Items(const ItemList& list) {
+    std::wstring settings;
+    for (const Setting* setting : list.settings) {
+      settings += (settings.empty() ? L"" : L", ") + Value(setting);
+    }
+    Cells(L"", FormatDecimal(list.listId), L"filled by the page", settings);
+    for (const ItemButton& label : list.labels) Cells(Text(label.textId), FormatDecimal(label.id));
+    for (const ItemButton& each : list.buttons) {
+      Cells(Text(each.textId), FormatDecimal(each.id), L"button");
+    }
+  }
+
+  void Cells(const std::wstring& text, const std::wstring& controls, const std::wstring& kind = {},
+             const std::wstring& value = {}, const std::wstring& choices = {}) {
+    text_ += L"| " + text + L" | " + controls + L" | " + kind + L" | " + value + L" | " + choices +
+             L" |\n";
   }
 
   void Line(const std::wstring& text, const std::wstring& controls, const Row& row) {
-    text_ += L"| " + text + L" | " + controls + L" | " + KindOf(row) + L" | " + Value(row) +
-             L" | " + ChoicesOf(row) + L" |\n";
+    Cells(text, controls, KindOf(row), Value(row), ChoicesOf(row));
   }
 
   static std::wstring Controls(const Row& row) {
@@ -114,9 +132,11 @@ class PagesWriter {
     for (const DwordSetting* setting : row.order) {
       names += (names.empty() ? L"" : L", ") + Value(setting);
     }
-    const Setting* setting = row.number;
-    if (row.text) setting = row.text;
-    return setting ? Value(setting) : names;
+    for (const Setting* setting :
+         {static_cast<const Setting*>(row.number), static_cast<const Setting*>(row.text)}) {
+      if (setting) names += (names.empty() ? L"" : L", ") + Value(setting);
+    }
+    return names;
   }
 
   static std::wstring Value(const Setting* setting) {

@@ -59,6 +59,16 @@ Step Confirm(const wchar_t* name) {
   };
 }
 
+// Waits for what a key opens over the window in front, or for what was below it.
+Step Opens(WPARAM key) {
+  return [=](DrivenProgram& program) {
+    const HWND below = program.WaitForPopup();
+    program.Press(key);
+    WaitUntil([&] { return GetLastActivePopup(program.Main()) != below; });
+    program.WaitForPopup();
+  };
+}
+
 struct View {
   std::string name;
   std::vector<Step> steps;  // from the main list as it opens
@@ -142,6 +152,56 @@ std::vector<View> ViewsOf(const PageEntry& page, int row) {
   return views;
 }
 
+// The dialogs and messages of single pages, from a page as it opens.
+struct ViewOfPage {
+  PageIndex page;
+  View view;
+};
+
+const Step kToOrderTab = [](DrivenProgram& program) {
+  for (const WPARAM key : {VK_UP, VK_RIGHT, VK_DOWN}) program.Press(key);
+};
+const Step kToAddTab = Press(VK_TAB, 3);
+const Step kToFolders = [](DrivenProgram& program) {
+  program.Press(VK_UP);
+  program.Press(VK_RIGHT, 3);
+  program.Press(VK_DOWN);
+};
+
+const ViewOfPage kPageViews[] = {
+    {PageIndex::kContacts,
+     {"contacts-alphabets", {Press(VK_RETURN), Press(VK_END), Opens(VK_RETURN)}}},
+    {PageIndex::kNotes, {"notes-folder", {kToFolders, Press(VK_TAB), Opens(VK_RETURN)}}},
+    {PageIndex::kNotes,
+     {"notes-folder-listed",
+      {kToFolders, Press(VK_TAB), Opens(VK_RETURN), Press(VK_DOWN), Opens(VK_F1)}}},
+    {PageIndex::kNotes,
+     {"notes-nothing-selected",
+      {kToFolders, Press(VK_TAB, 2), Press(VK_RETURN), Opens(VK_RETURN)}}},
+    {PageIndex::kTabs, {"tabs-selected", {kToOrderTab, Press(VK_DOWN)}}},
+    {PageIndex::kTabs, {"tabs-plugin", {kToOrderTab, kToAddTab, Opens(VK_RETURN)}}},
+    {PageIndex::kTabs,
+     {"tabs-plugin-question",
+      {kToOrderTab, kToAddTab, Opens(VK_RETURN), Press(VK_DOWN), Opens(VK_RETURN)}}},
+    {PageIndex::kTabs,
+     {"tabs-plugin-added", {kToOrderTab, kToAddTab, Opens(VK_RETURN), Opens(VK_RETURN)}}},
+    {PageIndex::kTabs,
+     {"tabs-plugin-listed",
+      {kToOrderTab, kToAddTab, Opens(VK_RETURN), Opens(VK_RETURN), Opens(VK_RETURN),
+       Opens(VK_RETURN)}}},
+};
+
+std::vector<View> DialogViews() {
+  std::vector<View> views;
+  for (const ViewOfPage& each : kPageViews) {
+    View& view = views.emplace_back(each.view);
+    std::vector<Step> way = {Press(VK_RETURN), Popup};
+    if (const int row = static_cast<int>(each.page)) way.insert(way.begin(), Press(VK_DOWN, row));
+    view.steps.insert(view.steps.begin(), way.begin(), way.end());
+  }
+  return views;
+}
+
 std::vector<View> AllViews() {
   std::vector<View> views(std::begin(kViews), std::end(kViews));
   for (int row = 0; row < kPageCount; ++row) {
@@ -149,6 +209,7 @@ std::vector<View> AllViews() {
     if (!page.make) continue;
     for (View& view : ViewsOf(page, row)) views.push_back(std::move(view));
   }
+  for (View& view : DialogViews()) views.push_back(std::move(view));
   return views;
 }
 
@@ -188,8 +249,25 @@ void MakeBackups() {
   MakeBackup(kOtherKeys, L"\n[Software\\Microsoft\\Today\\Items]\n\"x\"=dword:1\n");
 }
 
+// Two for the Notes page.
+void MakeNoteFolders() {
+  HKEY key = nullptr;
+  RegCreateKeyExW(HKEY_CURRENT_USER, L"Software\\Velmont\\Tidewell\\Notes\\Folders", 0, nullptr, 0,
+                  KEY_ALL_ACCESS, nullptr, &key, nullptr);
+  CreateDirectoryW(L"C:\\Storage Card", nullptr);
+  CreateDirectoryW(L"C:\\Storage Card\\Notes", nullptr);
+  const std::pair<const wchar_t*, std::wstring> folders[] = {{L"0", L"\\My Documents"},
+                                                             {L"1", L"\\Storage Card\\Notes"}};
+  for (const auto& [name, path] : folders) {
+    const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
+    RegSetValueExW(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()), size);
+  }
+  RegCloseKey(key);
+}
+
 int TakeTour() {
   MakeBackups();
+  MakeNoteFolders();
   for (const View& view : AllViews()) {
     if (!Show(view)) {
       Say("trouble", view.name);

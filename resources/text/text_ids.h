@@ -150,6 +150,46 @@
 #define IDS_PIM_COMPANION_MISSING 1647          // Velmont Calendar is not installed on this device.
 #define IDS_PIM_COMPANION_MISSING_CAPTION 1648  // Not installed
 
+// The search bar of contacts and notes.
+#define IDS_SEARCH_BAR 1407           // Search bar
+#define IDS_SEARCH_BAR_NONE 1408      // None
+#define IDS_SEARCH_BAR_LATIN 1409     // Latin
+#define IDS_SEARCH_BAR_CYRILLIC 1410  // Cyrillic
+#define IDS_SEARCH_BAR_HEBREW 1411    // Hebrew
+#define IDS_SEARCH_BAR_GREEK 1412     // Greek
+#define IDS_SEARCH_BAR_ALL 1413       // All alphabets
+#define IDS_SEARCH_BAR_CHOOSE 1440    // Alphabets...
+
+// Contacts.
+#define IDS_ACTION_KEY_CALLS 1476               // Call
+#define IDS_CONTACTS_CATEGORY_COLOR 1488        // Names in their category's color
+#define IDS_CONTACTS_TAB_COLUMNS 1063           // Columns
+#define IDS_CONTACTS_LAYOUT 1448                // Layout
+#define IDS_CONTACTS_LAYOUT_COLUMNS 1445        // Two columns
+#define IDS_CONTACTS_LAYOUT_LINES 1446          // Two lines
+#define IDS_CONTACTS_LAYOUT_PICTURES 1447       // Pictures
+#define IDS_CONTACTS_PHONE_WIDTH 1449           // Phone column
+#define IDS_CONTACTS_HIDE_WITHOUT_PICTURE 1450  // Hide contacts without picture
+
+// Notes.
+#define IDS_NOTES_TAB_TYPES 1494              // File types
+#define IDS_NOTES_TAB_FOLDERS 1492            // Folders
+#define IDS_NOTES_PREVIEW 1403                // Preview
+#define IDS_NOTES_PREVIEW_NEVER 1404          // Never
+#define IDS_NOTES_PREVIEW_SELECTED 1405       // When selected
+#define IDS_NOTES_PREVIEW_ALWAYS 1406         // Always
+#define IDS_NOTES_TYPE_INK 1495               // Notes (pwi)
+#define IDS_NOTES_TYPE_RECORDINGS 1496        // Recordings (wav)
+#define IDS_NOTES_TYPE_TEXTS 1497             // Text files (txt)
+#define IDS_NOTES_TYPE_DOCUMENTS 1498         // Word documents (doc, docx)
+#define IDS_NOTES_TYPE_WORKBOOKS 1499         // Excel workbooks (xls, xlsx)
+#define IDS_NOTES_TYPE_LISTS 1504             // Listwise lists
+#define IDS_NOTES_FOLDERS 1493                // Folders of notes
+#define IDS_NOTES_ADD_FOLDER 1517             // Add
+#define IDS_NOTES_REMOVE_FOLDER 860           // Remove
+#define IDS_NOTES_FOLDER_LISTED 1519          // This folder is in the list already.
+#define IDS_NOTES_FOLDER_LISTED_CAPTION 1518  // Already added
+
 // Tabs.
 #define IDS_TABS_TAB_ORDER 1637            // Order
 #define IDS_TABS_TAB_DEFAULT 1402          // Default tab

@@ -22,8 +22,11 @@ constexpr std::array<Probe, 4> kProbes = {{
     {RegistryRoot::kCurrentUser, L"SOFTWARE\\Developer One\\Agenda One", L"InstallPath"},
 }};
 
-constexpr const wchar_t* kWeatherKey = L"SOFTWARE\\Velmont Weather";
-constexpr const wchar_t* kWeatherLibrary = L"UtilityLibrary";
+// Empty when the maker's program is not there.
+std::wstring UtilityLibraryOf(Registry& registry, const wchar_t* programKey) {
+  const auto key = registry.Open(RegistryRoot::kCurrentUser, programKey);
+  return FindString(key.get(), L"UtilityLibrary").value_or(L"");
+}
 
 }  // namespace
 
@@ -35,9 +38,12 @@ bool IsInstalled(Registry& registry, CalendarProgram program) {
 }
 
 bool HasWeather(Registry& registry, Files& files) {
-  const auto key = registry.Open(RegistryRoot::kCurrentUser, kWeatherKey);
-  const std::wstring path = FindString(key.get(), kWeatherLibrary).value_or(L"");
+  const std::wstring path = UtilityLibraryOf(registry, L"SOFTWARE\\Velmont Weather");
   return !path.empty() && files.Find(path);
+}
+
+bool HasListwise(Registry& registry) {
+  return !UtilityLibraryOf(registry, L"SOFTWARE\\Velmont Listwise").empty();
 }
 
 }  // namespace tidewell

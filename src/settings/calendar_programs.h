@@ -1,4 +1,4 @@
-// Which other calendar programs the device has.
+// Which other programs the device has that the Today item works with.
 #pragma once
 
 #include <cstdint>
@@ -19,5 +19,7 @@ enum class CalendarProgram : std::uint8_t {
 bool IsInstalled(Registry& registry, CalendarProgram program);
 // Whether the weather program's library is known and where it is said to be.
 bool HasWeather(Registry& registry, Files& files);
+// Whether the list program says where its library is.
+bool HasListwise(Registry& registry);
 
 }  // namespace tidewell

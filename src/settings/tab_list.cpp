@@ -21,6 +21,10 @@ void InsertByOrder(TabList& tabs, TabEntry entry) {
   tabs.insert(behind, std::move(entry));
 }
 
+void SortByOrder(TabList& tabs) {
+  tabs.sort([](const TabEntry& left, const TabEntry& right) { return left.order < right.order; });
+}
+
 void Renumber(TabList& tabs) {
   std::int32_t order = 0;
   for (TabEntry& entry : tabs) entry.order = ++order;

@@ -36,6 +36,8 @@ using TabList = std::list<TabEntry>;
 
 // Puts the entry behind those of a lower or the same order.
 void InsertByOrder(TabList& tabs, TabEntry entry);
+// Entries of the same order stay as they stand.
+void SortByOrder(TabList& tabs);
 // Gives the entries the orders 1, 2, 3 ... from the front.
 void Renumber(TabList& tabs);
 // Null when there is none.

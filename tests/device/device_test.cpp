@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -81,23 +82,44 @@ TEST_F(DeviceTest, KeysOpenAPageAndWorkItAndWhatTheyChangedIsStored) {
 
 // On each tab of a page one change, and no other value than those comes into the registry.
 TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
-  // From the row of tabs: a step of the D-pad each, t for Tab, s for Space.
+  // From the row of tabs: a step of the D-pad each, a for its action key, t for Tab, s for Space, e
+  // for End, k for the left soft key.
   const struct {
     int page, tab;
     std::string_view keys;
-  } changes[] = {{1, 0, "ddr"},  {1, 1, "dr"},       {1, 2, "dts"},  {1, 3, "ddddtds"},
-                 {1, 4, "ddds"}, {1, 5, "dddddtds"}, {1, 6, "dtds"}, {1, 7, "dr"},
-                 {1, 8, "dtds"}, {2, 0, "ds"},       {2, 1, "dr"},   {2, 2, "dr"},
-                 {2, 3, "ddds"}};
+  } changes[] = {{1, 0, "ddr"},
+                 {1, 1, "dr"},
+                 {1, 2, "dts"},
+                 {1, 3, "ddddtds"},
+                 {1, 4, "ddds"},
+                 {1, 5, "dddddtds"},
+                 {1, 6, "dtds"},
+                 {1, 7, "dr"},
+                 {1, 8, "dtds"},
+                 {2, 0, "ds"},
+                 {2, 1, "dr"},
+                 {2, 2, "dr"},
+                 {2, 3, "ddds"},
+                 {3, 0, "ddl"},
+                 {3, 1, "dr"},
+                 {3, 2, "ds"},
+                 {3, 3, "ddadk"},
+                 // The last line of the search bar leads to the alphabets and to its first line.
+                 {4, 0, "daeaeak"},
+                 {4, 1, "dr"},
+                 {4, 2, "ddr"},
+                 {10, 0, "dl"},
+                 {10, 1, "dstttaa"},
+                 {10, 2, "dr"}};
+  constexpr wchar_t kFirstFolder[] = L"C:\\A folder of notes";
+  CreateDirectoryW(kFirstFolder, nullptr);
   ASSERT_TRUE(ImportRegistry(R"(
 [HKEY_CURRENT_USER\SOFTWARE\Velmont Weather]
 "UtilityLibrary"="C:\\Program Files\\Velmont\\Tidewell\\LowDpiRes.dll"
 )"));
-  const auto press = [](DrivenProgram& program, std::string_view keys) {
-    for (const char key : keys) {
-      program.Press(key == 'd' ? VK_DOWN : key == 'r' ? VK_RIGHT : key == 't' ? VK_TAB : VK_SPACE);
-    }
-  };
+  const std::map<char, WPARAM> named = {{'d', VK_DOWN}, {'l', VK_LEFT},  {'r', VK_RIGHT},
+                                        {'t', VK_TAB},  {'s', VK_SPACE}, {'a', VK_RETURN},
+                                        {'e', VK_END},  {'k', VK_F1}};
   DrivenProgram program;
   ASSERT_TRUE(program.WaitForMainWindow());
   int page = 0;
@@ -107,12 +129,13 @@ TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
     ASSERT_TRUE(program.WaitForPopup());
     program.Press(VK_UP);  // to its tabs
     program.Press(VK_RIGHT, change.tab);
-    press(program, change.keys);
+    for (const char key : change.keys) program.Press(named.at(key));
     program.PressOk();
     ASSERT_TRUE(program.WaitForPopupToGo());
   }
   program.Press(VK_F1);  // Done
   EXPECT_TRUE(program.Ended());
+  RemoveDirectoryW(kFirstFolder);
   EXPECT_EQ(QueryProductTree(), R"([\Calendar]
     ClrApptRightIcons = REG_DWORD 0x1de
     dAppoPassedToday = REG_DWORD 0x1
@@ -123,6 +146,28 @@ TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
     MonthlyPopWithWeekNum = REG_DWORD 0x1
     ShowTomorrowTtl = REG_DWORD 0x0
     WeatehrLayout = REG_DWORD 0x2
+[\Contacts]
+    CntctsActiveLanguages = REG_DWORD 0x11
+    CntctsActiveSearchBar = REG_DWORD 0x0
+    CntctsBreakLineStyle = REG_DWORD 0x2
+    CntctsPhoneColumnWidth = REG_DWORD 0x5f
+[\Contacts\Alphabets]
+    Thai = REG_DWORD 0x1
+[\Notes]
+    NotesBreakLineStyle = REG_DWORD 0x2
+    NotesPreviewNotesState = REG_DWORD 0x1
+    NotesScannedFileTypes = REG_DWORD 0x33e
+[\Notes\Folders]
+    0 = REG_SZ \A folder of notes
+[\TabSettings]
+    DfltTabTimeOut = REG_DWORD 0x1
+    TabsPosition = REG_DWORD 0x2
+    TasksTabEnabled = REG_DWORD 0x0
+[\TabSettings\Moon phases]
+    DLL = REG_SZ \Program Files\Moon phases\moon.dll
+    Enabled = REG_DWORD 0x1
+    Order = REG_DWORD 0x7
+    Type = REG_DWORD 0x1
 [\Tasks]
     HideCompletedTasks = REG_DWORD 0x1
     TasksRightIcons = REG_DWORD 0x17e

@@ -54,6 +54,10 @@ std::set<int> TextsOfPages() {
         ids.insert(row->textId);
         for (const Choice& choice : row->choices) ids.insert(choice.textId);
       }
+      if (const auto* list = std::get_if<ItemList>(&tab.body)) {
+        for (const ItemButton& button : list->buttons) ids.insert(button.textId);
+        for (const ItemButton& label : list->labels) ids.insert(label.textId);
+      }
       if (const auto* list = std::get_if<OptionList>(&tab.body)) {
         for (const Option& option : list->options) {
           ids.insert({option.lineTextId, option.tipTextId});
