@@ -125,6 +125,7 @@ void FullScreenDialog::OnInit() {
   SetWindowTextW(window_, title_.c_str());
   MakeSoftKeys();
   OnCreate();
+  laidOut_ = {};  // there was nothing to place before
   SHINITDLGINFO info{};
   info.dwMask = SHIDIM_FLAGS;
   info.hDlg = window_;
@@ -164,6 +165,8 @@ void FullScreenDialog::FillMenu() {
 
 void FullScreenDialog::LayOut() {
   const RECT client = ClientArea(window_);
+  if (EqualRect(&client, &laidOut_)) return;
+  laidOut_ = client;
   OnLayout(client.right, client.bottom);
 }
 

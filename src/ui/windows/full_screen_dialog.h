@@ -90,6 +90,7 @@ class FullScreenDialog {
   HWND menuBar_ = nullptr;
   HMENU menu_ = nullptr;  // of the right key, the menu bar's own
   SHACTIVATEINFO activation_{};
+  RECT laidOut_{};  // the client area that the controls are placed in
   Font font_;
   Font labelFont_;
 };
