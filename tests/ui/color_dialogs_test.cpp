@@ -80,6 +80,11 @@ TEST_F(ColorDialogsTest, TheSwatchesOfTheKeysNumbersAreChosenAndLeftLikeAnyOther
                   {tap(IDCANCEL), L"2 153 204 255 99CCFF @2"},
                   {Key(VK_ESCAPE), L""}}),
             kColorCancelled);
+  // As the dialog's loop says it where no control has the focus.
+  const auto cancel = [] {
+    PostMessageW(FrontDialog(), WM_COMMAND, IDCANCEL, reinterpret_cast<LPARAM>(Item(IDCANCEL)));
+  };
+  EXPECT_EQ(Pick(5, false, {{cancel, L""}}), kColorCancelled);
   EXPECT_EQ(Pick(5, false, {{Command(1020), L""}}), kColorCancelled);
 }
 
