@@ -23,10 +23,9 @@ std::wstring_view TakeKeyName(std::wstring_view& path) {
 }
 
 // As the registry finds keys: name by name, without regard to case.
-bool IsWithinProductKey(std::wstring_view path) {
-  std::wstring_view product = kProductKey;
-  while (!product.empty()) {
-    if (!EqualIgnoringCase(TakeKeyName(path), TakeKeyName(product))) return false;
+bool IsWithin(std::wstring_view tree, std::wstring_view path) {
+  while (!tree.empty()) {
+    if (!EqualIgnoringCase(TakeKeyName(path), TakeKeyName(tree))) return false;
   }
   return true;
 }
@@ -153,7 +152,7 @@ class RegistryTextReader {
 class OutsideKeyFinder final : public TextTarget {
  public:
   bool OpenKey(const std::wstring& path) override {
-    if (!IsWithinProductKey(path)) outsideKey = path;
+    if (!IsWithin(kProductKey, path)) outsideKey = path;
     return !outsideKey;
   }
 
@@ -162,13 +161,14 @@ class OutsideKeyFinder final : public TextTarget {
 
 class ImportTarget final : public TextTarget {
  public:
-  ImportTarget(Registry& registry, CategoryCatalog& catalog)
-      : registry_(registry), catalog_(catalog) {}
+  ImportTarget(Registry& registry, CategoryCatalog& catalog, std::span<const std::wstring> trees)
+      : registry_(registry), catalog_(catalog), trees_(trees) {}
 
   bool HasChanged() const { return hasChanged_; }
 
   bool OpenKey(const std::wstring& path) override {
     key_.reset();
+    if (!Takes(path)) return true;
     // A deletion that failed may have come half way.
     if (path == kProductKey &&
         registry_.DeleteTree(RegistryRoot::kCurrentUser, path) != kStatusFileNotFound) {
@@ -182,6 +182,7 @@ class ImportTarget final : public TextTarget {
   // Written whatever the registry holds now, but for the string that an import deletes. The caller
   // flushes when all is in.
   void TakeValue(const ParsedValue& value) override {
+    if (!key_) return;
     static const std::wstring kSentinel(kDeletedString);
     if (value.isNumber) {
       WriteDword(key_.get(), value.name, static_cast<std::uint32_t>(value.number));
@@ -191,7 +192,7 @@ class ImportTarget final : public TextTarget {
   }
 
   void TakeExactValue(const EnumeratedValue& value) override {
-    key_->Set(value.name, value.type, value.data);
+    if (key_) key_->Set(value.name, value.type, value.data);
   }
 
   void TakeCategory(const std::wstring& name, std::int32_t flags, std::int32_t color) override {
@@ -204,7 +205,7 @@ class ImportTarget final : public TextTarget {
 
   void TakeFilter(std::int32_t index, const std::wstring& title, bool visible,
                   bool uncategorized) override {
-    FilterRecord* record = catalog_.FindFilter(index);
+    FilterRecord* record = trees_.empty() ? catalog_.FindFilter(index) : nullptr;
     if (!record) return;
     record->title = title;
     record->visible = visible;
@@ -213,9 +214,15 @@ class ImportTarget final : public TextTarget {
   }
 
  private:
+  bool Takes(const std::wstring& path) const {
+    const auto holdsIt = [&](const std::wstring& tree) { return IsWithin(tree, path); };
+    return trees_.empty() || std::ranges::any_of(trees_, holdsIt);
+  }
+
   Registry& registry_;
   CategoryCatalog& catalog_;
-  std::unique_ptr<RegistryKey> key_;
+  std::span<const std::wstring> trees_;
+  std::unique_ptr<RegistryKey> key_;  // null while a section is passed over
   bool hasChanged_ = false;
 };
 
@@ -229,8 +236,9 @@ TextSurvey SurveyRegistryText(TextReader& stream) {
   return {true, finder.outsideKey};
 }
 
-TextImport ImportRegistryText(Registry& registry, CategoryCatalog& catalog, TextReader& stream) {
-  ImportTarget target(registry, catalog);
+TextImport ImportRegistryText(Registry& registry, CategoryCatalog& catalog, TextReader& stream,
+                              std::span<const std::wstring> trees) {
+  ImportTarget target(registry, catalog, trees);
   RegistryTextReader reader(stream, target);
   if (!reader.Begin()) return TextImport::kRefused;
   if (reader.Read()) return TextImport::kWhole;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,8 @@ inline constexpr std::wstring_view kCopyMark = L"Tidewell settings, everything, 
 bool ExportRegistryText(Registry& registry, const CategoryCatalog& catalog,
                         const std::wstring& keyPath, TextWriter& stream,
                         TextKind kind = TextKind::kBackup);
+// What a copy begins with.
+void WriteCopyMark(TextWriter& stream);
 // Creates the key when it is missing.
 bool WriteKeyTree(Registry& registry, const std::wstring& keyPath, TextWriter& stream,
                   TextKind kind = TextKind::kBackup);
@@ -54,7 +57,9 @@ enum class TextImport : std::uint8_t {
   kInPart,   // a key that cannot be created; what was read before it stays
   kWhole,
 };
-// Reads the text into the registry and the catalogue's records, in memory only for those.
-TextImport ImportRegistryText(Registry& registry, CategoryCatalog& catalog, TextReader& stream);
+// Reads the text into the registry and the catalogue's records, in memory only for those. Where
+// `trees` names keys, only they and what is below them are written, and no filter is taken.
+TextImport ImportRegistryText(Registry& registry, CategoryCatalog& catalog, TextReader& stream,
+                              std::span<const std::wstring> trees = {});
 
 }  // namespace tidewell

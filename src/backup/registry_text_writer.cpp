@@ -218,14 +218,16 @@ class CopyTreeWriter {
 
 bool ExportRegistryText(Registry& registry, const CategoryCatalog& catalog,
                         const std::wstring& keyPath, TextWriter& stream, TextKind kind) {
-  if (kind == TextKind::kCopy) {
-    stream.Write(L"\n");
-    stream.Write(kCopyMark);
-  }
+  if (kind == TextKind::kCopy) WriteCopyMark(stream);
   const bool wasRead = WriteKeyTree(registry, keyPath, stream, kind);
   WriteCategoriesSection(catalog, stream, kind);
   WriteFiltersSection(catalog, stream, kind);
   return wasRead && (kind == TextKind::kBackup || catalog.WasReadWhole());
+}
+
+void WriteCopyMark(TextWriter& stream) {
+  stream.Write(L"\n");
+  stream.Write(kCopyMark);
 }
 
 bool WriteKeyTree(Registry& registry, const std::wstring& keyPath, TextWriter& stream,
