@@ -2,6 +2,7 @@
 
 #include "platform/text.h"
 #include "resources/text/text_ids.h"
+#include "ui/file_advice.h"
 #include "ui/user_dialogs.h"
 
 namespace tidewell {
@@ -22,22 +23,6 @@ std::wstring KeyShown(const std::wstring& key) {
   std::wstring shown = L"HKEY_CURRENT_USER\\" + key;
   if (shown.size() > kLongestKeyShown) shown.replace(kLongestKeyShown, shown.npos, L"...");
   return shown;
-}
-
-int AdviceOn(FileStatus cause) {
-  switch (cause) {
-    case FileStatus::kAbsent:
-      return IDS_FILE_ABSENT;
-    case FileStatus::kRefused:
-    case FileStatus::kInUse:  // where a file cannot be replaced the system tells the two not apart
-      return IDS_FILE_PROTECTED;
-    case FileStatus::kFull:
-      return IDS_FILE_FULL;
-    case FileStatus::kOk:
-    case FileStatus::kOther:
-      break;
-  }
-  return 0;
 }
 
 }  // namespace
@@ -61,14 +46,9 @@ ImportQuestions BackupCommands::Questions() {
                            kNextParagraph + language.Text(IDS_IMPORT_OUTSIDE_QUESTION));
           },
           [this](FileStatus cause) {
-            return Confirm(WithAdvice(IDS_IMPORT_NO_COPY, cause) + kNextParagraph +
+            return Confirm(WithAdvice(language, IDS_IMPORT_NO_COPY, cause) + kNextParagraph +
                            language.Text(IDS_IMPORT_NO_COPY_QUESTION));
           }};
-}
-
-std::wstring BackupCommands::WithAdvice(int textId, FileStatus cause) const {
-  const int advice = AdviceOn(cause);
-  return language.Text(textId) + (advice ? L' ' + language.Text(advice) : L"");
 }
 
 void BackupCommands::ExportSettingsBackup() {
@@ -81,7 +61,7 @@ void BackupCommands::ExportSettingsBackup() {
   // There is only this one message; where nothing was written it says so too.
   const FileStatus status = backup.ExportTo(request.resultPath);
   if (status != FileStatus::kOk)
-    message += kNextParagraph + WithAdvice(IDS_EXPORT_NOT_WRITTEN, status);
+    message += kNextParagraph + WithAdvice(language, IDS_EXPORT_NOT_WRITTEN, status);
   dialogs.ShowMessage(message, language.Text(IDS_EXPORT_DONE_CAPTION));
 }
 
@@ -96,7 +76,7 @@ bool BackupCommands::ImportSettingsBackup() {
       return false;
     case ImportResult::kRefused:
       dialogs.ShowMessage(language.Text(IDS_IMPORT_FAILED) + kNextParagraph +
-                              WithAdvice(IDS_IMPORT_NOTHING_CHANGED, outcome.cause),
+                              WithAdvice(language, IDS_IMPORT_NOTHING_CHANGED, outcome.cause),
                           language.Text(IDS_IMPORT_FAILED_CAPTION));
       return false;
     case ImportResult::kReplacedInPart:
@@ -119,7 +99,7 @@ void BackupCommands::SayReplacedInPart(const std::wstring& copy) {
 void BackupCommands::SayDone(FileStatus filters) {
   std::wstring message = language.Text(IDS_IMPORT_DONE);
   if (filters != FileStatus::kOk)
-    message += kNextParagraph + WithAdvice(IDS_FILTERS_NOT_WRITTEN, filters);
+    message += kNextParagraph + WithAdvice(language, IDS_FILTERS_NOT_WRITTEN, filters);
   dialogs.ShowMessage(message, language.Text(IDS_IMPORT_DONE_CAPTION));
 }
 

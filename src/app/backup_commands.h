@@ -29,8 +29,6 @@ struct BackupCommands {
  private:
   bool Choose(FileNameRequest& request);
   bool Confirm(const std::wstring& question);
-  // The text, and what the user can do about the cause.
-  std::wstring WithAdvice(int textId, FileStatus cause) const;
   ImportQuestions Questions();
   void SayReplacedInPart(const std::wstring& copy);
   void SayDone(FileStatus filters);
