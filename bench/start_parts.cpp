@@ -66,6 +66,7 @@ struct MarkingMachine final : ResourceLibraries, System {
   }
   SystemVersion Version() override { return machine.system.Version(); }
   void RefreshTodayScreen() override { machine.system.RefreshTodayScreen(); }
+  std::vector<std::wstring> FontFaces() override { return machine.system.FontFaces(); }
 
   Marks& marks;
   WindowsMachine machine;

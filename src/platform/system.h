@@ -1,5 +1,8 @@
-// The door to the device itself: its screen, its version and its Today screen.
+// The door to the device itself: its screen, its version, its type faces and its Today screen.
 #pragma once
+
+#include <string>
+#include <vector>
 
 namespace tidewell {
 
@@ -27,6 +30,8 @@ class System {
   virtual SystemVersion Version() = 0;
   // Asks the Today screen to read anew what is registered with it.
   virtual void RefreshTodayScreen() = 0;
+  // The names of the installed faces, in no promised order; one may come twice.
+  virtual std::vector<std::wstring> FontFaces() = 0;
 };
 
 }  // namespace tidewell

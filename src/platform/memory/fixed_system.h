@@ -1,4 +1,4 @@
-// A device whose screen and version a test lays down.
+// A device whose screen, version and faces a test lays down.
 #pragma once
 
 #include "platform/system.h"
@@ -10,10 +10,12 @@ class FixedSystem final : public System {
   ScreenFacts screen;
   SystemVersion version;
   int refreshes = 0;  // asked for
+  std::vector<std::wstring> fontFaces = {L"Tahoma", L"Courier New", L"Arial"};
 
   ScreenFacts Screen() override { return screen; }
   SystemVersion Version() override { return version; }
   void RefreshTodayScreen() override { ++refreshes; }
+  std::vector<std::wstring> FontFaces() override { return fontFaces; }
 };
 
 }  // namespace tidewell

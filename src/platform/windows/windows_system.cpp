@@ -8,6 +8,14 @@ namespace {
 
 constexpr WPARAM kTodayScreenChanged = 0xF2;
 
+// A name that begins with an at sign is a face turned for vertical writing.
+int CALLBACK TakeFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM faces) {
+  if (font->lfFaceName[0] != L'@') {
+    reinterpret_cast<std::vector<std::wstring>*>(faces)->emplace_back(font->lfFaceName);
+  }
+  return 1;
+}
+
 }  // namespace
 
 ScreenFacts WindowsSystem::Screen() {
@@ -27,6 +35,14 @@ SystemVersion WindowsSystem::Version() {
 
 void WindowsSystem::RefreshTodayScreen() {
   SendMessageW(GetDesktopWindow(), WM_SETTINGCHANGE, kTodayScreenChanged, 0);
+}
+
+std::vector<std::wstring> WindowsSystem::FontFaces() {
+  std::vector<std::wstring> faces;
+  const HDC screen = GetDC(nullptr);
+  EnumFontFamiliesW(screen, nullptr, TakeFace, reinterpret_cast<LPARAM>(&faces));
+  ReleaseDC(nullptr, screen);
+  return faces;
 }
 
 }  // namespace tidewell

@@ -9,6 +9,7 @@ class WindowsSystem final : public System {
   ScreenFacts Screen() override;
   SystemVersion Version() override;
   void RefreshTodayScreen() override;
+  std::vector<std::wstring> FontFaces() override;
 };
 
 }  // namespace tidewell
