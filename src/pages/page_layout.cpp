@@ -116,8 +116,8 @@ void PlacePathButtons(const PageMetrics& metrics, int clearId, int browseId, int
 
 }  // namespace
 
-bool IsNarrow(const PageMetrics& metrics) {
-  return metrics.clientWidth < metrics.scale.ScaleX(kLabelRight + kLeastLabel);
+bool IsNarrow(const ScreenScale& scale, int clientWidth) {
+  return clientWidth < scale.ScaleX(kLabelRight + kLeastLabel);
 }
 
 std::wstring FitWords(TextMeasure& measure, const std::wstring& text, int width) {
@@ -189,10 +189,7 @@ RowPlace PlacePathEdit(const PageMetrics& metrics, int editId, int clearId, int 
   return row;
 }
 
-Rect PlaceOf(const PageMetrics& metrics, const DesignPlace& place) {
-  const ScreenScale& scale = metrics.scale;
-  const int width = metrics.clientWidth;
-  const int height = metrics.clientHeight;
+Rect PlaceOf(const ScreenScale& scale, int width, int height, const DesignPlace& place) {
   Rect rect;
   rect.left = scale.ScaleX(place.left) + (place.left < 0 ? width : 0);
   rect.top = scale.ScaleY(place.top) + (place.top < 0 ? height : 0);

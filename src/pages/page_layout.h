@@ -36,7 +36,10 @@ struct DesignPlace {
   int height = 0;
 };
 // In pixels; never smaller than nothing.
-Rect PlaceOf(const PageMetrics& metrics, const DesignPlace& place);
+Rect PlaceOf(const ScreenScale& scale, int width, int height, const DesignPlace& place);
+inline Rect PlaceOf(const PageMetrics& metrics, const DesignPlace& place) {
+  return PlaceOf(metrics.scale, metrics.clientWidth, metrics.clientHeight, place);
+}
 
 struct ControlPlace {
   int id;
@@ -64,7 +67,10 @@ struct RowPlace {
 };
 
 // Too narrow for two columns.
-bool IsNarrow(const PageMetrics& metrics);
+bool IsNarrow(const ScreenScale& scale, int clientWidth);
+inline bool IsNarrow(const PageMetrics& metrics) {
+  return IsNarrow(metrics.scale, metrics.clientWidth);
+}
 
 // Rows by themselves, at `y`, in pixels. A caption that is too long for its column wraps and makes
 // its row higher. Where a page is too narrow for two columns, a label stands above its control.

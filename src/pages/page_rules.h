@@ -4,12 +4,14 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "pages/page_tabs.h"
 #include "preview/canvas.h"
+#include "settings/setting.h"
 
 namespace tidewell {
 
@@ -20,6 +22,16 @@ struct ListLine {
   bool ticked = false;
 
   bool operator==(const ListLine&) const = default;
+};
+
+// How a line of an item list differs from the others. kNoColor is the list's own.
+struct LineLook {
+  LogFont font;  // without a face: the list's own
+  Color ink = kNoColor;
+  Color paper = kNoColor;
+  std::optional<Color> swatch;  // stands at the line's right edge
+
+  bool operator==(const LineLook&) const = default;
 };
 
 // What rules may ask of their page's window. An id without a control on this device has the state
@@ -36,6 +48,8 @@ class PageView {
   virtual void SetChoices(int id, const Choices& choices) = 0;
   virtual std::vector<ListLine> Lines(int listId) const = 0;
   virtual void SetLines(int listId, const std::vector<ListLine>& lines) = 0;
+  // Lasts until the list gets other lines.
+  virtual void SetLook(int listId, int line, const LineLook& look) = 0;
   // kNoChoice stands for none, in both directions.
   virtual int SelectedLine(int listId) const = 0;
   // A selected line comes into view.

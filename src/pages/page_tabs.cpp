@@ -25,9 +25,23 @@ struct IdCollector {
     ids.insert(list.listId);
     for (const ItemButton& button : list.buttons) ids.insert(button.id);
     for (const ItemButton& label : list.labels) ids.insert(label.id);
+    for (const ItemField& field : list.fields) ids.insert({field.id, field.button.id});
   }
 
   std::set<int> ids;
+};
+
+// A font's are its six numbers.
+class PartCollector final : public SettingVisitor {
+ public:
+  using SettingVisitor::Visit;
+  explicit PartCollector(std::set<const Setting*>& parts) : parts_(parts) {}
+  void Visit(DwordSetting& setting) override { parts_.insert(&setting); }
+  void Visit(StringSetting& setting) override { parts_.insert(&setting); }
+  void Visit(FlagArraySetting& setting) override { parts_.insert(&setting); }
+
+ private:
+  std::set<const Setting*>& parts_;
 };
 
 struct RowCollector {
@@ -74,6 +88,11 @@ Option TextOption(int lineTextId, int tipTextId, StringSetting& setting) {
   return {lineTextId, tipTextId, Text(0, 0, 0, setting)};
 }
 
+std::wstring SettingLine::TextIn(const Language& language) const {
+  const std::wstring text = language.Text(textId);
+  return groupId ? language.Text(groupId) + L": " + text : text;
+}
+
 std::vector<int> PageTab::ControlIds() const {
   IdCollector collector;
   std::visit(std::ref(collector), body);
@@ -95,6 +114,8 @@ std::set<const Setting*> PageTab::Settings() const {
   }
   if (const auto* list = std::get_if<ItemList>(&body)) {
     settings.insert(list->settings.begin(), list->settings.end());
+    PartCollector collector(settings);
+    for (const SettingLine& line : list->lines) line.setting->Accept(collector);
   }
   settings.erase(nullptr);
   return settings;

@@ -65,6 +65,23 @@ enum class ListLook : std::uint8_t {
   kIcons,   // with the icon of the folder that each line names
 };
 
+// A text that can be typed above the list, and the button that takes it.
+struct ItemField {
+  int id;
+  DesignPlace place;
+  int longest;  // in characters
+  ItemButton button;
+};
+
+// A line that stands for a setting, which the page's rules store.
+struct SettingLine {
+  std::wstring TextIn(const Language& language) const;
+
+  int textId;
+  Setting* setting;
+  int groupId = 0;  // of a text that stands before the line's own
+};
+
 // Items that the page's rules fill in, and buttons that do something to them.
 struct ItemList {
   int listId;
@@ -73,6 +90,9 @@ struct ItemList {
   std::vector<ItemButton> buttons;
   std::vector<ItemButton> labels = {};
   std::vector<const Setting*> settings = {};  // that the items are stored in
+  std::vector<ItemField> fields = {};
+  std::vector<SettingLine> lines = {};  // those that are the same whatever is stored
+  const wchar_t* columnTitle = nullptr;
 };
 
 // Strips of icons behind their labels, on two lines.

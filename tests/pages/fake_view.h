@@ -35,6 +35,11 @@ class FakeView final : public PageView {
     Tell({id, PageEventKind::kChosen});
     Tell({id, PageEventKind::kChanged});
   }
+  // A line of an item list; kNoChoice for none.
+  void Select(int listId, int line, PageEventKind kind = PageEventKind::kSelected) {
+    selected_ = line;
+    Tell({listId, kind, line});
+  }
   // Selects an option, leaves its editor with a state and selects none.
   void Edit(int listId, int line, const ControlState& state) {
     for (const PageTab& tab : tabs_) {
@@ -83,6 +88,7 @@ class FakeView final : public PageView {
     lines_[listId] = lines;
     selected_ = kNoChoice;
   }
+  void SetLook(int, int line, const LineLook& look) override { looks[line] = look; }
   // One list is worked at a time.
   int SelectedLine(int) const override { return selected_; }
   void SelectLine(int, int line) override {
@@ -102,6 +108,7 @@ class FakeView final : public PageView {
   void Repaint() override { ++repaints; }
 
   int repaints = 0;
+  std::map<int, LineLook> looks;  // of any list
 
  private:
   template <typename Which>

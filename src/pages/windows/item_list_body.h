@@ -2,7 +2,9 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
+#include "pages/windows/list_lines.h"
 #include "pages/windows/tab_body.h"
 #include "ui/windows/file_icons.h"
 
@@ -18,10 +20,16 @@ class ItemListBody final : public TabBody {
   void Store() override {}
   void OnShowLine(LVITEMW& line) override;
   bool SetLines(int listId, const std::vector<ListLine>& lines) override;
+  bool SetLook(int listId, int line, const LineLook& look) override;
+  LRESULT OnDrawLine(NMLVCUSTOMDRAW& draw) override;
 
  private:
+  std::vector<ItemButton> Buttons() const;
+  void BuildList();
+
   const ItemList& list_;
   std::optional<FileIcons> icons_;
+  LineLooks looks_;
 };
 
 }  // namespace tidewell

@@ -4,13 +4,18 @@
 
 #include <array>
 
-#include "win32/gdi.h"
+#include "preview/windows/gdi_canvas.h"
+#include "ui/windows/color_swatch.h"
+#include "win32/tahoma.h"
 
 namespace tidewell {
 
 namespace {
 
 constexpr int kTextCapacity = 256;
+// At 96 dots per inch.
+constexpr int kSwatchWidth = 30;
+constexpr int kSwatchText = 9;
 
 ListLine LineOf(HWND list, int index) {
   std::array<wchar_t, kTextCapacity> text{};
@@ -62,6 +67,53 @@ void FitColumn(HWND list) {
   column.pszText = title.data();
   column.cx = width;
   ListView_InsertColumn(list, 0, &column);
+}
+
+void LineLooks::Set(HWND list, int line, const LineLook& look) {
+  Line& kept = lines_[line];
+  const bool isOtherFont = kept.look.font != look.font;
+  kept.look = look;
+  if (isOtherFont) {
+    const LOGFONTW font = SystemDescription(look.font);
+    kept.font = look.font.faceName.empty() ? Font() : Font(CreateFontIndirectW(&font));
+  }
+  ListView_RedrawItems(list, line, line);
+}
+
+LRESULT LineLooks::Draw(NMLVCUSTOMDRAW& draw) const {
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) {
+    return lines_.empty() ? CDRF_DODEFAULT : CDRF_NOTIFYITEMDRAW;
+  }
+  const auto line = lines_.find(static_cast<int>(draw.nmcd.dwItemSpec));
+  if (line == lines_.end()) return CDRF_DODEFAULT;
+  if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) return Dress(line->second, draw);
+  if (draw.nmcd.dwDrawStage == CDDS_ITEMPOSTPAINT) DrawSwatchOf(line->second, draw);
+  return CDRF_DODEFAULT;
+}
+
+LRESULT LineLooks::Dress(const Line& line, NMLVCUSTOMDRAW& draw) const {
+  if (line.look.ink != kNoColor) draw.clrText = line.look.ink;
+  if (line.look.paper != kNoColor) draw.clrTextBk = line.look.paper;
+  if (line.font) SelectObject(draw.nmcd.hdc, line.font.Get());
+  return (line.font ? CDRF_NEWFONT : CDRF_DODEFAULT) |
+         (line.look.swatch ? CDRF_NOTIFYPOSTPAINT : CDRF_DODEFAULT);
+}
+
+void LineLooks::DrawSwatchOf(const Line& line, const NMLVCUSTOMDRAW& draw) const {
+  RECT row{};
+  const HWND list = draw.nmcd.hdr.hwndFrom;
+  ListView_GetItemRect(list, static_cast<int>(draw.nmcd.dwItemSpec), &row, LVIR_BOUNDS);
+  const int width = scale_.ScaleX(kSwatchWidth);
+  const int margin = scale_.ScaleY(1);
+  const Rect area{static_cast<int>(ClientArea(list).right) - width - scale_.ScaleX(2),
+                  static_cast<int>(row.top) + margin, width,
+                  static_cast<int>(row.bottom - row.top) - 2 * margin};
+  const HDC dc = draw.nmcd.hdc;
+  const Font text = TahomaFont(scale_.ScaleX(kSwatchText), FW_NORMAL);
+  const int state = SaveDC(dc);
+  SelectObject(dc, text.Get());
+  DrawColorSwatch(dc, area, scale_.ScaleX(1), *line.look.swatch, nameOfNone_);
+  RestoreDC(dc, state);
 }
 
 }  // namespace tidewell

@@ -3,10 +3,15 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <functional>
+#include <map>
 #include <vector>
 
 #include "pages/page_rules.h"
+#include "platform/scale.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 
@@ -19,5 +24,31 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
 // view scrolls sideways otherwise. To be called after each change of the lines or of the place; a
 // list gets its column from the first call, for each line added beside a column moves its header.
 void FitColumn(HWND list);
+
+// What some lines of a list look like, drawn when the list asks for it.
+class LineLooks {
+ public:
+  // `nameOfNone` stands in the swatch of no color.
+  LineLooks(const ScreenScale& scale, std::wstring nameOfNone)
+      : scale_(scale), nameOfNone_(std::move(nameOfNone)) {}
+
+  void Clear() { lines_.clear(); }
+  void Set(HWND list, int line, const LineLook& look);
+  // Answers NM_CUSTOMDRAW.
+  LRESULT Draw(NMLVCUSTOMDRAW& draw) const;
+
+ private:
+  struct Line {
+    LineLook look;
+    Font font;  // none: the list's own
+  };
+
+  LRESULT Dress(const Line& line, NMLVCUSTOMDRAW& draw) const;
+  void DrawSwatchOf(const Line& line, const NMLVCUSTOMDRAW& draw) const;
+
+  const ScreenScale& scale_;
+  std::wstring nameOfNone_;
+  std::map<int, Line> lines_;
+};
 
 }  // namespace tidewell

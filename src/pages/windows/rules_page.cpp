@@ -137,6 +137,8 @@ LRESULT RulesPage::OnNotify(HWND, NMHDR* header) {
     case static_cast<UINT>(NM_RETURN):
       Tell({id, PageEventKind::kActivated, SelectedLine(id)});
       break;
+    case static_cast<UINT>(NM_CUSTOMDRAW):
+      return SelectedBody().OnDrawLine(*reinterpret_cast<NMLVCUSTOMDRAW*>(header));
   }
   return 0;
 }
@@ -242,6 +244,12 @@ void RulesPage::SetLines(int listId, const std::vector<ListLine>& lines) {
     if (tab.body->SetLines(listId, lines)) return;
   }
   ShowLines(Control(listId), lines);
+}
+
+void RulesPage::SetLook(int listId, int line, const LineLook& look) {
+  for (const BuiltTab& tab : bodies_) {
+    if (tab.body->SetLook(listId, line, look)) return;
+  }
 }
 
 int RulesPage::SelectedLine(int listId) const {

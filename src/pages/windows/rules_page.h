@@ -45,6 +45,7 @@ class RulesPage final : public SettingsPage, private PageView {
   void SetChoices(int id, const Choices& choices) override;
   std::vector<ListLine> Lines(int listId) const override;
   void SetLines(int listId, const std::vector<ListLine>& lines) override;
+  void SetLook(int listId, int line, const LineLook& look) override;
   int SelectedLine(int listId) const override;
   void SelectLine(int listId, int line) override;
   void MoveLine(int listId, bool up) override;

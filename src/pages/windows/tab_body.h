@@ -37,6 +37,9 @@ class TabBody {
   virtual void OnShowLine(LVITEMW& /*line*/) {}
   // False when the list is none of the body's.
   virtual bool SetLines(int /*listId*/, const std::vector<ListLine>& /*lines*/) { return false; }
+  virtual bool SetLook(int /*listId*/, int /*line*/, const LineLook& /*look*/) { return false; }
+  // Answers NM_CUSTOMDRAW of a list.
+  virtual LRESULT OnDrawLine(NMLVCUSTOMDRAW& /*draw*/) { return CDRF_DODEFAULT; }
   // Brings a control into view.
   virtual void OnFocus(HWND /*control*/) {}
   virtual bool OnPageKey(int /*direction*/) { return false; }
