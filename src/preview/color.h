@@ -21,6 +21,10 @@ constexpr Color Blend(Color a, Color b, std::uint32_t weight) {
   return Rgb(channel(0), channel(8), channel(16));
 }
 
+// How well one of two colours is read on the other: 1 for the same, 21 for black and white; texts
+// want 4.5.
+double Contrast(Color a, Color b);
+
 inline constexpr Color kBlack = Rgb(0, 0, 0);
 inline constexpr Color kWhite = Rgb(255, 255, 255);
 inline constexpr Color kRed = Rgb(255, 0, 0);

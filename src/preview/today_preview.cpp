@@ -11,6 +11,7 @@ namespace {
 constexpr Color kTodayBlue = Rgb(152, 183, 215);
 // The folding type that tasks are shown with, whatever the calendar's is.
 constexpr std::uint32_t kTaskFolding = 0;
+constexpr int kTextMargin = 10;  // at 96 dots per inch
 
 }  // namespace
 
@@ -25,18 +26,21 @@ TodayPreview::TodayPreview(const SettingsStore& settings, const ScreenScale& sca
       appointmentLocation_(language.Text(IDS_SAMPLE_LOCATION)),
       taskSubject_(language.Text(IDS_SAMPLE_TASK)) {}
 
-void TodayPreview::DrawAppointment(Canvas& page, int width, int y) {
-  DrawItem(page, SampleAppointment(Today(), appointmentSubject_, appointmentLocation_), width, y);
+void TodayPreview::DrawAppointment(Canvas& page, int width, int y, const FontAndColor* font) {
+  DrawItem(page, SampleAppointment(Today(), appointmentSubject_, appointmentLocation_), width, y,
+           font);
 }
 
-void TodayPreview::DrawTask(Canvas& page, int width, int y) {
-  DrawItem(page, SampleTask(Today(), taskSubject_), width, y);
+void TodayPreview::DrawTask(Canvas& page, int width, int y, const FontAndColor* font) {
+  DrawItem(page, SampleTask(Today(), taskSubject_), width, y, font);
 }
 
 // The row stands in the middle of the strip, by the height that it measures.
-void TodayPreview::DrawItem(Canvas& page, TodayItem item, int width, int y) {
+void TodayPreview::DrawItem(Canvas& page, TodayItem item, int width, int y,
+                            const FontAndColor* font) {
   if (width <= 0) return;
-  const TodayLook look = ReadTodayLook(settings_);
+  TodayLook look = ReadTodayLook(settings_);
+  if (font) look.appointment = look.task = *font;
   const ItemTexts texts = FormatTexts(item, Today(), look, locale_);
   RowStyle style = StyleOf(page, item, look);
   PrepareStrips(page, width);
@@ -53,6 +57,21 @@ void TodayPreview::DrawItem(Canvas& page, TodayItem item, int width, int y) {
   const int height = drawRow(DrawPass::kMeasure, 0);
   strip_->Copy(*background_, {0, 0, width, scale_.ScaleY(kTodayPreviewHeight)});
   drawRow(DrawPass::kDraw, scale_.ScaleX(21) - height / 2);
+  page.Copy(*strip_, {0, y, width, Height()});
+}
+
+void TodayPreview::DrawText(Canvas& page, std::wstring_view text, const FontAndColor& font,
+                            int width, int y) {
+  if (width <= 0) return;
+  PrepareStrips(page, width);
+  const TodayLook look = ReadTodayLook(settings_);
+  const TextStyle style{rowFont_.Get(page, font.font), font.color, look.shadowStyle,
+                        look.shadowColor};
+  const int lineHeight = page.LineHeight(style.font);
+  const int left = scale_.ScaleX(kTextMargin);
+  strip_->Copy(*background_, {0, 0, width, Height()});
+  WriteTitle(*strip_, {left, (Height() - lineHeight) / 2, width - 2 * left, lineHeight}, text,
+             style);
   page.Copy(*strip_, {0, y, width, Height()});
 }
 

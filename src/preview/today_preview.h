@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/language.h"
 #include "platform/locale.h"
@@ -25,11 +26,14 @@ class TodayPreview {
   TodayPreview(const SettingsStore& settings, const ScreenScale& scale, Locale& locale,
                const Language& language, IconSource& icons, LoadImageFile loadImage);
 
-  // In pixels; `width` is that of the strip, which begins at the page's left edge.
-  void DrawAppointment(Canvas& page, int width, int y);
-  void DrawTask(Canvas& page, int width, int y);
+  // In pixels; `width` is that of the strip, which begins at the page's left edge. `font` takes the
+  // place of the settings' own; null does not.
+  void DrawAppointment(Canvas& page, int width, int y, const FontAndColor* font = nullptr);
+  void DrawTask(Canvas& page, int width, int y, const FontAndColor* font = nullptr);
   // Any other item, as it is seen today.
-  void DrawItem(Canvas& page, TodayItem item, int width, int y);
+  void DrawItem(Canvas& page, TodayItem item, int width, int y, const FontAndColor* font = nullptr);
+  // A line of text that belongs to no item.
+  void DrawText(Canvas& page, std::wstring_view text, const FontAndColor& font, int width, int y);
   int Height() const { return scale_.ScaleX(kTodayPreviewHeight); }
 
  private:
