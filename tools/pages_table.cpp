@@ -94,7 +94,10 @@ class PagesWriter {
       return;
     }
     for (const Row* row : tab.Rows()) Line(Text(row->textId), Controls(*row), *row);
-    if (const auto* list = std::get_if<ItemList>(&tab.body)) Items(*list);
+    if (const auto* list = std::get_if<ItemList>(&tab.body)) {
+      for (const SettingLine& line : list->lines) Line(line, FormatDecimal(list->listId));
+      Items(*list);
+    }
   }
 
   void Items(const ItemList& list) {
@@ -117,6 +120,13 @@ class PagesWriter {
 
   void Line(const std::wstring& text, const std::wstring& controls, const Row& row) {
     Cells(text, controls, KindOf(row), Value(row), ChoicesOf(row));
+  }
+
+  // A font's own name is the beginning of its six values'.
+  void Line(const SettingLine& line, const std::wstring& controls) {
+    const bool isFont = line.setting->Key() == SettingKey::kFonts;
+    text_ += L"| " + line.TextIn(language_) + L" | " + controls + L" | " +
+             (isFont ? L"font" : L"color") + L" | " + Value(line.setting) + L" |  |\n";
   }
 
   static std::wstring Controls(const Row& row) {

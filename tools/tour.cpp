@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "pages/colors_page.h"
 #include "pages/page_list.h"
 #include "platform/text.h"
 #include "tests/device/driven_program.h"
@@ -65,8 +66,63 @@ Step Opens(WPARAM key) {
     const HWND below = program.WaitForPopup();
     program.Press(key);
     WaitUntil([&] { return GetLastActivePopup(program.Main()) != below; });
+  };
+}
+
+Step Choose(int row) {
+  return [=](DrivenProgram& program) {
+    program.Press(VK_DOWN, row);
+    program.Press(VK_RETURN);
     program.WaitForPopup();
   };
+}
+
+constexpr int kFontsRow = static_cast<int>(PageIndex::kFonts);
+constexpr int kColorsRow = static_cast<int>(PageIndex::kColors);
+constexpr wchar_t kSchemes[] = L"C:\\Program Files\\Velmont\\Tidewell\\Schemes\\";
+constexpr wchar_t kBrokenScheme[] = L"A broken one.scm";  // the first of them
+constexpr wchar_t kSavedScheme[] = L"My colors";
+
+std::wstring SchemePath(const std::wstring& file) {
+  return kSchemes + file;
+}
+
+// From the Colors page's first control: the field of the other tab, with that name in it.
+Step NameScheme(const wchar_t* name) {
+  return [=](DrivenProgram& program) {
+    for (const WPARAM key : {VK_UP, VK_RIGHT, VK_TAB}) program.Press(key);
+    const HWND field = GetDlgItem(GetLastActivePopup(program.Main()), colors_ids::kName);
+    SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name));
+  };
+}
+
+// A button below the list with its first line selected; what follows is a question.
+Step AskOfFirstScheme(int button) {
+  return [=](DrivenProgram& program) {
+    for (const WPARAM key : {VK_UP, VK_RIGHT, VK_TAB, VK_TAB, VK_TAB, VK_HOME, VK_SPACE}) {
+      program.Press(key);
+    }
+    program.Press(VK_TAB, button);
+    program.Press(VK_RETURN);
+    program.WaitForPopup();
+  };
+}
+
+// To the message that follows on a question.
+void AnswerYes(DrivenProgram& program) {
+  const HWND question = program.WaitForPopup();
+  PostMessageW(question, WM_COMMAND, IDYES, 0);
+  WaitUntil([&] { return GetLastActivePopup(program.Main()) != question; });
+  program.WaitForPopup();
+}
+
+void RemoveBrokenScheme(DrivenProgram&) {
+  DeleteFileW(SchemePath(kBrokenScheme).c_str());
+}
+
+// To the list of fonts, which begin to be of use.
+void UseOwnFonts(DrivenProgram& program) {
+  for (const WPARAM key : {VK_UP, VK_UP, VK_RETURN, VK_DOWN, VK_RIGHT, VK_TAB}) program.Press(key);
 }
 
 struct View {
@@ -105,6 +161,19 @@ const View kViews[] = {
     {"calendar-5-other-set",
      {Press(VK_RETURN), Popup, Press(VK_UP), Press(VK_RIGHT), Press(VK_DOWN, 5), Press(VK_RIGHT),
       ClosePage, Press(VK_DOWN), Press(VK_RETURN), Popup, Press(VK_UP), Press(VK_RIGHT, 4)}},
+    {"fonts-2-selected", {Choose(kFontsRow), UseOwnFonts, Press(VK_DOWN, 2)}},
+    {"fonts-2-last", {Choose(kFontsRow), UseOwnFonts, Press(VK_END)}},
+    {"color-selected", {Choose(kColorsRow), Press(VK_DOWN)}},
+    {"color-last", {Choose(kColorsRow), Press(VK_END)}},
+    {"scheme-no-name", {Choose(kColorsRow), NameScheme(L""), Press(VK_RETURN, 2), Popup}},
+    {"scheme-saved", {Choose(kColorsRow), NameScheme(kSavedScheme), Press(VK_RETURN, 2), Popup}},
+    {"scheme-taken", {Choose(kColorsRow), NameScheme(kSavedScheme), Press(VK_RETURN, 2), Popup}},
+    {"scheme-none",
+     {Choose(kColorsRow), NameScheme(L""), Press(VK_UP, 2), Press(VK_RETURN), Popup}},
+    {"scheme-delete", {Choose(kColorsRow), AskOfFirstScheme(2)}},
+    {"scheme-apply", {Choose(kColorsRow), AskOfFirstScheme(1)}},
+    {"scheme-refused", {Choose(kColorsRow), AskOfFirstScheme(1), AnswerYes}},
+    {"scheme-not-opened", {Choose(kColorsRow), AskOfFirstScheme(1), RemoveBrokenScheme, AnswerYes}},
 };
 
 // "PIMSettingsWin" is shown as "pim".
@@ -231,13 +300,16 @@ std::wstring BackupPath(const std::wstring& name) {
   return L"C:\\My Documents\\" + name + L".twsb";
 }
 
-void MakeBackup(const std::wstring& name, const std::wstring& text) {
-  const std::wstring path = BackupPath(name);
+void MakeText(const std::wstring& path, const std::wstring& text) {
   const HANDLE file =
       CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
   DWORD count = 0;
   WriteFile(file, text.data(), static_cast<DWORD>(text.size() * sizeof(wchar_t)), &count, nullptr);
   CloseHandle(file);
+}
+
+void MakeBackup(const std::wstring& name, const std::wstring& text) {
+  MakeText(BackupPath(name), text);
 }
 
 // For the file name dialog, which lists them, and for the messages of an export and an import.
@@ -265,9 +337,15 @@ void MakeNoteFolders() {
   RegCloseKey(key);
 }
 
+void MakeSchemes() {
+  MakeText(SchemePath(kBrokenScheme), L"");
+  DeleteFileW(SchemePath(std::wstring(kSavedScheme) + L".scm").c_str());
+}
+
 int TakeTour() {
   MakeBackups();
   MakeNoteFolders();
+  MakeSchemes();
   for (const View& view : AllViews()) {
     if (!Show(view)) {
       Say("trouble", view.name);

@@ -553,6 +553,107 @@
 #define IDS_FONT_OK 1114           // OK
 #define IDS_FONT_CANCEL 1115       // Cancel
 
+// The Colors page: its colors, each followed by its description further down, and the schemes.
+#define IDS_COLORS_TAB_COLORS 1236           // Colors
+#define IDS_COLORS_TAB_SCHEMES 1237          // Schemes
+#define IDS_COLOR_CHOOSE 882                 // Select
+#define IDS_COLOR_SEPARATOR 883              // Line below the tabs
+#define IDS_COLOR_SHADOW 884                 // Shadow of texts
+#define IDS_COLOR_GENERAL 885                // Texts
+#define IDS_COLOR_HIGHLIGHT 886              // Selection: background
+#define IDS_COLOR_HIGHLIGHT_TEXT 887         // Selection: text
+#define IDS_COLOR_TIME_LINES 888             // Time lines: background
+#define IDS_COLOR_TIME_LINE_ENTRIES 889      // Time lines: busy hours
+#define IDS_COLOR_CALENDAR_LINE 890          // Line between days
+#define IDS_COLOR_MONTH 891                  // Month: background
+#define IDS_COLOR_MONTH_TODAY 892            // Month: today
+#define IDS_COLOR_MONTH_SELECTED 893         // Month: selected day
+#define IDS_COLOR_TASKS_LINE 894             // Line between tasks
+#define IDS_COLOR_FREE 895                   // Status: free
+#define IDS_COLOR_BUSY 896                   // Status: busy
+#define IDS_COLOR_TENTATIVE 897              // Status: tentative
+#define IDS_COLOR_OUT_OF_OFFICE 898          // Status: out of office
+#define IDS_COLOR_SEPARATOR_TIP 899          // The line that divides the tabs from what they show.
+#define IDS_COLOR_SHADOW_TIP 900             // The shadow of texts, where the Fonts page gives them one.
+#define IDS_COLOR_GENERAL_TIP 901            // All texts that have no color of their own.
+#define IDS_COLOR_HIGHLIGHT_TIP 902          // The background of the selected item.
+#define IDS_COLOR_HIGHLIGHT_TEXT_TIP 903     // The text of the selected item.
+#define IDS_COLOR_TIME_LINES_TIP 904         // The hours of a time line that are free.
+#define IDS_COLOR_TIME_LINE_ENTRIES_TIP 905  // The busy hours of a time line, where their category has no color.
+#define IDS_COLOR_CALENDAR_LINE_TIP 906      // The line that divides one day of the calendar from the next.
+#define IDS_COLOR_MONTH_TIP 907              // The background of the monthly calendar.
+#define IDS_COLOR_MONTH_TODAY_TIP 908        // Today's date in the monthly calendar.
+#define IDS_COLOR_MONTH_SELECTED_TIP 909     // The selected date in the monthly calendar.
+#define IDS_COLOR_TASKS_LINE_TIP 910         // The line that divides one group of tasks from the next.
+#define IDS_COLOR_FREE_TIP 911               // The mark of appointments whose time is shown as free.
+#define IDS_COLOR_BUSY_TIP 912               // The mark of appointments whose time is shown as busy.
+#define IDS_COLOR_TENTATIVE_TIP 913          // The mark of appointments that are not certain yet.
+#define IDS_COLOR_OUT_OF_OFFICE_TIP 914      // The mark of appointments away from the office.
+#define IDS_SCHEMES_TIP 862                  // Save the present colors and fonts as a scheme, or apply one.
+#define IDS_SCHEME_APPLY 879                 // Apply
+#define IDS_SCHEME_DELETE 880                // Delete
+#define IDS_SCHEME_SAVE 881                  // Save
+#define IDS_SCHEME_SELECT 863                // Select a scheme in the list first.
+#define IDS_SCHEME_SELECT_CAPTION 864        // Nothing selected
+#define IDS_SCHEME_DELETE_QUESTION 865       // Delete the selected scheme?
+#define IDS_SCHEME_DELETE_CAPTION 866        // Delete scheme
+#define IDS_SCHEME_NO_NAME 867               // Type a name for the scheme first.
+#define IDS_SCHEME_NO_NAME_CAPTION 868       // No name
+#define IDS_SCHEME_TAKEN 869                 // There is a scheme of that name already. Choose another name.
+#define IDS_SCHEME_TAKEN_CAPTION 870         // Name taken
+#define IDS_SCHEME_SAVED 871                 // The present colors and fonts are saved as a scheme.
+#define IDS_SCHEME_SAVED_CAPTION 872         // Scheme saved
+#define IDS_SCHEME_APPLY_QUESTION 873        // Apply this scheme and close the program without saving other changes?
+#define IDS_SCHEME_APPLY_CAPTION 874         // Apply scheme
+#define IDS_SCHEME_NOT_OPENED 875            // The scheme cannot be opened. Nothing was changed.
+#define IDS_SCHEME_NOT_OPENED_CAPTION 876    // Scheme not applied
+#define IDS_SCHEME_REFUSED 877               // This file is no scheme. For your colors and fonts, apply "Before applying".
+#define IDS_SCHEME_REFUSED_CAPTION 878       // No scheme
+#define IDS_SCHEME_NOT_SAVED 2250            // The scheme could not be saved.
+#define IDS_SCHEME_NOT_SAVED_CAPTION 2251    // Scheme not saved
+#define IDS_SCHEME_NOT_DELETED 2252          // The scheme could not be deleted.
+
+// The Fonts page; the name of a font follows that of the tab in which it is seen.
+#define IDS_FONTS_TAB_FONTS 2260          // Kinds
+#define IDS_FONTS_SIZE 2261               // Size
+#define IDS_FONTS_TITLES_SIZE 2262        // Size of titles
+#define IDS_FONTS_FACE 2263               // Font
+#define IDS_FONTS_SHADOW 2264             // Shadow
+#define IDS_FONTS_SHADOW_NONE 2265        // None
+#define IDS_FONTS_SHADOW_RIGHT 2266       // Right
+#define IDS_FONTS_SHADOW_DOWN_RIGHT 2267  // Below right
+#define IDS_FONTS_SHADOW_DOWN 2268        // Below
+#define IDS_FONTS_SHADOW_OUTLINE 2269     // Outline
+#define IDS_FONTS_CLEAR_TYPE 2270         // Use ClearType
+#define IDS_FONTS_OWN 2271                // A font for each kind of item
+#define IDS_FONTS_CHANGE 2272             // Change
+#define IDS_FONT_GENERAL 2280             // All other texts
+#define IDS_FONT_TITLES 2281              // titles
+#define IDS_FONT_BUSY 2282                // busy
+#define IDS_FONT_FREE 2283                // free
+#define IDS_FONT_OUT_OF_OFFICE 2284       // out of office
+#define IDS_FONT_TENTATIVE 2285           // tentative
+#define IDS_FONT_PAST 2286                // past
+#define IDS_FONT_COMPLETED 2287           // completed
+#define IDS_FONT_TASKS 2288               // tasks
+#define IDS_FONT_TASKS_OVERDUE 2289       // overdue tasks
+#define IDS_FONT_TASKS_FUTURE 2290        // future tasks
+#define IDS_FONT_TASKS_COMPLETED 2291     // completed tasks
+#define IDS_FONT_TASKS_UNDATED 2292       // undated tasks
+#define IDS_FONT_NO_NEW_MAIL 2293         // no new mail
+#define IDS_FONT_NEW_MAIL 2294            // new mail
+#define IDS_FONT_OVERDUE 2295             // overdue
+#define IDS_FONT_DUE_TODAY 2296           // due today
+#define IDS_FONT_DUE_LATER 2297           // due later
+#define IDS_FONT_UNDATED 2298             // without a date
+#define IDS_FONT_ITEMS 2299               // items
+#define IDS_FONT_UNREAD 2300              // unread
+#define IDS_FONT_READ 2301                // read
+#define IDS_FONT_EVENTS_FILTER_1 2302     // filter 1
+#define IDS_FONT_EVENTS_FILTER_2 2303     // filter 2
+#define IDS_FONT_EVENTS_FILTER_3 2304     // filter 3
+#define IDS_FONT_EVENTS_FILTER_4 2305     // filter 4
+
 // Own texts, from 2000 on: dialogs whose texts have no number elsewhere.
 #define IDS_CANCEL 2000             // Cancel
 #define IDS_SELECT 2001             // Select

@@ -27,6 +27,9 @@ namespace {
 constexpr const wchar_t* kStartFailedText =
     L"The start failed and nothing was changed: restart the device.";
 
+// The page that posts it is still at work.
+constexpr UINT kEndForScheme = WM_APP;
+
 POINT PointOf(LPARAM lParam) {
   return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
@@ -121,6 +124,9 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return OnCommand(LOWORD(wParam));
     case kClosePageMessage:
       ClosePage();
+      return 0;
+    case kEndForScheme:
+      EndForScheme();
       return 0;
     case WM_NCDESTROY:
       return LetGo(window_, wParam, lParam);
@@ -283,7 +289,8 @@ void MainWindow::ShowAbout() {
 void MainWindow::OpenPage(int page) {
   SetWindowTextW(window_, L"");
   pageContext_.emplace(PageContext{machine_, settings_, categories_, language_, scale_, &Dialogs(),
-                                   &*previewIcons_, ImageLoader()});
+                                   &*previewIcons_, ImageLoader(),
+                                   [this] { PostMessageW(window_, kEndForScheme, 0, 0); }});
   page_ = parts_.createPage(page, window_, *pageContext_);
   if (page_) {
     BringWindowToTop(page_->Window());
@@ -317,6 +324,14 @@ void MainWindow::AskToExit() {
   const bool exits =
       Dialogs().Ask(language_.Text(IDS_EXIT_QUESTION), language_.Text(IDS_EXIT_CAPTION), true);
   if (exits) DestroyWindow(window_);
+}
+
+// Nothing is saved, not even what a page holds that is still open.
+void MainWindow::EndForScheme() {
+  settings_.Load(machine_, scale_, language_);
+  language_.Unload();
+  machine_.system.RefreshTodayScreen();
+  DestroyWindow(window_);
 }
 
 DialogContext MainWindow::DialogOverAll() const {

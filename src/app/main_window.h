@@ -96,6 +96,7 @@ class MainWindow {
   void ClosePage();
   void Done();
   void AskToExit();
+  void EndForScheme();
   DialogContext DialogOverAll() const;
   void PressBar(std::optional<POINT> point);
   Picture LoadPicture(int id) const;

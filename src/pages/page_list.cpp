@@ -1,7 +1,9 @@
 #include "pages/page_list.h"
 
 #include "pages/calendar_page.h"
+#include "pages/colors_page.h"
 #include "pages/contacts_page.h"
+#include "pages/fonts_page.h"
 #include "pages/general_page.h"
 #include "pages/messages_page.h"
 #include "pages/notes_page.h"
@@ -22,8 +24,8 @@ const std::array<PageEntry, kPageCount> kPages = {{
     {L"ContactSettingsWin", IDS_GROUP_CONTACTS, IDB_CONTACTS, MakeContactsPage},
     {L"MessagesSettingsWin", IDS_GROUP_MESSAGES, IDB_MESSAGES, MakeMessagesPage},
     {L"SEventsSettingsWin", IDS_GROUP_SPECIAL_EVENTS, IDB_SPECIAL_EVENTS, MakeSpecialEventsPage},
-    {L"FontSettingsWin", IDS_GROUP_FONTS, IDB_FONTS, nullptr},
-    {L"ColorSettingsWin", IDS_GROUP_COLORS, IDB_COLORS, nullptr},
+    {L"FontSettingsWin", IDS_GROUP_FONTS, IDB_FONTS, MakeFontsPage},
+    {L"ColorSettingsWin", IDS_GROUP_COLORS, IDB_COLORS, MakeColorsPage},
     {L"PIMSettingsWin", IDS_GROUP_PIM, IDB_PIM, MakePimPage},
     {L"TabsSettingsWin", IDS_GROUP_TABS, IDB_TABS, MakeTabsPage},
     {L"CategorySettingsWin", IDS_GROUP_CATEGORIES, IDB_CATEGORIES, nullptr},

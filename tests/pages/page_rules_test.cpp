@@ -1,10 +1,14 @@
 // What single pages do beyond their rows.
 #include "pages/page_rules.h"
 
+#include "addons/schemes.h"
 #include "pages/calendar_page.h"
+#include "pages/colors_page.h"
+#include "pages/fonts_page.h"
 #include "pages/general_page.h"
 #include "pages/pim_page.h"
 #include "pages/tasks_page.h"
+#include "platform/text.h"
 #include "resources/text/text_ids.h"
 #include "tests/pages/fake_view.h"
 #include "tests/support/test_device.h"
@@ -248,6 +252,98 @@ TEST_F(CalendarRules, ReplaceAForeignTitleByThatOfItsPlace) {
   }
   EXPECT_EQ(s.CalTitlesOrder1.Value(), 1u);
   EXPECT_EQ(s.CalTitlesOrder2.Value(), 5u);
+}
+
+TEST_F(Rules, StoreAColorAtOnceUnlessItsDialogIsCancelled) {
+  using namespace colors_ids;
+  FakeView page(MakeColorsPage(context));
+  DwordSetting& color = store.colors.HighlightBgClr;
+  EXPECT_EQ(page.Enabled(kChoose, kColors), Ids{kColors});
+  page.Select(kColors, 3);
+  page.Tap(kChoose);
+  EXPECT_FALSE(color.IsChanged());
+  for (const std::uint32_t chosen : {0x0000FFu, kNoColor}) {
+    dialogs.chosenColor = chosen;
+    page.Select(kColors, 3, PageEventKind::kActivated);
+    EXPECT_EQ(color.Value(), chosen);
+    EXPECT_EQ(page.looks[3].swatch, chosen);
+  }
+  EXPECT_TRUE(color.IsChanged());
+}
+
+// Each step with the numbers of the texts that it shows.
+TEST_F(Rules, SayWhatBecomesOfASchemeAndEndTheProgramWhenItIsApplied) {
+  using namespace colors_ids;
+  MemoryLibraries::Texts texts;
+  for (const int id : {863, 865, 867, 869, 871, 873, 875, 877, 2005, 2250}) {
+    texts[id] = FormatDecimal(id);
+  }
+  memory.libraries.Put(L"Numbers", texts);
+  language.Load(memory.libraries, L"Numbers", {});
+  const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell\\Schemes\\";
+  files.Put(folder);
+  int ends = 0;
+  context.endForScheme = [&] { ++ends; };
+  FakeView page(MakeColorsPage(context));
+  const auto press = [&](std::initializer_list<int> buttons) {
+    dialogs.shown.clear();
+    for (const int button : buttons) page.Tap(button);
+    std::wstring said;
+    for (const std::wstring& each : dialogs.shown) said += each;
+    return Utf8(said);
+  };
+  const auto save = [&](const wchar_t* name) {
+    page.SetState(kName, ControlState::OfText(name));
+    return press({kSave});
+  };
+  EXPECT_EQ(press({kApply, kDelete, kSave}), ": 863: 863: 867");
+  EXPECT_EQ(save(L"..\\x"), ": 2005");
+  recordedFiles.Calls().FailEvery(FileCall::kClose);
+  EXPECT_EQ(save(L"Mine"), ": 2250");
+  recordedFiles.Calls().Reset();
+  EXPECT_EQ(save(L"Mine"), ": 871");
+  EXPECT_EQ(save(L"mine"), ": 869");
+  page.Select(kSchemes, 0);
+  EXPECT_EQ(press({kApply, kDelete}), ": 873 [no]: 865 [no]");
+  dialogs.agrees = true;
+  EXPECT_EQ(press({kApply}), ": 873 [no]");
+  EXPECT_EQ(ends, 1);
+  files.Put(folder + L"Mine.scm", "no text");
+  EXPECT_EQ(press({kApply}), ": 873 [no]: 877");
+  page.Select(kSchemes, 0);
+  EXPECT_EQ(press({kDelete}), ": 865 [no]");
+  EXPECT_EQ(page.Lines(kSchemes), std::vector<ListLine>{{kBeforeApplying}});
+  page.Select(kSchemes, 0);
+  files.Remove(folder + kBeforeApplying);
+  EXPECT_EQ(press({kApply}), ": 873 [no]: 875");
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(Rules, StoreAFontAtOnceAndAColorEvenWhenTheRestIsCancelled) {
+  using namespace fonts_ids;
+  store.fonts.FontFaceToUse.Set(L"Gone");
+  FakeView page(MakeFontsPage(context));
+  std::wstring faces;
+  for (const Choice& face : page.ChoicesOf(kFace)) faces += face.text + L";";
+  EXPECT_EQ(faces, L"Tahoma;Gone;Arial;Courier New;");
+  EXPECT_EQ(page.Enabled(kFonts, kChange), Ids{});
+  page.Tap(kOwnFonts);
+  page.Select(kFonts, 1);
+  EXPECT_EQ(page.Enabled(kFonts, kChange), (Ids{kFonts, kChange}));
+  FontSetting& font = store.fonts.FontCalDayTitles;
+  for (const bool confirms : {false, true}) {
+    dialogs.editFont = [=](LogFont& edited, Color& color) {
+      edited.height = 30;
+      color = confirms ? kWhite : kRed;
+      return confirms;
+    };
+    page.Tap(kChange);
+    EXPECT_EQ(font.Color(), confirms ? kWhite : kRed);
+    EXPECT_EQ(font.Font().height == 30, confirms);
+  }
+  EXPECT_NE(page.looks[1].paper, kNoColor) << "white can be read all the same";
+  page.Close();
+  EXPECT_EQ(store.fonts.FontFaceToUse.Value(), L"Gone");
 }
 
 TEST_F(Rules, GreyTheCustomDateUntilItIsOn) {

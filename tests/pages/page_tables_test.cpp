@@ -39,8 +39,7 @@ const std::set<std::wstring> kNotForTheUser = {
     L"FirstTimeSettingsMsg", L"ApptDisplayFormat", L"CalendarTabEnabled", L"CalendarTabOrder",
     L"InstallPath18",        L"InstallPath24",     L"InstallPathBlank",   L"CntctsActiveLanguages"};
 // ... or because its page is yet to come.
-const std::set<SettingKey> kPagesToCome = {SettingKey::kFonts, SettingKey::kColors,
-                                           SettingKey::kCategories};
+const std::set<SettingKey> kPagesToCome = {SettingKey::kCategories};
 
 TEST_F(Tables, HaveEverySavedSettingOnOnePage) {
   std::map<const Setting*, int> pages;

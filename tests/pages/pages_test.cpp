@@ -195,7 +195,7 @@ TEST_P(EachPage, ShowsATabAtATimeAndStoresWhatAFingerChanges) {
     }
   }
   Close();
-  EXPECT_GE(changed.size(), 4u);
+  EXPECT_GE(changed.size(), std::min<std::size_t>(storing_.size(), 4));
   for (const auto& [row, state] : changed) ExpectStored(*row, state);
 }
 
