@@ -30,6 +30,7 @@ trap 'exit 143' TERM HUP
 # The one list of the Debian packages that the project needs.
 program_packages=(
   cmake ninja-build                 # the build
+  g++                               # the compiler of what the build runs itself
   g++-mingw-w64-x86-64-posix        # the compiler for Windows, with real threads
   libstb-dev                        # a decoder of TGA pictures
   librsvg2-bin imagemagick          # the artwork, and pictures of the screen
@@ -38,7 +39,7 @@ program_packages=(
   xvfb                              # a screen where there is none
 )
 test_packages=(
-  g++ googletest                    # the core, native
+  googletest                        # the core, native
   clang libclang-rt-14-dev          # the fuzz targets
   clang-format clang-tidy           # the lint
 )
