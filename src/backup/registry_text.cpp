@@ -2,17 +2,14 @@
 
 #include <algorithm>
 
-#include "backup/exact_lines.h"
+#include "backup/registry_text_reader.h"
 #include "backup/section_names.h"
 #include "platform/text.h"
 #include "settings/registry_values.h"
-#include "text_format/value_lines.h"
 
 namespace tidewell {
 
 namespace {
-
-constexpr std::wstring_view kEmptyLine = L"\n";
 
 // Takes the next name off a key's path, over any number of backslashes.
 std::wstring_view TakeKeyName(std::wstring_view& path) {
@@ -29,125 +26,6 @@ bool IsWithin(std::wstring_view tree, std::wstring_view path) {
   }
   return true;
 }
-
-// Where the reader puts what it finds.
-class TextTarget {
- public:
-  virtual ~TextTarget() = default;
-  // The key that takes the values until the next one is opened. False ends the reading.
-  virtual bool OpenKey(const std::wstring& path) = 0;
-  virtual void TakeValue(const ParsedValue&) {}
-  virtual void TakeExactValue(const EnumeratedValue&) {}
-  virtual void TakeCategory(const std::wstring& /*name*/, std::int32_t /*flags*/,
-                            std::int32_t /*color*/) {}
-  virtual void TakeFilter(std::int32_t /*index*/, const std::wstring& /*title*/, bool /*visible*/,
-                          bool /*uncategorized*/) {}
-};
-
-class RegistryTextReader {
- public:
-  RegistryTextReader(TextReader& stream, TextTarget& target) : stream_(stream), target_(target) {}
-
-  // False unless the text begins with an empty line; the rest is then read by Read.
-  bool Begin() {
-    stream_.Rewind();
-    return stream_.ReadLine(line_) && line_ == kEmptyLine;
-  }
-
-  // False when the target refused a key.
-  bool Read() {
-    if (!stream_.ReadLine(line_)) return true;
-    isCopy_ = line_ == kCopyMark;
-    if (isCopy_) stream_.TakeLongLines();
-    std::wstring section;
-    do {
-      if (ParseSectionHeader(line_, section) && !ReadSection(section)) return false;
-    } while (stream_.ReadLine(line_));
-    return true;
-  }
-
- private:
-  bool ReadSection(std::wstring& name) {
-    if (name == kCategoriesSection) {
-      ReadCategories();
-    } else if (name == kFiltersSection) {
-      ReadFilterTitles();
-    } else {
-      if (isCopy_) ParseExactSectionName(std::wstring(name), name);
-      if (!target_.OpenKey(name)) return false;
-      ReadValues();
-    }
-    return true;
-  }
-
-  // False at the end of a section or of the text.
-  bool ReadSectionLine() { return stream_.ReadLine(line_) && line_ != kEmptyLine; }
-
-  void ReadValues() {
-    while (ReadSectionLine()) {
-      if (isCopy_ && ParseExactLine(line_, exact_)) {
-        target_.TakeExactValue(exact_);
-      } else if (ParseValueLine(line_, value_)) {
-        target_.TakeValue(value_);
-      }
-    }
-  }
-
-  // The string of the line that begins a record; a malformed one leaves it as it was.
-  void ParseRecordText(std::wstring& text) {
-    if (isCopy_ && ParseExactLine(line_, exact_)) {
-      text = TextOfBytes(exact_.data);
-      text.resize(std::min(text.find(L'\0'), text.size()));
-    } else {
-      ParseStringValueLine(line_, name_, text);
-    }
-  }
-
-  // A malformed line has no name and leaves the number as it was.
-  bool ReadNumberLine(std::int32_t& number) {
-    if (!stream_.ReadLine(line_)) return false;
-    name_.clear();
-    ParseDwordValueLine(line_, name_, number, 10);
-    return true;
-  }
-
-  // A record that the end of the text cuts off is not taken.
-  void ReadCategories() {
-    while (ReadSectionLine()) {
-      std::wstring category;
-      std::int32_t flags = 0;
-      std::int32_t color = -1;
-      ParseRecordText(category);
-      if (!ReadNumberLine(flags) || !ReadNumberLine(color)) return;
-      // Some writers put one more line in front of the colour.
-      if (!EqualIgnoringCase(name_, L"Color") && !ReadNumberLine(color)) return;
-      target_.TakeCategory(category, flags, color);
-    }
-  }
-
-  // A malformed line leaves the value of the record before it.
-  void ReadFilterTitles() {
-    std::wstring title;
-    std::int32_t index = 0;
-    std::int32_t visible = 0;
-    std::int32_t uncategorized = 0;
-    while (ReadSectionLine()) {
-      ParseRecordText(title);
-      if (!ReadNumberLine(index) || !ReadNumberLine(visible) || !ReadNumberLine(uncategorized)) {
-        return;
-      }
-      target_.TakeFilter(index, title, visible != 0, uncategorized != 0);
-    }
-  }
-
-  TextReader& stream_;
-  TextTarget& target_;
-  bool isCopy_ = false;
-  std::wstring_view line_;
-  std::wstring name_;
-  ParsedValue value_;
-  EnumeratedValue exact_;
-};
 
 class OutsideKeyFinder final : public TextTarget {
  public:

@@ -26,6 +26,8 @@ class TextReader {
   // in pieces. As for any text of the system, a line ends for its reader at its first zero unit.
   // False at the end of the text; an odd last byte is none of it.
   bool ReadLine(std::wstring_view& line);
+  // Where the line that was read last ends, in bytes from the start.
+  std::size_t Position() const { return bytes_.size() - rest_.size(); }
 
  private:
   std::span<const std::byte> bytes_;
