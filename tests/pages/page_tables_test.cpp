@@ -5,6 +5,7 @@
 #include <set>
 
 #include "pages/page_list.h"
+#include "pages/settings_without_row.h"
 #include "tests/support/setting_lines.h"
 #include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
@@ -32,13 +33,7 @@ class Tables : public testing::Test, protected TestDevice {
   }
 };
 
-// What is saved and on no page: because the user shall not edit it or does so on the Today screen,
-// because the calendar's tab is never shown in the list of tabs, or because it is stored with
-// another...
-const std::set<std::wstring> kNotForTheUser = {
-    L"FirstTimeSettingsMsg", L"ApptDisplayFormat", L"CalendarTabEnabled", L"CalendarTabOrder",
-    L"InstallPath18",        L"InstallPath24",     L"InstallPathBlank",   L"CntctsActiveLanguages"};
-// ... or because its page is yet to come.
+// Saved and on no page because that is yet to come.
 const std::set<SettingKey> kPagesToCome = {SettingKey::kCategories};
 
 TEST_F(Tables, HaveEverySavedSettingOnOnePage) {
@@ -52,7 +47,7 @@ TEST_F(Tables, HaveEverySavedSettingOnOnePage) {
   for (const Setting* setting : SettingLines(store).all) {
     if (setting->IsReadOnly()) continue;
     const bool exempt =
-        kPagesToCome.contains(setting->Key()) || kNotForTheUser.contains(setting->Name());
+        kPagesToCome.contains(setting->Key()) || WhyNoRow(*setting) != NoRow::kNotKnown;
     EXPECT_EQ(pages[setting], exempt ? 0 : 1) << Utf8(setting->Name());
   }
 }
