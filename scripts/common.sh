@@ -34,6 +34,7 @@ program_packages=(
   g++-mingw-w64-x86-64-posix        # the compiler for Windows, with real threads
   libstb-dev                        # a decoder of TGA pictures
   librsvg2-bin imagemagick          # the artwork, and pictures of the screen
+  libcli11-dev nlohmann-json3-dev   # the companion's arguments and its JSON
   wine64 fonts-wine                 # the stand-in for a device
   fonts-dejavu-extra                # its letters at 96 dots per inch
   xvfb                              # a screen where there is none

@@ -15,6 +15,8 @@ void import_flow(Bytes bytes);
 void filters_file(Bytes bytes);
 void pim_volume(Bytes bytes);
 void settings_load(Bytes bytes);
+void backup_document(Bytes bytes);
+void backup_check(Bytes bytes);
 // These tell whether the file is whole.
 bool bitmap_check(Bytes bytes);
 bool image_check(Bytes bytes);

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <random>
 #include <string>
 
 #include "tests/fuzz/fuzz_targets.h"
@@ -33,6 +35,33 @@ TEST(FuzzSeeds, EveryTargetTakesItsOwn) {
   FeedSeeds("/filters_file", filters_file);
   FeedSeeds("/pim_volume", pim_volume);
   FeedSeeds("/settings_load", settings_load);
+  FeedSeeds("/backup_document", backup_document);
+  FeedSeeds("/backup_check", backup_check);
+}
+
+// Pieces of a backup taken out, moved, or with other signs in them.
+TEST(FuzzSeeds, MutationsOfABackupKeepTheirBytes) {
+  std::string seed;
+  VisitSeeds("/backup_document", [&](Bytes bytes, const std::string& name) {
+    const auto* const text = reinterpret_cast<const char*>(bytes.data());
+    if (name == "backup") seed.assign(text, bytes.size());
+  });
+  ASSERT_GT(seed.size(), 1000u);
+  std::mt19937 random(20081115);
+  const auto upTo = [&](std::size_t limit) { return random() % limit; };
+  for (int i = 0; i < 2'500; ++i) {
+    std::string mutation = seed;
+    mutation[0] = static_cast<char>(upTo(256));
+    for (std::size_t changes = upTo(4); changes > 0; --changes) {
+      const std::size_t from = 3 + 2 * upTo(mutation.size() / 2 - 2);
+      const std::size_t to = 3 + 2 * upTo(mutation.size() / 2 - 2);
+      const std::string piece = mutation.substr(from, 2 * upTo(100));
+      if (changes == 1) mutation[from] = "\n\r\"[]=%\0"[upTo(8)];
+      if (changes == 2) mutation.erase(from, std::min(piece.size(), mutation.size() - 100));
+      if (changes == 3) mutation.insert(to, piece);
+    }
+    backup_document(std::as_bytes(std::span(mutation)));
+  }
 }
 
 // Those named so are taken; those that begin so are not when anything is missing at their end.

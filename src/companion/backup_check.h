@@ -1,0 +1,23 @@
+// Goes through a backup and tells what an import would not bring back as it is written.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "companion/backup_settings.h"
+
+namespace tidewell {
+
+struct Finding {
+  std::size_t line = 0;    // from 1; 0: the file as a whole
+  std::size_t column = 0;  // from 1; 0: the line as a whole
+  bool isLoss = false;     // an import does not bring this back; else it is merely worth knowing
+  std::string text;        // UTF-8
+};
+
+// In the order of the lines. Without a loss an import restores all that the file says, where the
+// device has its categories. `size` is the file's, in bytes.
+std::vector<Finding> CheckBackup(BackupSettings& backup, std::size_t size);
+
+}  // namespace tidewell
