@@ -183,6 +183,7 @@ std::string PagesDocument(const char* textIds) {
   device.UseScreen(480, 640, 192);
   device.memory.libraries.Put(L"English", ReadTexts(textIds));
   device.InstallOtherPrograms();
+  device.catalog.Add({L"Business", 1});
   device.language.Load(device.memory.libraries, L"English", {});
   PagesWriter writer(device.language);
   for (const PageEntry& page : kPages) {

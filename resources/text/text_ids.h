@@ -654,6 +654,26 @@
 #define IDS_FONT_EVENTS_FILTER_3 2304     // filter 3
 #define IDS_FONT_EVENTS_FILTER_4 2305     // filter 4
 
+// The Categories page.
+#define IDS_CATEGORIES_TAB 2400                // Categories
+#define IDS_CATEGORIES_TAB_MEMBERS 2401        // Members
+#define IDS_CATEGORIES_ICONS_FOLDER 2402       // More icons
+#define IDS_CATEGORIES_NONE 2403               // This device has no categories yet: give an appointment or a task one first.
+#define IDS_CATEGORIES_COLOR 2404              // Color...
+#define IDS_FILTER 2405                        // Filter
+#define IDS_FILTER_TITLE 2406                  // Title
+#define IDS_FILTER_TITLE_KEY 2407              // Title...
+#define IDS_FILTER_RESET 2408                  // Reset...
+#define IDS_FILTER_SENSITIVITY 2409            // Sensitivity
+#define IDS_FILTER_ALL_ITEMS 2410              // All items
+#define IDS_FILTER_PUBLIC 2411                 // Not private
+#define IDS_FILTER_PRIVATE 2412                // Private only
+#define IDS_FILTER_UNCATEGORIZED 2413          // Also items without a category
+#define IDS_FILTER_TITLE_REFUSED 2414          // A title has 1 to 127 Latin characters and no quotation marks.
+#define IDS_FILTER_TITLE_REFUSED_CAPTION 2415  // Title not possible
+#define IDS_FILTER_RESET_QUESTION 2416         // Give all 32 filters their first titles and settings? Their categories stay.
+#define IDS_FILTER_RESET_CAPTION 2417          // Reset filters
+
 // Own texts, from 2000 on: dialogs whose texts have no number elsewhere.
 #define IDS_CANCEL 2000             // Cancel
 #define IDS_SELECT 2001             // Select

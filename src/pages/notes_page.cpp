@@ -80,7 +80,7 @@ PageTab FoldersTab() {
 PageTab NotesRules::TypesTab() const {
   RowColumn column;
   for (const auto& type : kTypes) {
-    column.rows.push_back(CheckByRules(type.boxId, type.textId, settings_.NotesScannedFileTypes));
+    column.rows.push_back(CheckByRules(type.boxId, type.textId, &settings_.NotesScannedFileTypes));
   }
   return {IDS_NOTES_TAB_TYPES, std::move(column)};
 }

@@ -1,6 +1,7 @@
 #include "pages/page_list.h"
 
 #include "pages/calendar_page.h"
+#include "pages/categories_page.h"
 #include "pages/colors_page.h"
 #include "pages/contacts_page.h"
 #include "pages/fonts_page.h"
@@ -28,7 +29,7 @@ const std::array<PageEntry, kPageCount> kPages = {{
     {L"ColorSettingsWin", IDS_GROUP_COLORS, IDB_COLORS, MakeColorsPage},
     {L"PIMSettingsWin", IDS_GROUP_PIM, IDB_PIM, MakePimPage},
     {L"TabsSettingsWin", IDS_GROUP_TABS, IDB_TABS, MakeTabsPage},
-    {L"CategorySettingsWin", IDS_GROUP_CATEGORIES, IDB_CATEGORIES, nullptr},
+    {L"CategorySettingsWin", IDS_GROUP_CATEGORIES, IDB_CATEGORIES, MakeCategoriesPage},
 }};
 
 }  // namespace tidewell

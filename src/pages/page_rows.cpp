@@ -125,9 +125,12 @@ Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting) {
   return row;
 }
 
-Row CheckByRules(int id, int textId, DwordSetting& setting) {
-  Row row = Check(id, textId, setting);
+Row CheckByRules(int id, int textId, DwordSetting* setting) {
+  Row row;
   row.stored = Stored::kByRules;
+  row.controlId = id;
+  row.textId = textId;
+  row.number = setting;
   return row;
 }
 

@@ -108,8 +108,8 @@ Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringS
 // Begins at its first line and is not stored.
 Row Selector(int labelId, int listId, int textId, Choices choices);
 Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting);
-// A box that shows a part of its setting.
-Row CheckByRules(int id, int textId, DwordSetting& setting);
+// A box that shows a part of its setting, or what is no setting.
+Row CheckByRules(int id, int textId, DwordSetting* setting = nullptr);
 // Of an icon picker. What is offered outlives the row; of a set the codes that are not offered stay
 // as they are stored.
 Row Icon(int labelId, int stripId, int textId, DwordSetting& setting,

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "categories/records.h"
 #include "pages/page_tabs.h"
 #include "preview/canvas.h"
 #include "settings/setting.h"
@@ -20,6 +21,9 @@ struct ListLine {
   std::wstring text;
   std::intptr_t data = 0;
   bool ticked = false;
+  // Of a list of categories: the icon, if there is one, and the colour.
+  CategoryIcon* icon = nullptr;
+  Color color = kNoColor;
 
   bool operator==(const ListLine&) const = default;
 };

@@ -26,6 +26,7 @@ struct IdCollector {
     for (const ItemButton& button : list.buttons) ids.insert(button.id);
     for (const ItemButton& label : list.labels) ids.insert(label.id);
     for (const ItemField& field : list.fields) ids.insert({field.id, field.button.id});
+    Collect(list.rows.rows);
   }
 
   std::set<int> ids;
@@ -55,7 +56,7 @@ struct RowCollector {
   void operator()(const OptionList& list) {
     for (const Option& option : list.options) rows.push_back(&option.editor);
   }
-  void operator()(const ItemList&) {}
+  void operator()(const ItemList& list) { Collect(list.rows.rows); }
   void Collect(const std::vector<Row>& more) {
     for (const Row& row : more) rows.push_back(&row);
   }

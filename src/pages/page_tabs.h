@@ -63,6 +63,7 @@ enum class ListLook : std::uint8_t {
   kPlain,
   kTicked,  // with a box before each line
   kIcons,   // with the icon of the folder that each line names
+  kColors,  // with a category's icon and colour before each line
 };
 
 // A text that can be typed above the list, and the button that takes it.
@@ -87,12 +88,14 @@ struct ItemList {
   int listId;
   ListLook look;
   DesignPlace place;
-  std::vector<ItemButton> buttons;
+  std::vector<ItemButton> buttons = {};
   std::vector<ItemButton> labels = {};
   std::vector<const Setting*> settings = {};  // that the items are stored in
   std::vector<ItemField> fields = {};
   std::vector<SettingLine> lines = {};  // those that are the same whatever is stored
   const wchar_t* columnTitle = nullptr;
+  // Above the list, whose place is then counted from below them.
+  RowColumn rows = {};
 };
 
 // Strips of icons behind their labels, on two lines.

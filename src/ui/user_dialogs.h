@@ -37,6 +37,8 @@ class UserDialogs {
   virtual std::optional<std::size_t> ChooseLine(const LineRequest& request) = 0;
   // Lets the user tick the request's lines. False when cancelled: they are as they were.
   virtual bool TickLines(TickRequest& request) = 0;
+  // The text that the request does not refuse; nothing when cancelled.
+  virtual std::optional<std::wstring> EnterText(const TextRequest& request) = 0;
 };
 
 }  // namespace tidewell

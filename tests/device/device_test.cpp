@@ -110,7 +110,10 @@ TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
                  {4, 2, "ddr"},
                  {10, 0, "dl"},
                  {10, 1, "dstttaa"},
-                 {10, 2, "dr"}};
+                 {10, 2, "dr"},
+                 {11, 0, "dddadk"},
+                 {11, 1, "ds"},
+                 {11, 2, "dds"}};
   constexpr wchar_t kFirstFolder[] = L"C:\\A folder of notes";
   CreateDirectoryW(kFirstFolder, nullptr);
   ASSERT_TRUE(ImportRegistry(R"(
@@ -136,6 +139,11 @@ TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
   program.Press(VK_F1);  // Done
   EXPECT_TRUE(program.Ended());
   RemoveDirectoryW(kFirstFolder);
+  const std::wstring filtersPath = std::wstring(kInstallFolder) + L"\\TWFilters.txt";
+  std::string filters = ReadFileBytes(filtersPath.c_str());
+  std::erase(filters, '\0');
+  EXPECT_LT(filters.find("\"Visible\"=dword:0"), filters.find("[FILTER1]"));
+  DeleteFileW(filtersPath.c_str());
   EXPECT_EQ(QueryProductTree(), R"([\Calendar]
     ClrApptRightIcons = REG_DWORD 0x1de
     dAppoPassedToday = REG_DWORD 0x1
@@ -146,6 +154,9 @@ TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
     MonthlyPopWithWeekNum = REG_DWORD 0x1
     ShowTomorrowTtl = REG_DWORD 0x0
     WeatehrLayout = REG_DWORD 0x2
+[\Categories]
+    AdditionalIconsFolder = REG_SZ \A folder of notes
+    CatFilter.Birthdays = REG_DWORD 0x1
 [\Contacts]
     CntctsActiveLanguages = REG_DWORD 0x11
     CntctsActiveSearchBar = REG_DWORD 0x0

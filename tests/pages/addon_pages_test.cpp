@@ -1,4 +1,5 @@
 // What the pages with add-ons do beyond their rows, and that no registry stops them.
+#include "pages/categories_page.h"
 #include "pages/contacts_page.h"
 #include "pages/notes_page.h"
 #include "pages/tabs_page.h"
@@ -178,6 +179,50 @@ TEST_F(AddOnPages, OrderTickHostAndLetGoOfTabs) {
                             {TabType::kSpecialEvents, 6, 1, L"", L"", L"", L""},
                             {TabType::kHosted, 7, 1, L"Clock", L"Clock.dll", L"", L""}};
   EXPECT_EQ(store.tabs, expected);
+}
+
+TEST_F(AddOnPages, EditCategoriesAndFiltersInMemory) {
+  using namespace categories_ids;
+  LoadWith({L"Home", L"Work"});
+  FakeView page(MakeCategoriesPage(context));
+  page.SelectLine(kCategoryList, 1);
+  dialogs.chosenColor = 0x332211;
+  page.Tap(kColor);
+  EXPECT_EQ(catalog.FindCategory(L"Work")->color, 0x332211u);
+  EXPECT_EQ(page.Enabled(kSensitivity, kTitle), Ids{kFilterList});
+  const std::pair<std::wstring, bool> titles[] = {{std::wstring(127, L'\xFF'), true},
+                                                  {L"", false},
+                                                  {std::wstring(128, L't'), false},
+                                                  {L"a\"b", false},
+                                                  {L"a\nb", false},
+                                                  {L"\x416", false},
+                                                  {L"\x10A", false},
+                                                  {L"Work \\ home", true}};
+  for (const auto& [title, isTaken] : titles) {
+    page.SelectLine(kFilterList, 1);
+    dialogs.answer = title;
+    page.Tap(kTitle);
+    EXPECT_EQ(catalog.FindFilter(2)->title == title, isTaken) << title.size();
+  }
+  catalog.FindFilter(32)->sensitivity = -7;
+  page.SelectLine(kFilterList, 31);
+  page.Tap(kUncategorized);
+  EXPECT_EQ(catalog.FindFilter(32)->sensitivity, -7) << "what no line stands for stays";
+  page.Choose(kSensitivity, 2);
+  page.Tick(kFilterList, 31);
+  const FilterRecord edited{L"Filter 32", 2, false, true, 32};
+  EXPECT_EQ(*catalog.FindFilter(32), edited);
+  page.Turn(2);
+  page.Choose(kFilter, 31);
+  page.Tick(kMemberList, 0);
+  EXPECT_EQ(catalog.FindCategory(L"Home")->filterFlags, 1u << 31);
+  for (dialogs.agrees = false; !dialogs.agrees; dialogs.agrees = true) {
+    page.Tap(kReset);
+    EXPECT_EQ(*catalog.FindFilter(32), edited) << "not agreed";
+  }
+  page.Tap(kReset);
+  EXPECT_EQ(*catalog.FindFilter(32), DefaultFilter(32));
+  EXPECT_EQ(recorded.CountWrites(), 0);
 }
 
 // Wrong types, endless names and ten thousand entries.

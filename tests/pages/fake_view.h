@@ -37,7 +37,7 @@ class FakeView final : public PageView {
   }
   // A line of an item list; kNoChoice for none.
   void Select(int listId, int line, PageEventKind kind = PageEventKind::kSelected) {
-    selected_ = line;
+    selected_[listId] = line;
     Tell({listId, kind, line});
   }
   // Selects an option, leaves its editor with a state and selects none.
@@ -55,6 +55,7 @@ class FakeView final : public PageView {
     StoreRows([id](const Row& row) { return row.controlId == id; });
     Tell({id, PageEventKind::kChosen});
   }
+  void Turn(int tab) { rules_->OnShown(*this, tab); }
   // The page closes.
   void Close() {
     StoreRows([](const Row& row) { return row.controlId && row.stored != Stored::kCodes; });
@@ -86,19 +87,22 @@ class FakeView final : public PageView {
   std::vector<ListLine> Lines(int listId) const override { return lines_.at(listId); }
   void SetLines(int listId, const std::vector<ListLine>& lines) override {
     lines_[listId] = lines;
-    selected_ = kNoChoice;
+    selected_.erase(listId);
   }
   void SetLook(int, int line, const LineLook& look) override { looks[line] = look; }
-  // One list is worked at a time.
-  int SelectedLine(int) const override { return selected_; }
-  void SelectLine(int, int line) override {
-    selected_ = line;
-    Ask();
+  int SelectedLine(int listId) const override {
+    const auto found = selected_.find(listId);
+    return found == selected_.end() ? kNoChoice : found->second;
+  }
+  void SelectLine(int listId, int line) override {
+    selected_[listId] = line;
+    Tell({listId, PageEventKind::kSelected, line});
   }
   void MoveLine(int listId, bool up) override {
-    const auto line = lines_[listId].begin() + selected_;
-    std::iter_swap(line, up ? line - 1 : line + 1);
-    selected_ += up ? -1 : 1;
+    int& selected = selected_.at(listId);
+    const auto line = lines_[listId].begin() + selected;
+    selected += up ? -1 : 1;
+    std::iter_swap(line, lines_[listId].begin() + selected);
   }
   void Tick(int listId, int line) {
     ListLine& ticked = lines_[listId][static_cast<std::size_t>(line)];
@@ -135,7 +139,7 @@ class FakeView final : public PageView {
   std::map<int, ControlState> states_;
   std::map<int, Choices> choices_;
   std::map<int, std::vector<ListLine>> lines_;
-  int selected_ = kNoChoice;
+  std::map<int, int> selected_;
   std::map<int, bool> enabled_;
 };
 

@@ -33,9 +33,6 @@ class Tables : public testing::Test, protected TestDevice {
   }
 };
 
-// Saved and on no page because that is yet to come.
-const std::set<SettingKey> kPagesToCome = {SettingKey::kCategories};
-
 TEST_F(Tables, HaveEverySavedSettingOnOnePage) {
   std::map<const Setting*, int> pages;
   for (const PageEntry& page : kPages) {
@@ -46,8 +43,7 @@ TEST_F(Tables, HaveEverySavedSettingOnOnePage) {
   }
   for (const Setting* setting : SettingLines(store).all) {
     if (setting->IsReadOnly()) continue;
-    const bool exempt =
-        kPagesToCome.contains(setting->Key()) || WhyNoRow(*setting) != NoRow::kNotKnown;
+    const bool exempt = WhyNoRow(*setting) != NoRow::kNotKnown;
     EXPECT_EQ(pages[setting], exempt ? 0 : 1) << Utf8(setting->Name());
   }
 }

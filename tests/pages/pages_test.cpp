@@ -195,7 +195,9 @@ TEST_P(EachPage, ShowsATabAtATimeAndStoresWhatAFingerChanges) {
     }
   }
   Close();
-  EXPECT_GE(changed.size(), std::min<std::size_t>(storing_.size(), 4));
+  const auto isTried = [](const Row* row) { return row->kind != RowKind::kPath; };
+  EXPECT_GE(std::ssize(changed),
+            std::min(std::ranges::count_if(storing_, isTried), std::ptrdiff_t{4}));
   for (const auto& [row, state] : changed) ExpectStored(*row, state);
 }
 

@@ -47,11 +47,11 @@ TEST(GermanLibrary, LeavesNothingUntranslated) {
   for (const auto& [id, text] : HeaderTexts()) {
     if (texts.at(id) == text.english) same.push_back(id);
   }
-  EXPECT_THAT(same,
-              testing::UnorderedElementsAre(
-                  IDS_GROUP_PIM, IDS_GROUP_TABS, IDS_COLOR_AUTOMATIC, IDS_PIM_COMPANION,
-                  IDS_PIM_POCKET_INFORMANT, IDS_PIM_AGENDA_FUSION, IDS_PIM_AGENDA_ONE,
-                  IDS_TABS_POSITION, IDS_TABS_STYLE_TEXT, IDS_PLUGIN_LABEL, IDS_OK, IDS_FONT_OK));
+  EXPECT_THAT(same, testing::UnorderedElementsAre(
+                        IDS_GROUP_PIM, IDS_GROUP_TABS, IDS_COLOR_AUTOMATIC, IDS_PIM_COMPANION,
+                        IDS_PIM_POCKET_INFORMANT, IDS_PIM_AGENDA_FUSION, IDS_PIM_AGENDA_ONE,
+                        IDS_TABS_POSITION, IDS_TABS_STYLE_TEXT, IDS_PLUGIN_LABEL, IDS_OK,
+                        IDS_FONT_OK, IDS_FILTER));
 }
 
 }  // namespace

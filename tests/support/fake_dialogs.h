@@ -58,6 +58,11 @@ class FakeDialogs final : public UserDialogs {
     for (const std::size_t line : turned) request.lines[line].ticked = !request.lines[line].ticked;
     return confirms;
   }
+  // Types the answer; the user cancels a dialog that refuses it.
+  std::optional<std::wstring> EnterText(const TextRequest& request) override {
+    shown.push_back(request.label + L": " + request.text);
+    return answer && request.refusal(*answer).empty() ? answer : std::nullopt;
+  }
 
   std::vector<std::wstring> shown;
   bool agrees = false;

@@ -25,6 +25,9 @@ class ColumnBody : public TabBody {
   void OnPointer(UINT message, POINT point) override;
   void PaintBackground(HDC dc) override;
 
+  // Where the row behind the last one would stand.
+  int RowsBottom() const;
+
  protected:
   // Makes the rows from `y` on; each place reaches to the next row.
   virtual std::vector<RowPlace> BuildRows(int y) = 0;
@@ -39,7 +42,6 @@ class ColumnBody : public TabBody {
   };
 
   int FirstRowTop() const;
-  int RowsBottom() const;
   void FitScroll();
   void MoveControls(UINT flags) const;
   // After the scroll offset changed.

@@ -2,15 +2,16 @@
 
 #include <commctrl.h>
 
-#include <array>
+#include <algorithm>
 #include <string>
-#include <utility>
 
 #include "resources/text/text_ids.h"
 
 namespace tidewell {
 
 namespace {
+
+constexpr int kLeastHeight = 40;  // at 96 dots per inch
 
 void NameColumn(HWND list, std::wstring title) {
   LVCOLUMNW column{};
@@ -23,12 +24,14 @@ void NameColumn(HWND list, std::wstring title) {
 
 ItemListBody::ItemListBody(SettingsPage& page, Raise raise, const PaintedRoom& room,
                            const ItemList& list)
-    : TabBody(page, std::move(raise), room),
+    : TabBody(page, raise, room),
       list_(list),
+      rows_(page, raise, {}, list.rows),
       looks_(page.Scale(), page.Text(IDS_COLOR_AUTOMATIC)) {}
 
 // Keys walk in this order.
 void ItemListBody::Build() {
+  if (!list_.rows.rows.empty()) rows_.Build();
   for (const ItemField& field : list_.fields) {
     const HWND edit = Page().AddEdit(field.id, {}, {});
     SendMessageW(edit, EM_LIMITTEXT, static_cast<WPARAM>(field.longest), 0);
@@ -40,19 +43,6 @@ void ItemListBody::Build() {
   LayOut();
 }
 
-void ItemListBody::BuildList() {
-  const HWND list = Page().AddListView(list_.listId, {});
-  SetWindowLongPtrW(list, GWL_STYLE, GetWindowLongPtrW(list, GWL_STYLE) | LVS_SHOWSELALWAYS);
-  if (list_.look == ListLook::kTicked) {
-    ListView_SetExtendedListViewStyleEx(list, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
-  }
-  if (list_.look == ListLook::kIcons) {
-    icons_.emplace();
-    ListView_SetImageList(list, icons_->Images(), LVSIL_SMALL);
-  }
-  if (list_.columnTitle) NameColumn(list, list_.columnTitle);
-}
-
 // Those of the fields as well.
 std::vector<ItemButton> ItemListBody::Buttons() const {
   std::vector<ItemButton> buttons = list_.buttons;
@@ -60,7 +50,23 @@ std::vector<ItemButton> ItemListBody::Buttons() const {
   return buttons;
 }
 
+void ItemListBody::BuildList() {
+  const HWND list = Page().AddListView(list_.listId, {});
+  SetWindowLongPtrW(list, GWL_STYLE, GetWindowLongPtrW(list, GWL_STYLE) | LVS_SHOWSELALWAYS);
+  if (list_.look == ListLook::kTicked) {
+    ListView_SetExtendedListViewStyleEx(list, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
+  } else if (list_.look == ListLook::kIcons) {
+    icons_.emplace();
+    ListView_SetImageList(list, icons_->Images(), LVSIL_SMALL);
+  } else if (list_.look == ListLook::kColors) {
+    categories_.emplace(Scale());
+    ListView_SetImageList(list, categories_->Images(), LVSIL_SMALL);
+  }
+  if (list_.columnTitle) NameColumn(list, list_.columnTitle);
+}
+
 void ItemListBody::Show(int showCommand) {
+  rows_.Show(showCommand);
   ShowWindow(Page().Control(list_.listId), showCommand);
   for (const ItemField& field : list_.fields) ShowWindow(Page().Control(field.id), showCommand);
   for (const ItemButton& button : Buttons()) ShowWindow(Page().Control(button.id), showCommand);
@@ -69,11 +75,16 @@ void ItemListBody::Show(int showCommand) {
 
 void ItemListBody::LayOut() {
   const PageMetrics metrics = Page().Metrics();
-  Page().Place(list_.listId, PlaceOf(metrics, list_.place));
+  rows_.LayOut();
+  const Rect list = PlaceOfList(metrics);
+  Page().Place(list_.listId, list);
   for (const ItemField& field : list_.fields) {
     Page().Place(field.id, PlaceOf(metrics, field.place));
   }
-  for (const ControlPlace& button : PlaceButtons(metrics, Buttons())) {
+  for (ControlPlace button : PlaceButtons(metrics, Buttons())) {
+    // On a page that is too low for its list, what stands below it is moved on.
+    const bool isBelow = !list_.rows.rows.empty();
+    if (isBelow) button.rect.top = std::max(button.rect.top, list.Bottom());
     Page().Place(button.id, button.rect);
   }
   for (const ItemButton& label : list_.labels) {
@@ -82,22 +93,35 @@ void ItemListBody::LayOut() {
   FitColumn(Page().Control(list_.listId));
 }
 
+// Below the rows; on a page that is too low for it, it keeps the height of two lines.
+Rect ItemListBody::PlaceOfList(const PageMetrics& metrics) const {
+  Rect place = PlaceOf(metrics, list_.place);
+  if (list_.rows.rows.empty()) return place;
+  const int bottom = place.Bottom();
+  place.top += rows_.RowsBottom();
+  place.height = std::max(bottom - place.top, Scale().ScaleY(kLeastHeight));
+  return place;
+}
+
 bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
   if (listId != list_.listId) return false;
   if (icons_) icons_->Clear();
   looks_.Clear();
+  if (categories_) categories_->Clear();
+  const bool hasPictures = icons_ || categories_;
+  lines_ = hasPictures ? lines : std::vector<ListLine>();
   ShowLines(Page().Control(listId), lines,
-            [this](const ListLine&) { return icons_ ? I_IMAGECALLBACK : FileIcons::kNone; });
+            [=](const ListLine&) { return hasPictures ? I_IMAGECALLBACK : FileIcons::kNone; });
   FitColumn(Page().Control(listId));
   return true;
 }
 
-// An icon takes some milliseconds to get, so it is fetched for the lines that are seen.
+// A picture takes some milliseconds to get, so it is fetched for the lines that are seen.
 void ItemListBody::OnShowLine(LVITEMW& line) {
-  if (!icons_ || !(line.mask & LVIF_IMAGE)) return;
-  std::array<wchar_t, MAX_PATH> path{};
-  ListView_GetItemText(Page().Control(list_.listId), line.iItem, 0, path.data(), MAX_PATH);
-  line.iImage = icons_->Load(path.data(), true);
+  const auto place = static_cast<std::size_t>(line.iItem);
+  if (!(line.mask & LVIF_IMAGE) || place >= lines_.size()) return;
+  const ListLine& shown = lines_[place];
+  line.iImage = icons_ ? icons_->Load(shown.text, true) : categories_->Add(shown.icon, shown.color);
   line.mask |= LVIF_DI_SETITEM;
 }
 

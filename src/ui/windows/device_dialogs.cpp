@@ -5,6 +5,7 @@
 #include "ui/windows/font_dialog.h"
 #include "ui/windows/line_dialog.h"
 #include "ui/windows/path_dialog.h"
+#include "ui/windows/text_dialog.h"
 #include "ui/windows/tick_dialog.h"
 
 namespace tidewell {
@@ -49,6 +50,10 @@ std::optional<std::size_t> DeviceDialogs::ChooseLine(const LineRequest& request)
 
 bool DeviceDialogs::TickLines(TickRequest& request) {
   return tidewell::TickLines(context_(), request);
+}
+
+std::optional<std::wstring> DeviceDialogs::EnterText(const TextRequest& request) {
+  return tidewell::EnterText(context_(), request);
 }
 
 }  // namespace tidewell

@@ -25,6 +25,7 @@ class DeviceDialogs final : public UserDialogs {
   bool ChooseFont(LogFont& font, Color& color) override;
   std::optional<std::size_t> ChooseLine(const LineRequest& request) override;
   bool TickLines(TickRequest& request) override;
+  std::optional<std::wstring> EnterText(const TextRequest& request) override;
 
  private:
   std::function<DialogContext()> context_;
