@@ -13,7 +13,7 @@ namespace {
 constexpr int kSwatchWidth = 20;
 constexpr int kGap = 3;
 
-void DrawIcon(HDC dc, CategoryIcon* icon, int side) {
+void PaintIcon(HDC dc, CategoryIcon* icon, int side) {
   const HBITMAP bitmap = icon ? static_cast<BitmapIcon*>(icon)->Handle() : nullptr;
   BITMAP facts{};
   if (!bitmap || !GetObjectW(bitmap, sizeof facts, &facts)) return;
@@ -43,7 +43,7 @@ int CategoryImages::Add(CategoryIcon* icon, Color color) {
   const Bitmap picture(CreateCompatibleBitmap(screen.Dc(), width, side_));
   const HGDIOBJ before = SelectObject(dc, picture.Get());
   FillPlain(dc, {0, 0, width, side_}, kPaper);
-  DrawIcon(dc, icon, side_);
+  PaintIcon(dc, icon, side_);
   RECT swatch{side_ + gap_, 1, width - gap_, side_ - 1};
   FillPlain(dc, swatch, kInk);
   InflateRect(&swatch, -1, -1);
