@@ -77,6 +77,11 @@ class MemoryBitmap {
   ~MemoryBitmap() { Release(); }
 
   HDC Dc() const { return dc_; }
+  // What was drawn, for an owner that wants it in no device context.
+  Bitmap Take() {
+    Release();
+    return std::move(bitmap_);
+  }
 
  private:
   void Release() {

@@ -80,8 +80,8 @@ TEST_F(DeviceTest, KeysOpenAPageAndWorkItAndWhatTheyChangedIsStored) {
   EXPECT_EQ(CaptionOf(open(program)), L"Allgemein");
 }
 
-// On each tab of a page one change, and no other value than those comes into the registry.
-TEST_F(DeviceTest, KeysReachEveryTabOfEveryPage) {
+// No other value than those comes into the registry.
+TEST_F(DeviceTest, KeysChangeOneThingOnEachTabOfAPage) {
   // From the row of tabs: a step of the D-pad each, a for its action key, t for Tab, s for Space, e
   // for End, k for the left soft key.
   const struct {

@@ -1,7 +1,7 @@
 #include "pages/windows/category_images.h"
 
 #include "categories/windows/pim_categories.h"
-#include "settings/setting.h"
+#include "ui/windows/color_swatch.h"
 #include "ui/windows/look.h"
 #include "win32/gdi.h"
 
@@ -17,11 +17,9 @@ void PaintIcon(HDC dc, CategoryIcon* icon, int side) {
   const HBITMAP bitmap = icon ? static_cast<BitmapIcon*>(icon)->Handle() : nullptr;
   BITMAP facts{};
   if (!bitmap || !GetObjectW(bitmap, sizeof facts, &facts)) return;
-  const HDC source = CreateCompatibleDC(dc);
-  const HGDIOBJ before = SelectObject(source, bitmap);
-  StretchBlt(dc, 0, 0, side, side, source, 0, 0, facts.bmWidth, facts.bmHeight, SRCCOPY);
-  SelectObject(source, before);
-  DeleteDC(source);
+  const BitmapReader reader(bitmap);
+  StretchBlt(dc, 0, 0, side, side, BitmapReader::Dc(), 0, 0, facts.bmWidth, facts.bmHeight,
+             SRCCOPY);
 }
 
 }  // namespace
@@ -38,19 +36,12 @@ CategoryImages::~CategoryImages() {
 
 int CategoryImages::Add(CategoryIcon* icon, Color color) {
   const int width = side_ + 2 * gap_ + swatchWidth_;
-  const WindowDc screen(nullptr);
-  const HDC dc = CreateCompatibleDC(screen.Dc());
-  const Bitmap picture(CreateCompatibleBitmap(screen.Dc(), width, side_));
-  const HGDIOBJ before = SelectObject(dc, picture.Get());
-  FillPlain(dc, {0, 0, width, side_}, kPaper);
-  PaintIcon(dc, icon, side_);
-  RECT swatch{side_ + gap_, 1, width - gap_, side_ - 1};
-  FillPlain(dc, swatch, kInk);
-  InflateRect(&swatch, -1, -1);
-  FillPlain(dc, swatch, color == kNoColor ? kPaper : color);
-  SelectObject(dc, before);
-  DeleteDC(dc);
-  return ImageList_Add(images_, picture.Get(), nullptr);
+  MemoryBitmap picture(WindowDc(nullptr).Dc(), width, side_);
+  FillPlain(picture.Dc(), {0, 0, width, side_}, kPaper);
+  PaintIcon(picture.Dc(), icon, side_);
+  const Rect swatch{side_ + gap_, 1, swatchWidth_, side_ - 2};
+  DrawColorSwatch(picture.Dc(), swatch, 1, color, {});
+  return ImageList_Add(images_, picture.Take().Get(), nullptr);
 }
 
 void CategoryImages::Clear() {
