@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kWarmUps = 3;
 constexpr int kRounds = 40;
+constexpr DWORD kSettling = 150;  // milliseconds, in which the system ends the program before
 
 struct Started {
   double milliseconds = 0;
@@ -37,6 +38,7 @@ bool IsGone(const wchar_t* windowClass) {
 
 Started Start(const std::wstring& path, const wchar_t* windowClass) {
   device::WaitUntil([&] { return IsGone(windowClass); });
+  Sleep(kSettling);
   const Stopwatch watch;
   device::Process process(path, L"");
   HWND window = nullptr;
@@ -83,6 +85,7 @@ void PrintParts() {
   Samples samples[kStartPartCount];
   for (int round = -kWarmUps; round < kRounds; ++round) {
     double parts[kStartPartCount];
+    Sleep(kSettling);
     if (!TakeParts(parts)) {
       std::printf("start: a start did not say what it is made of\n");
       return;
