@@ -148,7 +148,7 @@ int Check(const Request& request) {
   if (!document) return kTrouble;
   BackupSettings backup(*document, FactsOf(request));
   bool hasLoss = false;
-  for (const Finding& finding : CheckBackup(backup, document->Edited().size())) {
+  for (const Finding& finding : CheckBackup(backup)) {
     std::string place = request.file + ":";
     if (finding.line != 0) place += std::to_string(finding.line) + ":";
     if (finding.column != 0) place += std::to_string(finding.column) + ":";

@@ -19,18 +19,10 @@ std::wstring_view TakeKeyName(std::wstring_view& path) {
   return name;
 }
 
-// As the registry finds keys: name by name, without regard to case.
-bool IsWithin(std::wstring_view tree, std::wstring_view path) {
-  while (!tree.empty()) {
-    if (!EqualIgnoringCase(TakeKeyName(path), TakeKeyName(tree))) return false;
-  }
-  return true;
-}
-
 class OutsideKeyFinder final : public TextTarget {
  public:
   bool OpenKey(const std::wstring& path) override {
-    if (!IsWithin(kProductKey, path)) outsideKey = path;
+    if (!IsWithinKey(kProductKey, path)) outsideKey = path;
     return !outsideKey;
   }
 
@@ -93,7 +85,7 @@ class ImportTarget final : public TextTarget {
 
  private:
   bool Takes(const std::wstring& path) const {
-    const auto holdsIt = [&](const std::wstring& tree) { return IsWithin(tree, path); };
+    const auto holdsIt = [&](const std::wstring& tree) { return IsWithinKey(tree, path); };
     return trees_.empty() || std::ranges::any_of(trees_, holdsIt);
   }
 
@@ -105,6 +97,13 @@ class ImportTarget final : public TextTarget {
 };
 
 }  // namespace
+
+bool IsWithinKey(std::wstring_view tree, std::wstring_view path) {
+  while (!tree.empty()) {
+    if (!EqualIgnoringCase(TakeKeyName(path), TakeKeyName(tree))) return false;
+  }
+  return true;
+}
 
 TextSurvey SurveyRegistryText(TextReader& stream) {
   OutsideKeyFinder finder;

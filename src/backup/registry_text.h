@@ -42,6 +42,10 @@ void WriteCategoriesSection(const CategoryCatalog& catalog, TextWriter& stream,
 void WriteFiltersSection(const CategoryCatalog& catalog, TextWriter& stream,
                          TextKind kind = TextKind::kBackup);
 
+// Whether a key is `tree` or below it, as the registry finds keys: name by name, without regard to
+// case.
+bool IsWithinKey(std::wstring_view tree, std::wstring_view path);
+
 struct TextSurvey {
   // It begins with an empty line.
   bool isRegistryText = false;

@@ -10,9 +10,6 @@ namespace tidewell {
 
 namespace {
 
-// More than any registry holds, and still small enough to be read.
-constexpr std::uint64_t kLargestCopy = 16 * kLargestBackup;
-
 bool BeginsAsCopy(Files& files, const std::wstring& path) {
   const std::vector<std::byte> wanted = BytesOf(L'\n' + std::wstring(kCopyMark));
   std::vector<std::byte> start(wanted.size());

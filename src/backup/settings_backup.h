@@ -19,8 +19,10 @@ inline constexpr const wchar_t* kBackupExtension = L"twsb";
 inline constexpr const wchar_t* kBackupTypeLabel = L"TW Settings Backup (twsb)";
 inline constexpr const wchar_t* kExportTitle = L"Export TW Settings";
 inline constexpr const wchar_t* kImportTitle = L"Import TW Settings";
-// Larger backups are refused. A copy may be as large as a registry can make it.
+// Larger files are refused: backups, and copies, which have room for more than any registry holds
+// and can still be read.
 inline constexpr std::uint64_t kLargestBackup = 16 * 1024 * 1024;
+inline constexpr std::uint64_t kLargestCopy = 16 * kLargestBackup;
 inline constexpr std::size_t kCopiesKept = 5;
 
 // Asked before anything is changed; true goes on.

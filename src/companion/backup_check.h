@@ -16,8 +16,10 @@ struct Finding {
   std::string text;        // UTF-8
 };
 
-// In the order of the lines. Without a loss an import restores all that the file says, where the
-// device has its categories. `size` is the file's, in bytes.
-std::vector<Finding> CheckBackup(BackupSettings& backup, std::size_t size);
+// In the order of the lines. There is a loss exactly when an import does not restore all values,
+// categories and filters as the file says them, on a device that has its categories.
+std::vector<Finding> CheckLines(const BackupDocument& document);
+// These, and values that are restored but of another use than the setting's.
+std::vector<Finding> CheckBackup(BackupSettings& backup);
 
 }  // namespace tidewell

@@ -1,12 +1,15 @@
 #include "companion/backup_document.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <utility>
 
 #include "backup/exact_lines.h"
 #include "backup/registry_text.h"
 #include "backup/section_names.h"
 #include "platform/text.h"
+#include "settings/registry_values.h"
 
 namespace tidewell {
 
@@ -14,19 +17,19 @@ namespace {
 
 constexpr wchar_t kLineEnd = L'\n';
 
-bool IsWithin(const std::wstring& tree, const std::wstring& path) {
-  return path.starts_with(tree) && (path.size() == tree.size() || path[tree.size()] == L'\\');
+std::wstring HeaderOf(std::wstring_view section) {
+  return L"[" + std::wstring(section) + L"]\n";
 }
 
-std::wstring CategoryHeader() {
-  return L"[" + std::wstring(kCategoriesSection) + L"]\n";
-}
-std::wstring FilterHeader() {
-  return L"[" + std::wstring(kFiltersSection) + L"]\n";
+// What the registry holds of it.
+std::vector<std::byte> DataOf(const NewValue& value) {
+  if (!value.isNumber) return BytesOf(value.text + L'\0');
+  const auto bytes = std::bit_cast<std::array<std::byte, 4>>(value.number);
+  return {bytes.begin(), bytes.end()};
 }
 
 // Whether the reader makes exactly that of a line.
-bool IsReadAs(const std::wstring& line, const std::wstring& name, const NewValue& value) {
+bool IsReadAs(const std::wstring& line, std::wstring_view name, const NewValue& value) {
   ParsedValue parsed;
   if (line.size() > kBackupLineCapacity || line.find(L'\0') != std::wstring::npos) return false;
   if (line.find(kLineEnd) != line.size() - 1 || !ParseValueLine(line, parsed)) return false;
@@ -35,39 +38,45 @@ bool IsReadAs(const std::wstring& line, const std::wstring& name, const NewValue
   return parsed.text == value.text && parsed.text != kDeletedString;
 }
 
-// Whether a header of that path is read as one.
-bool CanHead(const std::wstring& path) {
-  return path.find(kLineEnd) == std::wstring::npos && path.size() + 4 <= kBackupLineCapacity &&
-         !path.starts_with(L"::");
+// The system takes names up to their first zero.
+std::wstring_view UpToZero(std::wstring_view name) {
+  return name.substr(0, name.find(L'\0'));
 }
 
-// The last one that fits: it is the one that has a say.
-template <typename Records, typename Fits>
-auto FindLast(const Records& records, Fits fits) {
-  return std::find_if(records.rbegin(), records.rend(), fits);
+// One backslash between the names, none at the end.
+std::wstring PlainPath(std::wstring_view path) {
+  std::wstring plain;
+  for (const wchar_t unit : UpToZero(path)) {
+    if (unit != L'\\' || !plain.ends_with(L'\\')) plain += unit;
+  }
+  if (plain.ends_with(L'\\')) plain.pop_back();
+  return plain;
+}
+
+// Whether a header of that path is read as one.
+bool CanHead(std::wstring_view path) {
+  return path.find(kLineEnd) == std::wstring_view::npos && path.size() + 4 <= kBackupLineCapacity &&
+         !path.starts_with(L"::");
 }
 
 }  // namespace
 
-std::wstring Folded(std::wstring_view text) {
-  std::wstring folded(text);
-  std::ranges::transform(folded, folded.begin(), FoldCase);
-  return folded;
+bool AreSame(const CategoryLines& left, const CategoryLines& right) {
+  return left.flags == right.flags && left.color == right.color;
+}
+bool AreSame(const FilterLines& left, const FilterLines& right) {
+  return left.title == right.title && left.visible == right.visible &&
+         left.uncategorized == right.uncategorized;
 }
 
-std::wstring FoldedPath(std::wstring_view path) {
-  std::wstring folded;
-  for (const wchar_t unit : path) {
-    if (unit != L'\\' || !folded.ends_with(L'\\')) folded += FoldCase(unit);
-  }
-  if (folded.ends_with(L'\\')) folded.pop_back();
-  return folded;
-}
-
-bool AreSame(const StoredValue& left, const StoredValue& right) {
-  if (left.type != right.type) return false;
-  if (left.type == kTypeDword) return left.number == right.number;
-  return left.type == kTypeString ? left.text == right.text : left.data == right.data;
+bool AreSame(const BackupDocument& left, const StoredValue& inLeft, const BackupDocument& right,
+             const StoredValue& inRight) {
+  // Nearly always the lines tell.
+  if (std::ranges::equal(left.BytesIn(inLeft.line), right.BytesIn(inRight.line))) return true;
+  if (inLeft.type != inRight.type) return false;
+  const bool areNumbers = inLeft.type == kTypeDword && !inLeft.isExact && !inRight.isExact;
+  return areNumbers ? inLeft.number == inRight.number
+                    : left.DataOf(inLeft) == right.DataOf(inRight);
 }
 
 // Hears what the reader finds.
@@ -80,88 +89,105 @@ class BackupDocument::Filler final : public TextTarget {
     const std::size_t begin = document_.lines_.empty() ? 0 : document_.lines_.back().end;
     document_.lines_.push_back({begin, stream_.Position(), use});
     if (use == LineUse::kMark) document_.isCopy_ = true;
-    if (use == LineUse::kValue || use == LineUse::kExactValue || use == LineUse::kIgnored) {
-      if (key_ != kNowhere) document_.keys_[key_].last = Line();
-    } else if (use != LineUse::kRecordStart && use != LineUse::kRecordNumber &&
-               use != LineUse::kMalformed) {
+    if (use == LineUse::kEmpty || use == LineUse::kKey) {
       key_ = kNowhere;
+      records_ = nullptr;
+    } else if (use == LineUse::kCategories || use == LineUse::kFilters) {
+      const bool areCategories = use == LineUse::kCategories;
+      records_ = areCategories ? &document_.categorySection_ : &document_.filterSection_;
+      *records_ = {Line(), Line(), kNowhere};
       recordStart_ = Line() + 1;
+    } else if (records_) {
+      records_->last = Line();
+    } else if (key_ != kNowhere) {
+      document_.keys_[key_].last = Line();
     }
   }
 
   bool OpenKey(const std::wstring& path) override {
-    const std::wstring folded = FoldedPath(path);
-    const auto [place, isNew] = document_.keyPlaces_.emplace(folded, document_.keys_.size());
-    if (isNew) document_.keys_.push_back({path});
-    key_ = place->second;
+    const std::wstring plain = PlainPath(path);
+    key_ = document_.KeyOf(plain);
+    if (key_ == kNowhere) {
+      key_ = document_.keys_.size();
+      const std::wstring_view kept = document_.Keep(plain);
+      document_.keys_.push_back({kept, 0, 0, IsWithinKey(kProductKey, kept)});
+      document_.keyPlaces_.Add(NameIndex::HashOf(kNowhere, kept), key_);
+    }
     document_.keys_[key_].header = document_.keys_[key_].last = Line();
-    if (path == kProductKey) ForgetProduct(folded);
+    // This header takes away all that was read into it so far.
+    if (path == kProductKey) document_.productHeader_ = Line();
     return true;
   }
 
   void TakeValue(const ParsedValue& value) override {
-    const std::wstring id = document_.EffectId(key_, value.name);
-    if (!value.isNumber && value.text == kDeletedString) {
-      document_.inEffect_.erase(id);
-      return;
+    if (value.isNumber || value.text != kDeletedString) {
+      Add(value.name, value.isNumber ? kTypeDword : kTypeString, value.number, false);
+    } else if (const std::uint32_t* last = document_.FindLast(key_, value.name)) {
+      Overrule(*last);
     }
-    StoredValue stored{Line(), key_, value.name};
-    stored.type = value.isNumber ? kTypeDword : kTypeString;
-    stored.number = value.number;
-    if (!value.isNumber) stored.text = value.text;
-    Add(id, std::move(stored));
   }
 
   void TakeExactValue(const EnumeratedValue& value) override {
-    StoredValue stored{Line(), key_, value.name, value.type};
-    stored.data = value.data;
-    stored.text = TextOfBytes(value.data);
-    stored.text.resize(std::min(stored.text.find(L'\0'), stored.text.size()));
+    std::int32_t number = 0;
     for (std::size_t i = 0; i < 4 && i < value.data.size(); ++i) {
-      stored.number |= std::to_integer<std::int32_t>(value.data[i]) << (8 * i);
+      number |= std::to_integer<std::int32_t>(value.data[i]) << (8 * i);
     }
-    Add(document_.EffectId(key_, value.name), std::move(stored));
+    Add(UpToZero(value.name), value.type, number, true);
   }
 
   void TakeCategory(const std::wstring& name, std::int32_t flags, std::int32_t color) override {
-    document_.categories_.push_back({recordStart_, Line(), name, flags, color});
-    recordStart_ = Line() + 1;
+    const std::wstring_view kept = document_.Keep(name);
+    document_.lastCategories_.insert_or_assign(kept, document_.categories_.size());
+    document_.categories_.push_back({recordStart_, Line(), kept, flags, color});
+    EndRecord();
   }
 
   void TakeFilter(std::int32_t index, const std::wstring& title, bool visible,
                   bool uncategorized) override {
-    document_.filters_.push_back({recordStart_, Line(), index, title, visible, uncategorized});
-    recordStart_ = Line() + 1;
+    document_.lastFilters_.insert_or_assign(index, document_.filters_.size());
+    document_.filters_.push_back(
+        {recordStart_, Line(), index, document_.Keep(title), visible, uncategorized});
+    EndRecord();
   }
 
  private:
   std::size_t Line() const { return document_.lines_.size() - 1; }
 
-  // Its header takes away all that was read into it so far.
-  void ForgetProduct(const std::wstring& folded) {
-    std::erase_if(document_.inEffect_, [&](const auto& entry) {
-      const StoredValue& value = document_.values_[entry.second];
-      return IsWithin(folded, FoldedPath(document_.keys_[value.key].path));
-    });
-    document_.productHeader_ = Line();
+  void EndRecord() {
+    records_->lastTaken = Line();
+    recordStart_ = Line() + 1;
   }
 
-  void Add(const std::wstring& id, StoredValue stored) {
-    const auto [place, isNew] = document_.inEffect_.emplace(id, document_.values_.size());
-    if (!isNew) {
-      stored.earlier = place->second;
-      place->second = document_.values_.size();
+  // The line before that is in effect no more, if one was.
+  std::size_t Overrule(std::size_t value) {
+    if (!document_.IsInEffect(value)) return kNowhere;
+    document_.values_[value].isOverruled = true;
+    return value;
+  }
+
+  void Add(std::wstring_view name, std::uint32_t type, std::int32_t number, bool isExact) {
+    StoredValue stored{Line(), key_, document_.Keep(name), type, number, kNowhere, isExact, false};
+    const auto place = static_cast<std::uint32_t>(document_.values_.size());
+    if (std::uint32_t* last = document_.FindLast(key_, name)) {
+      stored.earlier = Overrule(std::exchange(*last, place));
+    } else {
+      document_.valuePlaces_.Add(NameIndex::HashOf(key_, name), place);
     }
-    document_.values_.push_back(std::move(stored));
+    document_.values_.push_back(stored);
   }
 
   BackupDocument& document_;
   const TextReader& stream_;
   std::size_t key_ = kNowhere;
+  RecordSection* records_ = nullptr;
   std::size_t recordStart_ = 0;
 };
 
-BackupDocument::BackupDocument(std::vector<std::byte> bytes) : bytes_(std::move(bytes)) {
+BackupDocument::BackupDocument(std::vector<std::byte> bytes)
+    : arena_(std::make_unique<std::pmr::monotonic_buffer_resource>()),
+      bytes_(std::move(bytes)),
+      lastCategories_(arena_.get()),
+      lastFilters_(arena_.get()) {
   TextReader stream(bytes_);
   Filler filler(*this, stream);
   RegistryTextReader reader(stream, filler);
@@ -169,44 +195,82 @@ BackupDocument::BackupDocument(std::vector<std::byte> bytes) : bytes_(std::move(
   if (isRegistryText_) reader.Read();
 }
 
+std::wstring_view BackupDocument::Keep(std::wstring_view text) {
+  auto* const kept =
+      static_cast<wchar_t*>(arena_->allocate(text.size() * sizeof(wchar_t), alignof(wchar_t)));
+  std::ranges::copy(text, kept);
+  return {kept, text.size()};
+}
+
+std::span<const std::byte> BackupDocument::BytesIn(std::size_t line) const {
+  return std::span(bytes_).subspan(lines_[line].begin, lines_[line].end - lines_[line].begin);
+}
+
 std::wstring BackupDocument::TextOf(std::size_t line) const {
-  const DocumentLine& place = lines_[line];
-  return TextOfBytes(std::span(bytes_).subspan(place.begin, place.end - place.begin));
+  return TextOfBytes(BytesIn(line));
 }
 
-std::size_t BackupDocument::NumberOf(std::size_t line) const {
-  std::size_t number = 1;
-  for (std::size_t i = 0; i < line; ++i) number += EndsWhole(i) ? 1 : 0;
-  return number;
-}
-
-// A line end parts the two, for no name has one.
-std::wstring BackupDocument::EffectId(std::size_t key, std::wstring_view name) const {
-  return FormatDecimal(static_cast<std::int32_t>(key)) + kLineEnd + Folded(name);
-}
-
-std::size_t BackupDocument::KeyOf(std::wstring_view path) const {
-  const auto found = keyPlaces_.find(FoldedPath(path));
-  return found == keyPlaces_.end() ? kNowhere : found->second;
-}
-
-const StoredValue* BackupDocument::Find(std::wstring_view path, std::wstring_view name) const {
-  const std::size_t key = KeyOf(path);
-  if (key == kNowhere) return nullptr;
-  const auto found = inEffect_.find(EffectId(key, name));
-  return found == inEffect_.end() ? nullptr : &values_[found->second];
-}
-
-bool BackupDocument::IsInEffect(std::size_t value) const {
-  const auto found = inEffect_.find(EffectId(values_[value].key, values_[value].name));
-  return found != inEffect_.end() && found->second == value;
-}
-
-// With its line end.
 bool BackupDocument::EndsWhole(std::size_t line) const {
   const DocumentLine& place = lines_[line];
   return place.end >= place.begin + 2 && bytes_[place.end - 2] == std::byte{kLineEnd} &&
          bytes_[place.end - 1] == std::byte{0};
+}
+
+std::size_t BackupDocument::KeyOf(std::wstring_view path) const {
+  const std::wstring plain = PlainPath(path);
+  const std::uint32_t* place =
+      keyPlaces_.Find(NameIndex::HashOf(kNowhere, plain),
+                      [&](std::uint32_t key) { return EqualIgnoringCase(keys_[key].path, plain); });
+  return place ? *place : kNowhere;
+}
+
+std::uint32_t* BackupDocument::FindLast(std::size_t key, std::wstring_view name) {
+  return valuePlaces_.Find(NameIndex::HashOf(key, name), [&](std::uint32_t value) {
+    return values_[value].key == key && EqualIgnoringCase(values_[value].name, name);
+  });
+}
+
+const StoredValue* BackupDocument::Find(std::wstring_view path, std::wstring_view name) const {
+  return Find(KeyOf(path), name);
+}
+
+const StoredValue* BackupDocument::Find(std::size_t key, std::wstring_view name) const {
+  const std::uint32_t* place = const_cast<BackupDocument*>(this)->FindLast(key, name);
+  return place && IsInEffect(*place) ? &values_[*place] : nullptr;
+}
+
+bool BackupDocument::IsInEffect(std::size_t value) const {
+  const StoredValue& stored = values_[value];
+  const bool isDeleted =
+      productHeader_ != kNowhere && stored.line < productHeader_ && keys_[stored.key].isOfProduct;
+  return !stored.isOverruled && !isDeleted;
+}
+
+std::wstring BackupDocument::StringOf(const StoredValue& value) const {
+  return TextUpToZero(DataOf(value));
+}
+
+std::vector<std::byte> BackupDocument::DataOf(const StoredValue& value) const {
+  std::wstring line = TextOf(value.line);
+  line.resize(std::min(line.find(L'\0'), line.size()));
+  if (value.isExact) {
+    EnumeratedValue exact;
+    ParseExactLine(line, exact);
+    return exact.data;
+  }
+  ParsedValue parsed;
+  ParseValueLine(line, parsed);
+  return tidewell::DataOf({parsed.isNumber, parsed.number, parsed.text});
+}
+
+const CategoryLines* BackupDocument::FindCategory(std::wstring_view name) const {
+  const auto found = lastCategories_.find(name);
+  return found == lastCategories_.end() ? nullptr : &categories_[found->second];
+}
+
+const FilterLines* BackupDocument::FindFilter(std::int32_t index) const {
+  const auto found = lastFilters_.find(index);
+  return found == lastFilters_.end() ? nullptr : &filters_[found->second];
 }
 
 // Neither the end nor the beginning of a line that the reader took in pieces.
@@ -214,7 +278,7 @@ bool BackupDocument::StandsAlone(std::size_t line) const {
   return (line == 0 || EndsWhole(line - 1)) && (EndsWhole(line) || line + 1 == lines_.size());
 }
 
-EditStatus BackupDocument::Set(const std::wstring& path, const std::wstring& name,
+EditStatus BackupDocument::Set(std::wstring_view path, std::wstring_view name,
                                const NewValue& value) {
   std::wstring line;
   if (value.isNumber) {
@@ -228,19 +292,22 @@ EditStatus BackupDocument::Set(const std::wstring& path, const std::wstring& nam
 }
 
 EditStatus BackupDocument::Take(const BackupDocument& from, const StoredValue& value) {
-  const std::wstring& path = from.keys_[value.key].path;
-  if (value.type == kTypeDword || value.type == kTypeString) {
-    const EditStatus status =
-        Set(path, value.name, {value.type == kTypeDword, value.number, value.text});
-    if (status != EditStatus::kUnwritable || !isCopy_) return status;
+  const std::wstring_view path = from.keys_[value.key].path;
+  const std::vector<std::byte> data = from.DataOf(value);
+  const NewValue plain{value.type == kTypeDword, value.number, from.StringOf(value)};
+  const bool isPlain = value.type == kTypeDword || value.type == kTypeString;
+  // A copy keeps every byte, a backup what its lines have room for.
+  if (isPlain && (!isCopy_ || data == tidewell::DataOf(plain))) {
+    const EditStatus status = Set(path, value.name, plain);
+    if (status != EditStatus::kUnwritable) return status;
   }
-  if (!isCopy_ || value.data.empty()) return EditStatus::kUnwritable;
+  if (!isCopy_) return EditStatus::kUnwritable;
   std::wstring line;
-  AppendExactLine(line, {value.name, value.type, value.data});
+  AppendExactLine(line, {std::wstring(value.name), value.type, data});
   return SetLine(path, value.name, line + kLineEnd);
 }
 
-EditStatus BackupDocument::SetLine(const std::wstring& path, const std::wstring& name,
+EditStatus BackupDocument::SetLine(std::wstring_view path, std::wstring_view name,
                                    std::wstring line) {
   const StoredValue* present = Find(path, name);
   if (!present) return Insert(path, line);
@@ -256,13 +323,13 @@ EditStatus BackupDocument::SetLine(const std::wstring& path, const std::wstring&
 }
 
 // At the end of the key's last section, or in a new one.
-EditStatus BackupDocument::Insert(const std::wstring& path, const std::wstring& line) {
+EditStatus BackupDocument::Insert(std::wstring_view path, const std::wstring& line) {
   const std::size_t key = KeyOf(path);
   const bool isGone =
       productHeader_ != kNowhere && key != kNowhere && keys_[key].header < productHeader_;
   if (key == kNowhere || isGone) {
     if (!CanHead(path)) return EditStatus::kUnwritable;
-    added_[path] += line;
+    added_[std::wstring(path)] += line;
     const bool fits = productHeader_ == kNowhere || EndsWhole(keys_[KeyOf(kProductKey)].last);
     return fits ? EditStatus::kDone : EditStatus::kEntangled;
   }
@@ -307,79 +374,57 @@ EditStatus BackupDocument::ReplaceRecord(std::size_t firstLine, std::size_t last
 }
 
 // At the end of the section, or in a new one at the end of the file.
-EditStatus BackupDocument::AddRecord(LineUse section, const std::wstring& lines) {
-  const bool isCategory = section == LineUse::kCategories;
-  const std::wstring header = isCategory ? CategoryHeader() : FilterHeader();
-  std::size_t last = kNowhere;
-  for (std::size_t line = 0; line < lines_.size(); ++line) {
-    if (lines_[line].use == section) last = line;
-  }
-  if (last == kNowhere) {
-    if (!EndsWhole(lines_.size() - 1)) return EditStatus::kEntangled;
-    std::wstring& behind = edits_[lines_.size() - 1].behind;
-    if (behind.find(header) == std::wstring::npos) behind += kLineEnd + header;
-    behind += lines;
-    return EditStatus::kDone;
-  }
-  while (last + 1 < lines_.size() && lines_[last + 1].use != LineUse::kEmpty) ++last;
+EditStatus BackupDocument::AddRecord(const RecordSection& section, const std::wstring& header,
+                                     const std::wstring& lines) {
+  const bool isNew = section.header == kNowhere;
+  const std::size_t last = isNew ? lines_.size() - 1 : section.last;
   // A record that the end of the text cuts off would go on in the new lines.
-  const bool isHeader = lines_[last].use == section;
-  const std::size_t lastOfRecords =
-      isCategory ? (categories_.empty() ? kNowhere : categories_.back().lastLine)
-                 : (filters_.empty() ? kNowhere : filters_.back().lastLine);
-  if (!EndsWhole(last) || (!isHeader && last != lastOfRecords)) return EditStatus::kEntangled;
-  edits_[last].behind += lines;
+  const bool isCutOff = !isNew && last != section.header && last != section.lastTaken;
+  if (!EndsWhole(last) || isCutOff) return EditStatus::kEntangled;
+  std::wstring& behind = edits_[last].behind;
+  if (isNew && behind.find(header) == std::wstring::npos) behind += kLineEnd + header;
+  behind += lines;
   return EditStatus::kDone;
 }
 
 EditStatus BackupDocument::TakeCategory(const BackupDocument& from, const CategoryLines& category) {
   const std::wstring lines = from.LinesOf(category.firstLine, category.lastLine);
-  const auto own = FindLast(
-      categories_, [&](const CategoryLines& other) { return other.name == category.name; });
-  if (own != categories_.rend()) return ReplaceRecord(own->firstLine, own->lastLine, lines);
-  return AddRecord(LineUse::kCategories, lines);
+  const CategoryLines* own = FindCategory(category.name);
+  if (own) return ReplaceRecord(own->firstLine, own->lastLine, lines);
+  return AddRecord(categorySection_, HeaderOf(kCategoriesSection), lines);
 }
 
 EditStatus BackupDocument::TakeFilter(const BackupDocument& from, const FilterLines& filter) {
   const std::wstring lines = from.LinesOf(filter.firstLine, filter.lastLine);
-  const auto own =
-      FindLast(filters_, [&](const FilterLines& other) { return other.index == filter.index; });
-  if (own != filters_.rend()) return ReplaceRecord(own->firstLine, own->lastLine, lines);
-  return AddRecord(LineUse::kFilters, lines);
+  const FilterLines* own = FindFilter(filter.index);
+  if (own) return ReplaceRecord(own->firstLine, own->lastLine, lines);
+  return AddRecord(filterSection_, HeaderOf(kFiltersSection), lines);
 }
 
 std::vector<std::byte> BackupDocument::Edited() const {
-  // New keys stand behind the product's own values, where no header takes them away again.
-  std::size_t place = isCopy_ ? 1 : 0;
-  if (productHeader_ != kNowhere) place = keys_[KeyOf(kProductKey)].last;
-  std::wstring sections;
+  std::map<std::size_t, Edit> edits = edits_;
   for (const auto& [path, lines] : added_) {
-    std::wstring section = L"[";
-    section.append(path).append(L"]\n").append(lines);
-    sections += productHeader_ != kNowhere ? kLineEnd + section : section + kLineEnd;
+    // New keys stand behind the product's own values, where no header takes them away again.
+    const bool isFirst = productHeader_ == kNowhere;
+    const std::size_t place = isFirst ? (isCopy_ ? 1 : 0) : keys_[KeyOf(kProductKey)].last;
+    const std::wstring section = HeaderOf(path) + lines;
+    edits[place].behind += isFirst ? section + kLineEnd : kLineEnd + section;
   }
 
   std::vector<std::byte> bytes;
   bytes.reserve(bytes_.size());
-  const auto add = [&](const std::wstring& text) {
-    const std::vector<std::byte> units = BytesOf(text);
-    bytes.insert(bytes.end(), units.begin(), units.end());
+  std::size_t done = 0;
+  const auto copyUpTo = [&](std::size_t end) {
+    const auto old = std::span(bytes_).subspan(done, end - done);
+    bytes.insert(bytes.end(), old.begin(), old.end());
   };
-  const auto at = [&](std::size_t offset) {
-    return bytes_.begin() + static_cast<std::ptrdiff_t>(offset);
-  };
-  for (std::size_t line = 0; line < lines_.size(); ++line) {
-    const auto edit = edits_.find(line);
-    if (edit != edits_.end() && edit->second.isReplaced) {
-      add(edit->second.instead);
-    } else {
-      bytes.insert(bytes.end(), at(lines_[line].begin), at(lines_[line].end));
-    }
-    if (edit != edits_.end()) add(edit->second.behind);
-    if (line == place) add(sections);
+  for (const auto& [line, edit] : edits) {
+    copyUpTo(edit.isReplaced ? lines_[line].begin : lines_[line].end);
+    const std::vector<std::byte> added = BytesOf(edit.instead + edit.behind);
+    bytes.insert(bytes.end(), added.begin(), added.end());
+    done = lines_[line].end;
   }
-  const std::size_t end = lines_.empty() ? 0 : lines_.back().end;
-  bytes.insert(bytes.end(), at(end), bytes_.end());
+  copyUpTo(bytes_.size());
   return bytes;
 }
 

@@ -5,13 +5,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <optional>
+#include <memory>
+#include <memory_resource>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "backup/registry_text_reader.h"
+#include "companion/name_index.h"
 #include "platform/registry.h"
 
 namespace tidewell {
@@ -25,30 +28,30 @@ struct DocumentLine {
   LineUse use = LineUse::kIgnored;
 };
 
+// The name is the document's, as long as it lives. So are the others below.
 struct StoredValue {
   std::size_t line = 0;
   std::size_t key = 0;  // place in Keys
-  std::wstring name;
+  std::wstring_view name;
   std::uint32_t type = 0;
-  std::int32_t number = 0;           // of a number
-  std::wstring text = {};            // of a string
-  std::vector<std::byte> data = {};  // of an exact line alone
+  std::int32_t number = 0;  // of a number
   // A line before that would be in effect without this one.
   std::size_t earlier = kNowhere;
+  bool isExact = false;
+  bool isOverruled = false;  // a later line replaces or deletes it
 };
-// Whether both leave the same in the registry.
-bool AreSame(const StoredValue& left, const StoredValue& right);
 
 struct DocumentKey {
-  std::wstring path;       // as it is spelled first
-  std::size_t header = 0;  // the line of its last header
-  std::size_t last = 0;    // the last line of that section, the header itself if it has no other
+  std::wstring_view path;    // as it is spelled first, one backslash between its names
+  std::size_t header = 0;    // the line of its last header
+  std::size_t last = 0;      // the last line of that section, the header itself if it has no other
+  bool isOfProduct = false;  // the product's own, or below it
 };
 
 struct CategoryLines {
   std::size_t firstLine = 0;
   std::size_t lastLine = 0;
-  std::wstring name;
+  std::wstring_view name;
   std::int32_t flags = 0;
   std::int32_t color = 0;
 };
@@ -57,10 +60,14 @@ struct FilterLines {
   std::size_t firstLine = 0;
   std::size_t lastLine = 0;
   std::int32_t index = 0;
-  std::wstring title;
+  std::wstring_view title;
   bool visible = false;
   bool uncategorized = false;
 };
+
+// Whether an import makes the same of both.
+bool AreSame(const CategoryLines& left, const CategoryLines& right);
+bool AreSame(const FilterLines& left, const FilterLines& right);
 
 // What a value is to be.
 struct NewValue {
@@ -86,23 +93,35 @@ class BackupDocument {
 
   const std::vector<DocumentLine>& Lines() const { return lines_; }
   std::wstring TextOf(std::size_t line) const;
-  // From 1, as editors count them.
-  std::size_t NumberOf(std::size_t line) const;
+  // With its line end.
+  bool EndsWhole(std::size_t line) const;
+  std::span<const std::byte> BytesIn(std::size_t line) const;
+  // In bytes.
+  std::size_t Size() const { return bytes_.size(); }
 
   const std::vector<DocumentKey>& Keys() const { return keys_; }
+  // Without regard to letter case; kNowhere without one.
+  std::size_t KeyOf(std::wstring_view path) const;
   // Every value line, in the order of the file, and which of them is in effect.
   const std::vector<StoredValue>& Values() const { return values_; }
   bool IsInEffect(std::size_t value) const;
+  // What the registry holds of it, and the text that this is; from its line, which keeps it.
+  std::vector<std::byte> DataOf(const StoredValue& value) const;
+  std::wstring StringOf(const StoredValue& value) const;
   // Without regard to letter case; null when there is none in effect.
   const StoredValue* Find(std::wstring_view path, std::wstring_view name) const;
-  // The last line that has a say; kNowhere without one.
+  const StoredValue* Find(std::size_t key, std::wstring_view name) const;
+  // The last line that deletes what stands before it; kNowhere without one.
   std::size_t ProductHeader() const { return productHeader_; }
 
+  // In the order of the file. Of those with one name or index the last alone has a say.
   const std::vector<CategoryLines>& Categories() const { return categories_; }
   const std::vector<FilterLines>& Filters() const { return filters_; }
+  const CategoryLines* FindCategory(std::wstring_view name) const;
+  const FilterLines* FindFilter(std::int32_t index) const;
 
   // These are kept aside until Edited.
-  EditStatus Set(const std::wstring& path, const std::wstring& name, const NewValue& value);
+  EditStatus Set(std::wstring_view path, std::wstring_view name, const NewValue& value);
   // As it stands in another document.
   EditStatus Take(const BackupDocument& from, const StoredValue& value);
   EditStatus Remove(const StoredValue& value);
@@ -121,16 +140,26 @@ class BackupDocument {
     std::wstring behind;
   };
 
-  std::wstring EffectId(std::size_t key, std::wstring_view name) const;
-  std::size_t KeyOf(std::wstring_view path) const;
-  bool EndsWhole(std::size_t line) const;
+  // The last one of its kind; kNowhere without one.
+  struct RecordSection {
+    std::size_t header = kNowhere;
+    std::size_t last = kNowhere;       // the header itself if it has no other line
+    std::size_t lastTaken = kNowhere;  // of the last record
+  };
+
+  std::wstring_view Keep(std::wstring_view text);
+  // Null where none of that name has been read.
+  std::uint32_t* FindLast(std::size_t key, std::wstring_view name);
   bool StandsAlone(std::size_t line) const;
-  EditStatus SetLine(const std::wstring& path, const std::wstring& name, std::wstring line);
-  EditStatus Insert(const std::wstring& path, const std::wstring& line);
+  EditStatus SetLine(std::wstring_view path, std::wstring_view name, std::wstring line);
+  EditStatus Insert(std::wstring_view path, const std::wstring& line);
   EditStatus ReplaceRecord(std::size_t firstLine, std::size_t lastLine, const std::wstring& lines);
-  EditStatus AddRecord(LineUse section, const std::wstring& lines);
+  EditStatus AddRecord(const RecordSection& section, const std::wstring& header,
+                       const std::wstring& lines);
   std::wstring LinesOf(std::size_t firstLine, std::size_t lastLine) const;
 
+  // Whatever is one of many lies here, so that a large file costs no call for each.
+  std::unique_ptr<std::pmr::monotonic_buffer_resource> arena_;
   std::vector<std::byte> bytes_;
   bool isRegistryText_ = false;
   bool isCopy_ = false;
@@ -139,15 +168,19 @@ class BackupDocument {
   std::vector<StoredValue> values_;
   std::vector<CategoryLines> categories_;
   std::vector<FilterLines> filters_;
-  std::unordered_map<std::wstring, std::size_t> keyPlaces_;  // by folded path
-  std::unordered_map<std::wstring, std::size_t> inEffect_;   // by key and folded name
+  NameIndex keyPlaces_;
+  NameIndex valuePlaces_;  // of the last value of each name
+  std::pmr::unordered_map<std::wstring_view, std::size_t> lastCategories_;
+  std::pmr::unordered_map<std::int32_t, std::size_t> lastFilters_;
+  RecordSection categorySection_;
+  RecordSection filterSection_;
   std::size_t productHeader_ = kNowhere;
   std::map<std::size_t, Edit> edits_;
   std::map<std::wstring, std::wstring> added_;  // lines of sections that are yet to come
 };
 
-// The name of each key on the way, folded, one backslash between them: as the registry finds it.
-std::wstring FoldedPath(std::wstring_view path);
-std::wstring Folded(std::wstring_view text);
+// Whether both leave the same in the registry.
+bool AreSame(const BackupDocument& left, const StoredValue& inLeft, const BackupDocument& right,
+             const StoredValue& inRight);
 
 }  // namespace tidewell

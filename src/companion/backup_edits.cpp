@@ -16,12 +16,12 @@ namespace {
 
 const std::wstring kDefault = L"default";
 
-std::string Quoted(const std::wstring& text) {
+std::string Quoted(std::wstring_view text) {
   return "\"" + ToUtf8(text) + "\"";
 }
 
 // Empty for kDone.
-std::string SentenceOf(EditStatus status, const std::wstring& name) {
+std::string SentenceOf(EditStatus status, std::wstring_view name) {
   switch (status) {
     case EditStatus::kUnwritable:
       return Quoted(name) +
@@ -50,16 +50,11 @@ bool IsCalled(const NamedSetting& named, const MeaningDevice& device, const std:
          is(device.PageTitle(meaning.page) + L"/" + meaning.tab + L"/" + meaning.label);
 }
 
-bool IsInTree(const std::wstring& path, SettingKey tree) {
-  const std::wstring root = FoldedPath(LocationOf(tree).path);
-  const std::wstring folded = FoldedPath(path);
-  return folded == root || folded.starts_with(root + L'\\');
-}
-
 constexpr std::array<SettingKey, 2> kSchemeTrees = {SettingKey::kColors, SettingKey::kFonts};
 
-bool IsOfScheme(const std::wstring& path) {
-  return std::ranges::any_of(kSchemeTrees, [&](SettingKey tree) { return IsInTree(path, tree); });
+bool IsOfScheme(std::wstring_view path) {
+  return std::ranges::any_of(
+      kSchemeTrees, [&](SettingKey tree) { return IsWithinKey(LocationOf(tree).path, path); });
 }
 
 std::vector<const StoredValue*> SchemeValues(const BackupDocument& document) {
@@ -76,7 +71,7 @@ std::vector<const StoredValue*> SchemeValues(const BackupDocument& document) {
 std::string TakeValue(BackupDocument& document, const BackupDocument& from,
                       const StoredValue& value) {
   const StoredValue* own = document.Find(from.Keys()[value.key].path, value.name);
-  if (own && AreSame(*own, value)) return {};
+  if (own && AreSame(document, *own, from, value)) return {};
   return SentenceOf(document.Take(from, value), value.name);
 }
 
@@ -91,8 +86,8 @@ std::string TakeSetting(BackupDocument& document, const BackupDocument& from,
 // What a merge takes.
 class MergeSelection {
  public:
-  MergeSelection(const MeaningDevice& device, const MergeChoice& choice)
-      : device_(device), choice_(choice) {}
+  MergeSelection(const BackupSettings& from, const MergeChoice& choice)
+      : from_(from.Document()), choice_(choice), isOfGroups_(KeysOfGroups(from, choice.only)) {}
 
   std::string Read(const BackupSettings& from) {
     for (const std::wstring& name : choice_.except) {
@@ -108,15 +103,13 @@ class MergeSelection {
 
   bool Takes(const Meaning& meaning) const {
     return meaning.reason != Word::kNotInBackups &&
-           IsOnly([&](const auto& group) { return IsOfGroup(device_, meaning, group); });
+           IsOnly([&](const auto& group) { return IsOfGroup(meaning, group); });
   }
   bool Takes(const Setting* setting) const { return !excepted_.contains(setting); }
-  bool Takes(const BackupDocument& from, const StoredValue& value) const {
-    const std::wstring& path = from.Keys()[value.key].path;
-    const std::wstring name = tidewell::NameOf(from, value);
-    return IsOnly([&](const auto& group) { return IsOfGroup(device_, path, group); }) &&
+  bool Takes(const StoredValue& value) const {
+    return isOfGroups_[value.key] &&
            std::ranges::none_of(choice_.except, [&](const std::wstring& each) {
-             return EqualIgnoringCase(each, name);
+             return EqualIgnoringCase(each, tidewell::NameOf(from_, value));
            });
   }
   bool IsOnly(auto fits) const {
@@ -130,8 +123,9 @@ class MergeSelection {
     });
   }
 
-  const MeaningDevice& device_;
+  const BackupDocument& from_;
   const MergeChoice& choice_;
+  std::vector<bool> isOfGroups_;
   std::set<const Setting*> excepted_;
 };
 
@@ -228,7 +222,7 @@ std::string SetByName(BackupDocument& document, const BackupSettings& settings,
 
 std::string Merge(BackupDocument& document, const BackupSettings& from, const MergeChoice& choice) {
   const BackupDocument& theirs = from.Document();
-  MergeSelection selection(from.Device(), choice);
+  MergeSelection selection(from, choice);
   std::string trouble = selection.Read(from);
   if (!trouble.empty()) return trouble;
   for (const Meaning& meaning : from.Meanings()) {
@@ -239,7 +233,7 @@ std::string Merge(BackupDocument& document, const BackupSettings& from, const Me
     }
   }
   for (const StoredValue* value : from.OtherValues()) {
-    if (selection.Takes(theirs, *value)) trouble = TakeValue(document, theirs, *value);
+    if (selection.Takes(*value)) trouble = TakeValue(document, theirs, *value);
     if (!trouble.empty()) return trouble;
   }
   return MergeRecords(document, theirs, selection);
@@ -249,18 +243,14 @@ std::vector<std::byte> SchemeOf(const BackupDocument& document) {
   MemoryMachine memory;
   const Machine machine = memory.Door();
   for (const StoredValue* value : SchemeValues(document)) {
-    const auto key =
-        memory.registry.Create(RegistryRoot::kCurrentUser, document.Keys()[value->key].path);
-    if (value->type == kTypeDword) {
-      WriteDword(key.get(), value->name, static_cast<std::uint32_t>(value->number));
-    } else if (value->type == kTypeString) {
-      WriteString(key.get(), value->name, value->text);
-    }
+    const auto key = memory.registry.Create(RegistryRoot::kCurrentUser,
+                                            std::wstring(document.Keys()[value->key].path));
+    key->Set(std::wstring(value->name), value->type, document.DataOf(*value));
   }
   SettingsStore store;
   CategoryCatalog catalog(machine, store);
   for (const CategoryLines& each : document.Categories()) {
-    catalog.Add({each.name, 1, false});
+    catalog.Add({std::wstring(each.name), 1, false});
     CategoryRecord* record = catalog.FindCategory(each.name);
     if (!record) continue;
     record->filterFlags = static_cast<std::uint32_t>(each.flags);
@@ -290,9 +280,7 @@ std::string ApplyScheme(BackupDocument& document, const BackupDocument& scheme) 
     if (!trouble.empty()) return trouble;
   }
   for (const CategoryLines& category : scheme.Categories()) {
-    const bool isThere = std::ranges::any_of(
-        document.Categories(), [&](const CategoryLines& own) { return own.name == category.name; });
-    if (!isThere) continue;
+    if (!document.FindCategory(category.name)) continue;
     std::string trouble = SentenceOf(document.TakeCategory(scheme, category), category.name);
     if (!trouble.empty()) return trouble;
   }

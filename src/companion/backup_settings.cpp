@@ -1,7 +1,6 @@
 #include "companion/backup_settings.h"
 
 #include <algorithm>
-#include <set>
 #include <span>
 
 #include "platform/text.h"
@@ -68,6 +67,12 @@ std::wstring Hex(std::uint32_t number, int digits) {
   return text;
 }
 
+std::wstring HexOf(std::span<const std::byte> data) {
+  std::wstring hex;
+  for (const std::byte byte : data) hex += Hex(std::to_integer<std::uint32_t>(byte), 2);
+  return hex;
+}
+
 void AppendPart(std::wstring& list, const std::wstring& part) {
   if (!list.empty() && !part.empty()) list += L", ";
   list += part;
@@ -127,13 +132,7 @@ BackupSettings::BackupSettings(const BackupDocument& document, const DeviceFacts
       if (!IsStored(*setting)) continue;
       const StoredValue& value = *document_.Find(PathOf(*setting), setting->Name());
       const auto key = device_.OwnRegistry().Create(RegistryRoot::kCurrentUser, PathOf(*setting));
-      if (!value.data.empty()) {
-        key->Set(value.name, value.type, value.data);
-      } else if (value.type == kTypeDword) {
-        WriteDword(key.get(), value.name, static_cast<std::uint32_t>(value.number));
-      } else {
-        WriteString(key.get(), value.name, value.text);
-      }
+      key->Set(setting->Name(), value.type, document_.DataOf(value));
     }
   }
   device_.Load();
@@ -205,16 +204,17 @@ std::wstring BackupSettings::FontInWords(const Meaning& meaning, bool isDefault)
 }
 
 std::vector<const StoredValue*> BackupSettings::OtherValues() const {
-  std::set<const StoredValue*> known;
+  const std::vector<StoredValue>& values = document_.Values();
+  std::vector<bool> isKnown(values.size());
   for (const Meaning& meaning : Meanings()) {
     for (const Setting* setting : meaning.settings) {
-      known.insert(document_.Find(PathOf(*setting), setting->Name()));
+      const StoredValue* value = document_.Find(PathOf(*setting), setting->Name());
+      if (value) isKnown[static_cast<std::size_t>(value - values.data())] = true;
     }
   }
   std::vector<const StoredValue*> others;
-  for (std::size_t i = 0; i < document_.Values().size(); ++i) {
-    const StoredValue* value = &document_.Values()[i];
-    if (document_.IsInEffect(i) && !known.contains(value)) others.push_back(value);
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    if (document_.IsInEffect(i) && !isKnown[i]) others.push_back(&values[i]);
   }
   return others;
 }
@@ -280,12 +280,14 @@ std::wstring ChoicesInWords(const Meaning& meaning, Setting& setting) {
   return list;
 }
 
-std::wstring ValueInWords(const StoredValue& value) {
+std::wstring ValueInWords(const BackupDocument& document, const StoredValue& value) {
   if (value.type == kTypeDword) return FormatDecimal(value.number);
-  if (value.type == kTypeString) return value.text;
-  std::wstring hex;
-  for (const std::byte byte : value.data) hex += Hex(std::to_integer<std::uint32_t>(byte), 2);
-  return hex;
+  return value.type == kTypeString ? document.StringOf(value) : HexOf(document.DataOf(value));
+}
+
+std::wstring ExactlyInWords(const BackupDocument& document, const StoredValue& value) {
+  std::wstring words = L"hex:" + FormatDecimal(static_cast<std::int32_t>(value.type)) + L':';
+  return words += HexOf(document.DataOf(value));
 }
 
 }  // namespace tidewell

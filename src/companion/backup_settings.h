@@ -61,7 +61,9 @@ std::optional<std::int32_t> NumberOfWords(const Meaning& meaning, Setting& setti
                                           std::wstring_view words, const MeaningDevice& device);
 // What a value may be, in words, for the user who chose another.
 std::wstring ChoicesInWords(const Meaning& meaning, Setting& setting);
-std::wstring ValueInWords(const StoredValue& value);
+std::wstring ValueInWords(const BackupDocument& document, const StoredValue& value);
+// Its type and its data as well, for two that are called alike: "hex:4:01000000".
+std::wstring ExactlyInWords(const BackupDocument& document, const StoredValue& value);
 std::wstring ColorInWords(std::uint32_t color, const MeaningDevice& device);
 
 }  // namespace tidewell

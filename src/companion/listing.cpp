@@ -38,13 +38,15 @@ std::wstring HeadingOf(const Record& record) {
 }
 
 std::string Plain(const std::vector<Record>& records) {
-  std::wstring text;
+  std::string text;
   for (const Record& record : records) {
-    text += OnOneLine(record.page) + L'\t' + OnOneLine(record.tab);
-    for (const std::wstring& cell : CellsOf(record)) text += L'\t' + cell;
-    text += L'\n';
+    text += ToUtf8(OnOneLine(record.page)) + '\t' + ToUtf8(OnOneLine(record.tab));
+    for (const Field& field : record.fields) {
+      if (!field.isInJsonOnly) text += '\t' + ToUtf8(OnOneLine(field.text));
+    }
+    text += '\n';
   }
-  return ToUtf8(text);
+  return text;
 }
 
 std::vector<std::size_t> WidthsOf(const std::vector<Record>& records) {

@@ -1,8 +1,6 @@
 #include "companion/reports.h"
 
 #include <algorithm>
-#include <map>
-#include <set>
 
 #include "backup/registry_text.h"
 #include "categories/records.h"
@@ -45,6 +43,13 @@ std::wstring JoinedReadings(const BackupSettings& backup, const Meaning& meaning
   return joined;
 }
 
+// Of a key of the product what stands behind the product's, of that its last name.
+std::wstring_view PathInProduct(const DocumentKey& key) {
+  if (!key.isOfProduct) return key.path;
+  const bool isOwn = key.path.size() == kProductKey.size();
+  return key.path.substr(isOwn ? kProductKey.rfind(L'\\') + 1 : kProductKey.size() + 1);
+}
+
 Record RecordOf(const MeaningDevice& device, const Meaning& meaning) {
   return {device.PageTitle(meaning.page), meaning.tab, {{"label", meaning.label}}};
 }
@@ -60,83 +65,133 @@ void AddValue(Record& record, const MeaningDevice& device, const BackupSettings&
   if (reading) record.fields.push_back({"value", reading->Plain(), reading->isNumber, true});
 }
 
-// Values, categories and filters of a backup by what they are called, each in words.
-using Others = std::vector<std::pair<std::wstring, std::wstring>>;
-
-Others OtherValuesOf(const BackupSettings& backup) {
-  Others others;
-  for (const StoredValue* value : backup.OtherValues()) {
-    others.emplace_back(NameOf(backup.Document(), *value), ValueInWords(*value));
-  }
-  return others;
+bool IsDefault(const CategoryLines& category) {
+  return category.flags == 0 && category.color == -1;
 }
-
-// The last of a name is the one that has a say.
-template <typename Lines, typename Name, typename InWords>
-Others LastOfEach(const std::vector<Lines>& all, Name name, InWords inWords) {
-  Others others;
-  std::map<std::wstring, std::size_t> places;
-  for (const Lines& lines : all) {
-    const auto [place, isNew] = places.emplace(name(lines), others.size());
-    if (isNew) others.emplace_back(name(lines), L"");
-    others[place->second].second = inWords(lines);
-  }
-  return others;
-}
-
-// Without those that say nothing, if need be.
-Others CategoriesOf(BackupSettings& backup, bool changedOnly = false) {
-  std::vector<CategoryLines> all = backup.Document().Categories();
-  if (changedOnly) {
-    std::erase_if(all, [](const auto& each) { return each.flags == 0 && each.color == -1; });
-  }
-  return LastOfEach(
-      all, [](const CategoryLines& each) { return each.name; },
-      [&](const CategoryLines& each) { return CategoryInWords(each, backup.Device()); });
-}
-
 bool IsDefault(const FilterLines& filter) {
   const FilterRecord own = DefaultFilter(filter.index);
   return filter.title == own.title && filter.visible == own.visible &&
          filter.uncategorized == own.includeUncategorized;
 }
 
-Others FiltersOf(BackupSettings& backup, bool changedOnly = false) {
-  std::vector<FilterLines> all = backup.Document().Filters();
-  if (changedOnly) std::erase_if(all, IsDefault);
-  return LastOfEach(
-      all, [](const FilterLines& each) { return FormatDecimal(each.index); },
-      [&](const FilterLines& each) { return FilterInWords(each, backup.Device()); });
+const CategoryLines* FindSame(const BackupDocument& document, const CategoryLines& category) {
+  return document.FindCategory(category.name);
+}
+const FilterLines* FindSame(const BackupDocument& document, const FilterLines& filter) {
+  return document.FindFilter(filter.index);
 }
 
-void AddOthers(std::vector<Record>& records, const std::wstring& heading, const Others& others) {
-  for (const auto& [name, words] : others) {
-    records.push_back({heading, L"", {{"name", name}, {"text", words}}});
+std::wstring NameOf(const BackupDocument&, const CategoryLines& category) {
+  return std::wstring(category.name);
+}
+std::wstring NameOf(const BackupDocument&, const FilterLines& filter) {
+  return FormatDecimal(filter.index);
+}
+
+std::wstring InWords(const MeaningDevice& device, const CategoryLines& category) {
+  return device.Said(Word::kFlags) + L" " + FormatDecimal(category.flags) + L", " +
+         ColorInWords(static_cast<std::uint32_t>(category.color), device);
+}
+std::wstring InWords(const MeaningDevice& device, const FilterLines& filter) {
+  std::wstring words(filter.title);
+  if (!filter.visible) words += L", " + device.Said(Word::kHidden);
+  if (filter.uncategorized) words += L", " + device.Said(Word::kUncategorized);
+  return words;
+}
+
+Record OtherRecord(const MeaningDevice& device, Word heading, const std::wstring& name,
+                   const std::wstring& words) {
+  return {device.Said(heading), L"", {{"name", name}, {"text", words}}};
+}
+
+template <typename Lines>
+void ShowRecords(std::vector<Record>& shown, const BackupSettings& backup, Word heading,
+                 const std::vector<Lines>& all, bool changedOnly) {
+  for (const Lines& each : all) {
+    const bool hasSay = FindSame(backup.Document(), each) == &each;
+    if (!hasSay || (changedOnly && IsDefault(each))) continue;
+    shown.push_back(OtherRecord(backup.Device(), heading, NameOf(backup.Document(), each),
+                                InWords(backup.Device(), each)));
   }
 }
 
-Record Difference(std::wstring page, std::wstring tab, const std::wstring& label,
-                  const std::wstring& left, const std::wstring& right, const std::wstring& name) {
-  Record record{std::move(page), std::move(tab), {{"label", label}, {"old", left}, {"new", right}}};
-  if (!name.empty()) record.fields.push_back({"name", name});
+Record Difference(std::wstring page, std::wstring tab, std::wstring label, std::wstring old,
+                  std::wstring now) {
+  Record record{std::move(page), std::move(tab), {}};
+  record.fields.reserve(4);
+  record.fields.push_back({"label", std::move(label)});
+  record.fields.push_back({"old", std::move(old)});
+  record.fields.push_back({"new", std::move(now)});
   return record;
 }
 
-void CompareOthers(std::vector<Record>& records, const MeaningDevice& device, Word heading,
-                   const Others& left, const Others& right) {
-  const std::wstring none = device.Said(Word::kNone);
-  const std::map<std::wstring, std::wstring> now(right.begin(), right.end());
-  std::set<std::wstring> old;
-  for (const auto& [name, words] : left) {
-    old.insert(name);
-    const auto found = now.find(name);
-    if (found != now.end() && found->second == words) continue;
-    records.push_back(Difference(device.Said(heading), L"", name, words,
-                                 found == now.end() ? none : found->second, L""));
+void CompareSettings(std::vector<Record>& differences, BackupSettings& left,
+                     BackupSettings& right) {
+  for (std::size_t i = 0; i < left.Meanings().size(); ++i) {
+    // Both devices have the same pages.
+    const Meaning& old = left.Meanings()[i];
+    const Meaning& now = right.Meanings()[i];
+    if (JoinedReadings(left, old) == JoinedReadings(right, now)) continue;
+    differences.push_back(Difference(left.Device().PageTitle(old.page), old.tab, old.label,
+                                     left.InWords(old), right.InWords(now)));
+    differences.back().fields.push_back({"name", old.name});
   }
-  for (const auto& [name, words] : right) {
-    if (old.contains(name)) continue;
-    records.push_back(Difference(device.Said(heading), L"", name, none, words, L""));
+}
+
+// In `from` each key of `document`.
+std::vector<std::size_t> SameKeys(const BackupDocument& document, const BackupDocument& from) {
+  std::vector<std::size_t> same;
+  for (const DocumentKey& key : document.Keys()) same.push_back(from.KeyOf(key.path));
+  return same;
+}
+
+// Words are made for what differs alone: a file may have a million values.
+void CompareOtherValues(std::vector<Record>& differences, const BackupSettings& left,
+                        const BackupSettings& right) {
+  const std::wstring heading = left.Device().Said(Word::kOtherValues);
+  const std::wstring none = left.Device().Said(Word::kNone);
+  const BackupDocument& before = left.Document();
+  const BackupDocument& after = right.Document();
+  const std::vector<std::size_t> rightKeys = SameKeys(before, after);
+  for (const StoredValue* old : left.OtherValues()) {
+    const StoredValue* now = after.Find(rightKeys[old->key], old->name);
+    if (now && AreSame(before, *old, after, *now)) continue;
+    std::wstring oldWords = ValueInWords(before, *old);
+    std::wstring newWords = now ? ValueInWords(after, *now) : none;
+    if (now && oldWords == newWords) {
+      oldWords = ExactlyInWords(before, *old);
+      newWords = ExactlyInWords(after, *now);
+    }
+    differences.push_back(
+        Difference(heading, L"", NameOf(before, *old), std::move(oldWords), std::move(newWords)));
+  }
+  const std::vector<std::size_t> leftKeys = SameKeys(after, before);
+  for (const StoredValue* now : right.OtherValues()) {
+    if (before.Find(leftKeys[now->key], now->name)) continue;
+    differences.push_back(
+        Difference(heading, L"", NameOf(after, *now), none, ValueInWords(after, *now)));
+  }
+}
+
+template <typename Lines>
+void CompareRecords(std::vector<Record>& differences, const BackupSettings& left,
+                    const BackupSettings& right, Word heading, const std::vector<Lines>& all,
+                    const std::vector<Lines>& others) {
+  const MeaningDevice& device = left.Device();
+  const auto add = [&](const Lines& any, const Lines* old, const Lines* now) {
+    const std::wstring none = device.Said(Word::kNone);
+    differences.push_back(Difference(device.Said(heading), L"", NameOf(left.Document(), any),
+                                     old ? InWords(device, *old) : none,
+                                     now ? InWords(device, *now) : none));
+  };
+  for (const Lines& old : all) {
+    if (FindSame(left.Document(), old) != &old) continue;
+    const Lines* now = FindSame(right.Document(), old);
+    if (!now || !AreSame(old, *now)) add(old, &old, now);
+  }
+  for (const Lines& now : others) {
+    if (FindSame(right.Document(), now) != &now) continue;
+    if (!FindSame(left.Document(), now)) add(now, nullptr, &now);
   }
 }
 
@@ -164,21 +219,26 @@ const char* TypeOf(const Meaning& meaning) {
 
 }  // namespace
 
-bool IsOfGroup(const MeaningDevice&, const Meaning& meaning, const std::wstring& group) {
+bool IsOfGroup(const Meaning& meaning, const std::wstring& group) {
   return IsTitle(meaning.page, group) ||
          EqualIgnoringCase(KeyName(meaning.settings.front()->Key()), group);
 }
 
-bool IsOfGroup(const MeaningDevice& device, const std::wstring& path, const std::wstring& group) {
-  const std::wstring product = FoldedPath(kProductKey);
-  std::wstring key = FoldedPath(path);
-  if (!key.starts_with(product)) return false;
-  key = key == product ? L"tidewell" : key.substr(product.size() + 1);
-  key.resize(std::min(key.find(L'\\'), key.size()));
-  return std::ranges::any_of(device.Meanings(), [&](const Meaning& meaning) {
-    return EqualIgnoringCase(KeyName(meaning.settings.front()->Key()), key) &&
-           IsOfGroup(device, meaning, group);
-  });
+std::vector<bool> KeysOfGroups(const BackupSettings& backup,
+                               const std::vector<std::wstring>& groups) {
+  std::vector<bool> areOf;
+  for (const DocumentKey& key : backup.Document().Keys()) {
+    const std::wstring_view path = PathInProduct(key);
+    const std::wstring_view name = path.substr(0, path.find(L'\\'));
+    const auto isOf = [&](const std::wstring& group) {
+      return key.isOfProduct && std::ranges::any_of(backup.Meanings(), [&](const Meaning& meaning) {
+               return EqualIgnoringCase(KeyName(meaning.settings.front()->Key()), name) &&
+                      IsOfGroup(meaning, group);
+             });
+    };
+    areOf.push_back(IsAnyOf(groups, isOf));
+  }
+  return areOf;
 }
 
 bool IsCategoriesGroup(const std::wstring& group) {
@@ -193,37 +253,18 @@ bool IsFiltersGroup(const std::wstring& group) {
 std::optional<std::wstring> FindUnknownGroup(const MeaningDevice& device,
                                              const std::vector<std::wstring>& groups) {
   for (const std::wstring& group : groups) {
-    const bool isPage = std::ranges::any_of(device.Meanings(), [&](const Meaning& meaning) {
-      return IsOfGroup(device, meaning, group);
-    });
+    const bool isPage = std::ranges::any_of(
+        device.Meanings(), [&](const Meaning& meaning) { return IsOfGroup(meaning, group); });
     if (!isPage && !IsCategoriesGroup(group) && !IsFiltersGroup(group)) return group;
   }
   return std::nullopt;
 }
 
 std::wstring NameOf(const BackupDocument& document, const StoredValue& value) {
-  std::wstring path = document.Keys()[value.key].path;
-  const std::size_t parent = kProductKey.rfind(L'\\') + 1;
-  const std::wstring product = FoldedPath(kProductKey);
-  if (FoldedPath(path).starts_with(product) && path.size() > product.size()) {
-    path = path.substr(product.size() + 1);
-  } else if (FoldedPath(path) == product) {
-    path = path.substr(parent);
-  }
-  std::ranges::replace(path, L'\\', L'/');
-  return path + L"/" + value.name;
-}
-
-std::wstring CategoryInWords(const CategoryLines& category, const MeaningDevice& device) {
-  return device.Said(Word::kFlags) + L" " + FormatDecimal(category.flags) + L", " +
-         ColorInWords(static_cast<std::uint32_t>(category.color), device);
-}
-
-std::wstring FilterInWords(const FilterLines& filter, const MeaningDevice& device) {
-  std::wstring words = filter.title;
-  if (!filter.visible) words += L", " + device.Said(Word::kHidden);
-  if (filter.uncategorized) words += L", " + device.Said(Word::kUncategorized);
-  return words;
+  std::wstring name(PathInProduct(document.Keys()[value.key]));
+  std::ranges::replace(name, L'\\', L'/');
+  name += L'/';
+  return name.append(value.name);
 }
 
 Record ShowMeaning(BackupSettings& backup, const Meaning& meaning) {
@@ -233,54 +274,43 @@ Record ShowMeaning(BackupSettings& backup, const Meaning& meaning) {
 }
 
 Record ShowValue(BackupSettings& backup, const StoredValue& value) {
-  return {backup.Device().Said(Word::kOtherValues),
-          L"",
-          {{"name", NameOf(backup.Document(), value)}, {"text", ValueInWords(value)}}};
+  return OtherRecord(backup.Device(), Word::kOtherValues, NameOf(backup.Document(), value),
+                     ValueInWords(backup.Document(), value));
 }
 
 std::vector<Record> ShowBackup(BackupSettings& backup, const std::vector<std::wstring>& groups,
                                bool changedOnly) {
-  const MeaningDevice& device = backup.Device();
   std::vector<Record> records;
   for (const Meaning& meaning : backup.Meanings()) {
     if (!IsInBackups(meaning) || (changedOnly && !backup.IsChanged(meaning))) continue;
-    if (!IsAnyOf(groups, [&](const auto& group) { return IsOfGroup(device, meaning, group); })) {
+    if (!IsAnyOf(groups, [&](const auto& group) { return IsOfGroup(meaning, group); })) {
       continue;
     }
     records.push_back(ShowMeaning(backup, meaning));
   }
-  Others values;
+  const std::vector<bool> isOfGroups = KeysOfGroups(backup, groups);
   for (const StoredValue* value : backup.OtherValues()) {
-    const std::wstring& path = backup.Document().Keys()[value->key].path;
-    if (IsAnyOf(groups, [&](const auto& group) { return IsOfGroup(device, path, group); })) {
-      values.emplace_back(NameOf(backup.Document(), *value), ValueInWords(*value));
-    }
+    if (isOfGroups[value->key]) records.push_back(ShowValue(backup, *value));
   }
-  AddOthers(records, device.Said(Word::kOtherValues), values);
+  const BackupDocument& document = backup.Document();
   if (IsAnyOf(groups, IsCategoriesGroup)) {
-    AddOthers(records, device.Said(Word::kRecords), CategoriesOf(backup, changedOnly));
+    ShowRecords(records, backup, Word::kRecords, document.Categories(), changedOnly);
   }
   if (IsAnyOf(groups, IsFiltersGroup)) {
-    AddOthers(records, device.Said(Word::kFilters), FiltersOf(backup, changedOnly));
+    ShowRecords(records, backup, Word::kFilters, document.Filters(), changedOnly);
   }
   return records;
 }
 
 std::vector<Record> CompareBackups(BackupSettings& left, BackupSettings& right) {
-  const MeaningDevice& device = left.Device();
-  std::vector<Record> records;
-  for (std::size_t i = 0; i < left.Meanings().size(); ++i) {
-    // Both devices have the same pages.
-    const Meaning& old = left.Meanings()[i];
-    const Meaning& now = right.Meanings()[i];
-    if (JoinedReadings(left, old) == JoinedReadings(right, now)) continue;
-    records.push_back(Difference(device.PageTitle(old.page), old.tab, old.label, left.InWords(old),
-                                 right.InWords(now), old.name));
-  }
-  CompareOthers(records, device, Word::kOtherValues, OtherValuesOf(left), OtherValuesOf(right));
-  CompareOthers(records, device, Word::kRecords, CategoriesOf(left), CategoriesOf(right));
-  CompareOthers(records, device, Word::kFilters, FiltersOf(left), FiltersOf(right));
-  return records;
+  std::vector<Record> differences;
+  CompareSettings(differences, left, right);
+  CompareOtherValues(differences, left, right);
+  CompareRecords(differences, left, right, Word::kRecords, left.Document().Categories(),
+                 right.Document().Categories());
+  CompareRecords(differences, left, right, Word::kFilters, left.Document().Filters(),
+                 right.Document().Filters());
+  return differences;
 }
 
 std::vector<Record> ListSettings(MeaningDevice& device, const std::vector<std::wstring>& groups) {
@@ -288,7 +318,7 @@ std::vector<Record> ListSettings(MeaningDevice& device, const std::vector<std::w
   BackupSettings defaults(nothing, device.Facts());
   std::vector<Record> records;
   for (const Meaning& meaning : defaults.Meanings()) {
-    if (!IsAnyOf(groups, [&](const auto& group) { return IsOfGroup(device, meaning, group); })) {
+    if (!IsAnyOf(groups, [&](const auto& group) { return IsOfGroup(meaning, group); })) {
       continue;
     }
     Record record = RecordOf(device, meaning);

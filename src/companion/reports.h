@@ -11,9 +11,11 @@
 namespace tidewell {
 
 // Whether a page goes by that name: its title in either language, or its registry key.
-bool IsOfGroup(const MeaningDevice& device, const Meaning& meaning, const std::wstring& group);
-// The same for a key below the product's, by the first name behind that.
-bool IsOfGroup(const MeaningDevice& device, const std::wstring& path, const std::wstring& group);
+bool IsOfGroup(const Meaning& meaning, const std::wstring& group);
+// Which keys of the backup are of any of the groups: those of the product by the first name behind
+// it. All, without groups.
+std::vector<bool> KeysOfGroups(const BackupSettings& backup,
+                               const std::vector<std::wstring>& groups);
 bool IsCategoriesGroup(const std::wstring& group);
 bool IsFiltersGroup(const std::wstring& group);
 // The first of them that is none; nothing when all are.
@@ -32,8 +34,6 @@ std::vector<Record> CompareBackups(BackupSettings& left, BackupSettings& right);
 // All settings with their types, defaults and choices.
 std::vector<Record> ListSettings(MeaningDevice& device, const std::vector<std::wstring>& groups);
 
-std::wstring CategoryInWords(const CategoryLines& category, const MeaningDevice& device);
-std::wstring FilterInWords(const FilterLines& filter, const MeaningDevice& device);
 // "TabSettings/Clock/DLL"; the product's own values stand below "Tidewell".
 std::wstring NameOf(const BackupDocument& document, const StoredValue& value);
 

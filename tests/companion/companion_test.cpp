@@ -82,7 +82,7 @@ TEST(Check, SaysWhatAnImportWouldNotBringBack) {
     const BackupDocument document = DocumentOf(head + c.text);
     BackupSettings backup(document, {});
     std::string first;
-    for (const Finding& finding : CheckBackup(backup, document.Edited().size())) {
+    for (const Finding& finding : CheckBackup(backup)) {
       if (!finding.isLoss || !first.empty()) continue;
       first =
           std::to_string(finding.line) + ":" + std::to_string(finding.column) + " " + finding.text;

@@ -35,11 +35,11 @@ void RequireOthers(const BackupDocument& old, const BackupDocument& now, const s
                    const std::wstring& name) {
   for (std::size_t i = 0; i < old.Values().size(); ++i) {
     const StoredValue& value = old.Values()[i];
-    const std::wstring& key = old.Keys()[value.key].path;
+    const std::wstring_view key = old.Keys()[value.key].path;
     if (!old.IsInEffect(i)) continue;
-    if (FoldedPath(key) == FoldedPath(path) && Folded(value.name) == Folded(name)) continue;
+    if (old.KeyOf(path) == value.key && EqualIgnoringCase(value.name, name)) continue;
     const StoredValue* found = now.Find(key, value.name);
-    Require(found && AreSame(*found, value));
+    Require(found && AreSame(now, *found, old, value));
   }
   Require(old.Categories().size() == now.Categories().size());
   Require(old.Filters().size() == now.Filters().size());
@@ -66,7 +66,7 @@ void backup_document(Bytes bytes) {
     const BackupDocument again(Copied(edited));
     const StoredValue* found = again.Find(path, name);
     Require(found && (value.isNumber ? found->type == kTypeDword && found->number == value.number
-                                     : found->text == value.text));
+                                     : again.StringOf(*found) == value.text));
     RequireOthers(document, again, path, name);
   }
   BackupDocument other(Copied(bytes));
