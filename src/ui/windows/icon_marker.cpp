@@ -139,6 +139,7 @@ void IconMarker::OnKey(WPARAM key) {
     case VK_SPACE:
     case VK_RETURN:
       if (model_.Mode() == MarkerMode::kOne) {
+        DropCharacter();
         OpenMenu();
       } else {
         Tap(FocusedPoint(), kAtOnce);
@@ -187,6 +188,12 @@ void IconMarker::OpenMenu() {
   ClientToScreen(window_, &place);
   TrackPopupMenuEx(menu, TPM_LEFTALIGN | TPM_TOPALIGN, place.x, place.y, window_, nullptr);
   DestroyMenu(menu);
+}
+
+// That of the key that is down would end the menu as soon as it is there.
+void IconMarker::DropCharacter() const {
+  MSG character;
+  PeekMessageW(&character, window_, WM_CHAR, WM_CHAR, PM_REMOVE);
 }
 
 void IconMarker::Walk(int direction) {

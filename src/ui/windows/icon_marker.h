@@ -45,6 +45,7 @@ class IconMarker {
   void OnMenuCommand(int command);
   // What a tap does; the name comes at a point of the strip after a while.
   void Tap(POINT point, unsigned delay);
+  void DropCharacter() const;
   void OpenMenu();
   void Walk(int direction);
   // The corner of the focused cell.
