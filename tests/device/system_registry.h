@@ -18,14 +18,18 @@ inline constexpr wchar_t kImportFile[] = L"C:\\device_test.reg";
 inline constexpr wchar_t kPrinted[] = L"C:\\device_test.printed";
 inline constexpr char kProductKeyInFull[] = "HKEY_CURRENT_USER\\Software\\Velmont\\Tidewell";
 
-// What the tool prints stays in a file.
-inline bool RunRegTool(const std::wstring& arguments) {
+// What a tool prints stays in a file. Returns its exit code.
+inline std::optional<DWORD> RunPrinting(const std::wstring& tool, const std::wstring& arguments) {
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
   const HANDLE printed =
       CreateFileW(kPrinted, GENERIC_WRITE, 0, &inherited, CREATE_ALWAYS, 0, nullptr);
-  const bool done = Process(kRegTool, arguments, printed).WaitForExit() == 0u;
+  const std::optional<DWORD> code = Process(tool, arguments, printed).WaitForExit();
   CloseHandle(printed);
-  return done;
+  return code;
+}
+
+inline bool RunRegTool(const std::wstring& arguments) {
+  return RunPrinting(kRegTool, arguments) == 0u;
 }
 
 // "    name    REG_SZ    data" with its three parts told apart.
@@ -82,9 +86,12 @@ inline std::string QueryProductTree() {
   return shown;
 }
 
-// Takes the product's keys away as if it had never run.
+// Takes the product's keys away as if it had never run, and those of programs it works with.
 inline void ForgetProductKeys() {
-  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Velmont");
+  for (const wchar_t* key :
+       {L"Software\\Velmont", L"Software\\Velmont Calendar", L"Software\\Velmont Weather"}) {
+    RegDeleteTreeW(HKEY_CURRENT_USER, key);
+  }
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\today\\items\\Tidewell");
 }
 
