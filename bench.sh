@@ -35,6 +35,7 @@ print_size() {
 need_packages "${program_packages[@]}" googletest
 say "Building the programs"
 build_preset windows || exit
+build_preset release tidewell_backup companion_bench || exit
 forget_device bench
 use_device bench
 install_program
@@ -50,4 +51,6 @@ for words in "${programs[@]}"; do
   use_virtual_display
   on_screen "Z:$build/windows/bench/$program.exe" | tr -d '\r'
 done
+"$build/release/bench/companion_bench" "$build/release/tools/tidewell-backup" \
+  "$(find "$root/tests/companion" -name '*.twsb' | sort | head -n 1)"
 print_size

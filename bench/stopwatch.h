@@ -1,23 +1,18 @@
 #pragma once
 
-#include <windows.h>
+#include <chrono>
 
 namespace tidewell::bench {
 
 class Stopwatch {
  public:
-  Stopwatch() { QueryPerformanceCounter(&start_); }
   double Milliseconds() const {
-    LARGE_INTEGER now;
-    LARGE_INTEGER frequency;
-    QueryPerformanceCounter(&now);
-    QueryPerformanceFrequency(&frequency);
-    return static_cast<double>(now.QuadPart - start_.QuadPart) * 1000.0 /
-           static_cast<double>(frequency.QuadPart);
+    return std::chrono::duration<double, std::milli>(Clock::now() - start_).count();
   }
 
  private:
-  LARGE_INTEGER start_;
+  using Clock = std::chrono::steady_clock;
+  Clock::time_point start_ = Clock::now();
 };
 
 }  // namespace tidewell::bench
