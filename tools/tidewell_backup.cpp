@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@
 #include "companion/backup_check.h"
 #include "companion/backup_edits.h"
 #include "companion/reports.h"
+#include "companion/suggestions.h"
 #include "pages/page_list.h"
 #include "platform/text.h"
 #include "tools/whole_files.h"
@@ -86,29 +88,52 @@ std::vector<std::wstring> Wide(const std::vector<std::string>& texts) {
   return wide;
 }
 
+// What to do about a file that does not begin as a backup.
+std::string WhyNoBackup(std::span<const std::byte> bytes) {
+  const auto begins = [&](std::initializer_list<int> start) {
+    return std::ranges::equal(bytes.first(std::min(bytes.size(), start.size())), start, {},
+                              [](std::byte byte) { return std::to_integer<int>(byte); });
+  };
+  if (bytes.empty()) return "is empty: choose a .twsb file as the program wrote it.";
+  if (begins({0xFF, 0xFE})) {
+    return "begins with a byte-order mark, which backups do not have: save it without one.";
+  }
+  if (begins({'\r', 0})) {
+    return "has carriage returns, which backups do not have: save it with line feeds alone.";
+  }
+  if (begins({'\n'}) && !begins({'\n', 0})) {
+    return "is not in UTF-16: choose a .twsb file as the program wrote it.";
+  }
+  return "is no backup, for its first line is not empty: choose a .twsb file as the program wrote "
+         "it, in UTF-16.";
+}
+
 // Nothing, and the user told, when it is no backup.
 std::optional<BackupDocument> Open(const std::string& file) {
   std::optional<std::vector<std::byte>> bytes = ReadFile(file);
   if (!bytes) {
-    Trouble(file + ": cannot be read: check that it is there and not protected.");
+    Trouble(file + ": " + WhyNotRead(file));
     return std::nullopt;
   }
+  const std::string why = WhyNoBackup(*bytes);
   BackupDocument document(*std::move(bytes));
   if (document.IsRegistryText()) return document;
-  Trouble(file +
-          ":1: is no backup, for its first line is not empty: choose a .twsb file as the "
-          "program wrote it, in UTF-16 without a mark.");
+  Trouble(file + ":1: " + why);
   return std::nullopt;
 }
 
 bool AreGroups(const MeaningDevice& device, const std::vector<std::wstring>& groups) {
   const std::optional<std::wstring> unknown = FindUnknownGroup(device, groups);
   if (!unknown) return true;
-  std::string titles;
-  for (int page = 0; page < kPageCount; ++page) {
-    titles += ToUtf8(device.PageTitle(page)) + ", ";
-  }
-  Trouble("there is no group \"" + ToUtf8(*unknown) + "\": choose of " + titles + "Filters.");
+  std::vector<std::wstring> titles;
+  for (int page = 0; page < kPageCount; ++page) titles.push_back(device.PageTitle(page));
+  titles.emplace_back(device.Said(Word::kFilters));
+  const std::wstring nearest = NearestOf(titles, *unknown);
+  std::string all;
+  for (const std::wstring& title : titles) all += (all.empty() ? "" : ", ") + ToUtf8(title);
+  Trouble("there is no group \"" + ToUtf8(*unknown) + "\": choose " +
+          (nearest.empty() ? "one " : "\"" + ToUtf8(nearest) + "\" or another ") + "of " + all +
+          ".");
   return false;
 }
 
@@ -181,24 +206,27 @@ int Get(const Request& request) {
   return kDone;
 }
 
-// Where a changed backup goes; empty, and the user told, when that is not said or not allowed.
+// Where what a command makes goes; empty, and the user told, when that is not said or not allowed.
 std::string PlaceFor(const Request& request) {
-  if (request.inPlace && request.out.empty()) return request.file;
+  const std::string instead = request.command == "scheme" ? "." : ", or say --in-place.";
+  if (request.inPlace) return request.file;
   if (request.out.empty()) {
-    Trouble(request.file + ": stays as it is: name the new file with -o, or say --in-place.");
-  } else if (IsSameFile(request.out, request.file)) {
-    Trouble(request.file + ": is not written over: name another file with -o, or say --in-place.");
-  } else {
-    return request.out;
+    Trouble(request.file + ": stays as it is: name the new file with -o" + instead);
+    return {};
   }
-  return {};
+  for (const std::string& input : {request.file, request.other}) {
+    if (!IsSameFile(request.out, input)) continue;
+    Trouble(input + ": is not written over: name another file with -o" + instead);
+    return {};
+  }
+  return request.out;
 }
 
 int Write(const std::string& place, const std::vector<std::byte>& bytes) {
   if (WriteFile(place, bytes)) return kDone;
   return Trouble(place +
-                 ": cannot be written: check that its folder is there, not protected and "
-                 "not full.");
+                 ": cannot be written: check that its folder is there, and neither that nor the "
+                 "file protected, nor the disk full.");
 }
 
 // Writes the changed document, and tells what is different in it.
@@ -206,8 +234,9 @@ int Finish(const Request& request, const BackupDocument& document, const std::st
   if (!trouble.empty()) return Trouble(request.file + ": " + trouble);
   const std::string place = PlaceFor(request);
   if (place.empty()) return kTrouble;
-  const BackupDocument edited(document.Edited());
-  if (const int status = Write(place, document.Edited()); status != kDone) return status;
+  const std::vector<std::byte> bytes = document.Edited();
+  if (const int status = Write(place, bytes); status != kDone) return status;
+  const BackupDocument edited(bytes);
   BackupSettings old(document, FactsOf(request));
   BackupSettings now(edited, FactsOf(request));
   std::cout << Render(CompareBackups(old, now), StyleOf(request));
@@ -218,11 +247,7 @@ int Set(const Request& request) {
   std::optional<BackupDocument> document = Open(request.file);
   if (!document) return kTrouble;
   const BackupSettings settings(*document, FactsOf(request));
-  std::string trouble;
-  for (const std::wstring& assignment : Wide(request.names)) {
-    if (trouble.empty()) trouble = SetByName(*document, settings, assignment);
-  }
-  return Finish(request, *document, trouble);
+  return Finish(request, *document, SetByName(*document, settings, Wide(request.names)));
 }
 
 int MergeFiles(const Request& request) {
@@ -264,25 +289,55 @@ class CommandLine {
     AddSet();
     AddMerge();
     AddSchemes();
-    app_.failure_message([](const CLI::App*, const CLI::Error& error) {
-      return "tidewell-backup: " + std::string(error.what()) + ": --help tells what there is.\n";
+    app_.failure_message([](const CLI::App* app, const CLI::Error& error) {
+      std::string command = "tidewell-backup ";
+      for (const CLI::App* used : app->get_subcommands()) command += used->get_name() + " ";
+      return "tidewell-backup: " + std::string(error.what()) + ": " + command +
+             "--help tells what there is.\n";
     });
   }
 
   int Run(std::vector<std::string> arguments) {
+    if (arguments.empty() || !IsCommand(arguments[0])) {
+      return NoCommand(Commands(), arguments);
+    }
     std::reverse(arguments.begin(), arguments.end());
     try {
       app_.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
       return app_.exit(error) == 0 ? kDone : kTrouble;
     }
-    return run_(request_);
+    const int status = run_(request_);
+    if (std::cout.flush()) return status;
+    return Trouble("standard output: cannot be written: check that its disk is not full.");
   }
 
  private:
+  std::vector<std::wstring> Commands() const {
+    std::vector<std::wstring> names;
+    for (const CLI::App* command : app_.get_subcommands({})) {
+      names.push_back(FromUtf8(command->get_name()));
+    }
+    return names;
+  }
+  bool IsCommand(const std::string& word) const {
+    return word.starts_with('-') || std::ranges::count(Commands(), FromUtf8(word)) != 0;
+  }
+  static int NoCommand(const std::vector<std::wstring>& names,
+                       const std::vector<std::string>& arguments) {
+    if (arguments.empty()) return Trouble("names no command: --help tells what there is.");
+    const std::wstring nearest = NearestOf(names, FromUtf8(arguments[0]));
+    return Trouble("there is no command \"" + arguments[0] + "\": choose " +
+                   (nearest.empty() ? "one" : ToUtf8(nearest) + " or another") +
+                   " that --help tells.");
+  }
+
   CLI::App& Add(const char* name, const char* about, int (*run)(const Request&)) {
     CLI::App& command = *app_.add_subcommand(name, about);
-    command.callback([this, run] { run_ = run; });
+    command.callback([this, name, run] {
+      request_.command = name;
+      run_ = run;
+    });
     return command;
   }
   void AddFile(CLI::App& command) {
@@ -343,12 +398,13 @@ class CommandLine {
     AddStyle(command);
     AddDevice(command);
   }
-  void AddOut(CLI::App& command) {
-    command.add_option("-o,--output", request_.out, "The new file");
+  CLI::Option* AddOut(CLI::App& command) {
+    return command.add_option("-o,--output", request_.out, "The new file");
   }
   void AddChanged(CLI::App& command) {
-    AddOut(command);
-    command.add_flag("--in-place", request_.inPlace, "Puts the new file in the place of the old");
+    CLI::Option* out = AddOut(command);
+    command.add_flag("--in-place", request_.inPlace, "Puts the new file in the place of the old")
+        ->excludes(out);
     AddStyle(command);
     AddDevice(command);
   }

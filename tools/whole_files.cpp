@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <memory>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <io.h>
+#else
 #include <unistd.h>
 #endif
 
@@ -34,7 +36,7 @@ File OpenFile(const fs::path& path, bool forWriting) {
 // Not only into the system's memory.
 bool Flush(std::FILE* file) {
 #ifdef _WIN32
-  return std::fflush(file) == 0;
+  return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
 #else
   return std::fflush(file) == 0 && fsync(fileno(file)) == 0;
 #endif
@@ -80,11 +82,20 @@ std::optional<std::vector<std::byte>> ReadFile(const std::string& path) {
   return bytes;
 }
 
+std::string WhyNotRead(const std::string& path) {
+  std::error_code error;
+  const fs::path place = PathOf(path);
+  if (fs::is_directory(place, error)) return "is a folder: name a file in it.";
+  if (!fs::exists(place, error)) return "is not there: check its name and its folder.";
+  return "cannot be read: check that it is not protected.";
+}
+
 bool WriteFile(const std::string& path, std::span<const std::byte> bytes) {
   std::error_code error;
   fs::path place = PathOf(path);
   if (fs::exists(place, error)) place = fs::canonical(place, error);
-  if (error || fs::is_directory(place, error)) return false;
+  // What is no plain file is no place for one.
+  if (error || (fs::exists(place, error) && !fs::is_regular_file(place, error))) return false;
   const fs::path beside = NameBeside(place);
   bool isDone = WriteNew(beside, bytes);
   if (isDone && fs::exists(place, error)) {

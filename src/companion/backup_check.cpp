@@ -324,7 +324,7 @@ class Checker {
     }
     Note(value.line, ToUtf8(meaning.name) + " (" + Quoted(meaning.label) + ") cannot be " +
                          std::to_string(value.number) + ", but " +
-                         ToUtf8(ChoicesInWords(meaning, setting)));
+                         ToUtf8(ChoicesInWords(meaning, setting, backup.Device())));
   }
 
   const BackupDocument& document_;

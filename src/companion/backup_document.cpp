@@ -53,6 +53,25 @@ std::wstring PlainPath(std::wstring_view path) {
   return plain;
 }
 
+void AppendNumberLine(std::wstring& lines, std::wstring_view name, std::int32_t number) {
+  AppendDwordLine(lines, name, static_cast<std::uint32_t>(number));
+  lines += kLineEnd;
+}
+
+// The line that begins a record; empty when there is none that is read as that text.
+std::wstring RecordStart(const std::wstring& name, std::wstring_view text, bool isCopy) {
+  std::wstring line;
+  AppendStringLine(line, name, text);
+  line += kLineEnd;
+  const bool isOneLine =
+      line.find(kLineEnd) == line.size() - 1 && line.find(L'\0') == std::wstring::npos;
+  if (isOneLine && line.size() <= kBackupLineCapacity) return line;
+  if (!isCopy) return {};
+  std::wstring exact;
+  AppendExactLine(exact, {name, kTypeString, BytesOf(std::wstring(text) + L'\0')});
+  return exact + kLineEnd;
+}
+
 // Whether a header of that path is read as one.
 bool CanHead(std::wstring_view path) {
   return path.find(kLineEnd) == std::wstring_view::npos && path.size() + 4 <= kBackupLineCapacity &&
@@ -278,6 +297,12 @@ bool BackupDocument::StandsAlone(std::size_t line) const {
   return (line == 0 || EndsWhole(line - 1)) && (EndsWhole(line) || line + 1 == lines_.size());
 }
 
+EditStatus BackupDocument::Entangled(std::size_t line) {
+  entangledLine_ = 1;
+  for (std::size_t i = 0; i < line; ++i) entangledLine_ += EndsWhole(i) ? 1 : 0;
+  return EditStatus::kEntangled;
+}
+
 EditStatus BackupDocument::Set(std::wstring_view path, std::wstring_view name,
                                const NewValue& value) {
   std::wstring line;
@@ -311,7 +336,7 @@ EditStatus BackupDocument::SetLine(std::wstring_view path, std::wstring_view nam
                                    std::wstring line) {
   const StoredValue* present = Find(path, name);
   if (!present) return Insert(path, line);
-  if (!StandsAlone(present->line)) return EditStatus::kEntangled;
+  if (!StandsAlone(present->line)) return Entangled(present->line);
   // A number's line may have its own line end.
   if (line.find(kDwordMarker) != std::wstring::npos && TextOf(present->line).ends_with(L"\r\n")) {
     line.insert(line.size() - 1, 1, L'\r');
@@ -330,10 +355,11 @@ EditStatus BackupDocument::Insert(std::wstring_view path, const std::wstring& li
   if (key == kNowhere || isGone) {
     if (!CanHead(path)) return EditStatus::kUnwritable;
     added_[std::wstring(path)] += line;
-    const bool fits = productHeader_ == kNowhere || EndsWhole(keys_[KeyOf(kProductKey)].last);
-    return fits ? EditStatus::kDone : EditStatus::kEntangled;
+    if (productHeader_ == kNowhere) return EditStatus::kDone;
+    const std::size_t before = keys_[KeyOf(kProductKey)].last;
+    return EndsWhole(before) ? EditStatus::kDone : Entangled(before);
   }
-  if (!EndsWhole(keys_[key].last)) return EditStatus::kEntangled;
+  if (!EndsWhole(keys_[key].last)) return Entangled(keys_[key].last);
   edits_[keys_[key].last].behind += line;
   return EditStatus::kDone;
 }
@@ -344,8 +370,8 @@ EditStatus BackupDocument::Remove(const StoredValue& value) {
        earlier = values_[earlier].earlier) {
     all.push_back(values_[earlier].line);
   }
-  if (!std::ranges::all_of(all, [&](std::size_t line) { return StandsAlone(line); })) {
-    return EditStatus::kEntangled;
+  for (const std::size_t line : all) {
+    if (!StandsAlone(line)) return Entangled(line);
   }
   for (const std::size_t line : all) {
     edits_[line].isReplaced = true;
@@ -354,17 +380,10 @@ EditStatus BackupDocument::Remove(const StoredValue& value) {
   return EditStatus::kDone;
 }
 
-std::wstring BackupDocument::LinesOf(std::size_t firstLine, std::size_t lastLine) const {
-  std::wstring lines;
-  for (std::size_t line = firstLine; line <= lastLine; ++line) lines += TextOf(line);
-  if (!lines.ends_with(kLineEnd)) lines += kLineEnd;
-  return lines;
-}
-
 EditStatus BackupDocument::ReplaceRecord(std::size_t firstLine, std::size_t lastLine,
                                          const std::wstring& lines) {
   for (std::size_t line = firstLine; line <= lastLine; ++line) {
-    if (!StandsAlone(line)) return EditStatus::kEntangled;
+    if (!StandsAlone(line)) return Entangled(line);
   }
   for (std::size_t line = firstLine; line <= lastLine; ++line) {
     edits_[line].isReplaced = true;
@@ -380,23 +399,32 @@ EditStatus BackupDocument::AddRecord(const RecordSection& section, const std::ws
   const std::size_t last = isNew ? lines_.size() - 1 : section.last;
   // A record that the end of the text cuts off would go on in the new lines.
   const bool isCutOff = !isNew && last != section.header && last != section.lastTaken;
-  if (!EndsWhole(last) || isCutOff) return EditStatus::kEntangled;
+  if (!EndsWhole(last) || isCutOff) return Entangled(last);
   std::wstring& behind = edits_[last].behind;
   if (isNew && behind.find(header) == std::wstring::npos) behind += kLineEnd + header;
   behind += lines;
   return EditStatus::kDone;
 }
 
-EditStatus BackupDocument::TakeCategory(const BackupDocument& from, const CategoryLines& category) {
-  const std::wstring lines = from.LinesOf(category.firstLine, category.lastLine);
+EditStatus BackupDocument::TakeCategory(const CategoryLines& category) {
   const CategoryLines* own = FindCategory(category.name);
+  if (own && AreSame(*own, category)) return EditStatus::kDone;
+  std::wstring lines = RecordStart(L"Category", category.name, isCopy_);
+  if (lines.empty()) return EditStatus::kUnwritable;
+  AppendNumberLine(lines, L"FiltersFlag", category.flags);
+  AppendNumberLine(lines, L"Color", category.color);
   if (own) return ReplaceRecord(own->firstLine, own->lastLine, lines);
   return AddRecord(categorySection_, HeaderOf(kCategoriesSection), lines);
 }
 
-EditStatus BackupDocument::TakeFilter(const BackupDocument& from, const FilterLines& filter) {
-  const std::wstring lines = from.LinesOf(filter.firstLine, filter.lastLine);
+EditStatus BackupDocument::TakeFilter(const FilterLines& filter) {
   const FilterLines* own = FindFilter(filter.index);
+  if (own && AreSame(*own, filter)) return EditStatus::kDone;
+  std::wstring lines = RecordStart(L"FilterName", filter.title, isCopy_);
+  if (lines.empty()) return EditStatus::kUnwritable;
+  AppendNumberLine(lines, L"Index", filter.index);
+  AppendNumberLine(lines, L"VisibleState", filter.visible ? 1 : 0);
+  AppendNumberLine(lines, L"IncludeUncategorized", filter.uncategorized ? 1 : 0);
   if (own) return ReplaceRecord(own->firstLine, own->lastLine, lines);
   return AddRecord(filterSection_, HeaderOf(kFiltersSection), lines);
 }

@@ -125,8 +125,11 @@ class BackupDocument {
   // As it stands in another document.
   EditStatus Take(const BackupDocument& from, const StoredValue& value);
   EditStatus Remove(const StoredValue& value);
-  EditStatus TakeCategory(const BackupDocument& from, const CategoryLines& category);
-  EditStatus TakeFilter(const BackupDocument& from, const FilterLines& filter);
+  // Of another document, as this one has them.
+  EditStatus TakeCategory(const CategoryLines& category);
+  EditStatus TakeFilter(const FilterLines& filter);
+  // The line that the last edit was refused for, from 1; 0 when it was another reason.
+  std::size_t EntangledLine() const { return entangledLine_; }
   bool HasEdits() const { return !edits_.empty(); }
   // The whole file with the changes.
   std::vector<std::byte> Edited() const;
@@ -156,7 +159,7 @@ class BackupDocument {
   EditStatus ReplaceRecord(std::size_t firstLine, std::size_t lastLine, const std::wstring& lines);
   EditStatus AddRecord(const RecordSection& section, const std::wstring& header,
                        const std::wstring& lines);
-  std::wstring LinesOf(std::size_t firstLine, std::size_t lastLine) const;
+  EditStatus Entangled(std::size_t line);
 
   // Whatever is one of many lies here, so that a large file costs no call for each.
   std::unique_ptr<std::pmr::monotonic_buffer_resource> arena_;
@@ -175,6 +178,7 @@ class BackupDocument {
   RecordSection categorySection_;
   RecordSection filterSection_;
   std::size_t productHeader_ = kNowhere;
+  std::size_t entangledLine_ = 0;
   std::map<std::size_t, Edit> edits_;
   std::map<std::wstring, std::wstring> added_;  // lines of sections that are yet to come
 };

@@ -6,6 +6,7 @@
 
 #include "backup/registry_text.h"
 #include "companion/reports.h"
+#include "companion/suggestions.h"
 #include "platform/memory/memory_machine.h"
 #include "platform/text.h"
 #include "settings/registry_values.h"
@@ -15,22 +16,24 @@ namespace tidewell {
 namespace {
 
 const std::wstring kDefault = L"default";
+constexpr std::size_t kMostChoicesTold = 12;
 
 std::string Quoted(std::wstring_view text) {
   return "\"" + ToUtf8(text) + "\"";
 }
 
 // Empty for kDone.
-std::string SentenceOf(EditStatus status, std::wstring_view name) {
+std::string SentenceOf(const BackupDocument& document, EditStatus status, std::wstring_view name) {
   switch (status) {
     case EditStatus::kUnwritable:
       return Quoted(name) +
              " cannot be written so, for a line has room for 800 characters without "
              "line breaks: choose a shorter or another value.";
     case EditStatus::kEntangled:
-      return Quoted(name) +
-             " cannot be changed, for its line is a piece of a longer one or lacks "
-             "its line end: mend what the command check tells first.";
+      return Quoted(name) + " cannot be changed, for line " +
+             std::to_string(document.EntangledLine()) +
+             " is a piece of a longer one, lacks its line end or is of a record that is cut off: "
+             "mend first what the command check tells.";
     case EditStatus::kDone:
       break;
   }
@@ -72,7 +75,7 @@ std::string TakeValue(BackupDocument& document, const BackupDocument& from,
                       const StoredValue& value) {
   const StoredValue* own = document.Find(from.Keys()[value.key].path, value.name);
   if (own && AreSame(document, *own, from, value)) return {};
-  return SentenceOf(document.Take(from, value), value.name);
+  return SentenceOf(document, document.Take(from, value), value.name);
 }
 
 std::string TakeSetting(BackupDocument& document, const BackupDocument& from,
@@ -80,7 +83,80 @@ std::string TakeSetting(BackupDocument& document, const BackupDocument& from,
   const StoredValue* theirs = from.Find(PathOf(setting), setting.Name());
   if (theirs) return TakeValue(document, from, *theirs);
   const StoredValue* own = document.Find(PathOf(setting), setting.Name());
-  return own ? SentenceOf(document.Remove(*own), setting.Name()) : std::string();
+  return own ? SentenceOf(document, document.Remove(*own), setting.Name()) : std::string();
+}
+
+// As a device that speaks one language has them; both have the same.
+std::vector<NamedSetting> AllCalled(const BackupSettings& backup, const MeaningDevice& device,
+                                    const std::wstring& name) {
+  std::vector<NamedSetting> found;
+  for (std::size_t i = 0; i < device.Meanings().size(); ++i) {
+    const Meaning& meaning = device.Meanings()[i];
+    for (std::size_t j = 0; j < meaning.settings.size(); ++j) {
+      if (meaning.reason == Word::kNotInBackups ||
+          !IsCalled({&meaning, meaning.settings[j]}, device, name)) {
+        continue;
+      }
+      const Meaning& own = backup.Meanings()[i];
+      found.push_back({&own, own.settings[j]});
+    }
+  }
+  return found;
+}
+
+std::vector<std::wstring> NamesOf(const BackupSettings& backup) {
+  std::vector<std::wstring> names;
+  for (const Meaning& meaning : backup.Meanings()) {
+    if (meaning.reason == Word::kNotInBackups) continue;
+    names.insert(names.end(), {meaning.name, meaning.label, meaning.settings[0]->Name()});
+  }
+  return names;
+}
+
+// The words may be of either language.
+std::optional<std::int32_t> NumberOf(const BackupSettings& settings, const NamedSetting& named,
+                                     const std::wstring& words) {
+  const auto number = NumberOfWords(*named.meaning, *named.setting, words, settings.Device());
+  if (number) return number;
+  const auto place = static_cast<std::size_t>(named.meaning - settings.Meanings().data());
+  const MeaningDevice& other = settings.InOtherTongue();
+  return NumberOfWords(other.Meanings()[place], *named.setting, words, other);
+}
+
+std::wstring AllowedInWords(const NamedSetting& named, const MeaningDevice& device) {
+  if (IsColor(*named.meaning, *named.setting)) return L"a color as #RRGGBB";
+  const std::wstring choices =
+      ChoicesInWords(*named.meaning, *named.setting, device, kMostChoicesTold);
+  if (choices.empty()) return L"a whole number";
+  return (HasLimits(*named.setting) ? L"a number from " : L"one of ") + choices;
+}
+
+std::string SetOne(BackupDocument& document, const BackupSettings& settings,
+                   const NamedSetting& named, const std::wstring& name, const std::wstring& words) {
+  const auto& [meaning, setting] = named;
+  if (meaning->kind == ValueKind::kBits) {
+    return Quoted(name) +
+           " is kept by the Today item in a form that backups do not have: leave it.";
+  }
+  bool isDefault = EqualIgnoringCase(words, kDefault);
+  NewValue value{meaning->kind != ValueKind::kText, 0, words};
+  if (value.isNumber && !isDefault) {
+    const std::optional<std::int32_t> number = NumberOf(settings, named, words);
+    if (!number) {
+      return Quoted(name) + " cannot be " + Quoted(words) + ": choose " +
+             ToUtf8(AllowedInWords(named, settings.Device())) + ".";
+    }
+    value.number = *number;
+  }
+  // A default is not stored, so that a later one reaches the user.
+  const std::wstring plain = value.isNumber ? FormatDecimal(value.number) : words;
+  isDefault = isDefault ||
+              (settings.Device().KnowsDefault(*setting) && DefaultOf(*setting).Plain() == plain);
+  const StoredValue* own = document.Find(PathOf(*setting), setting->Name());
+  if (!isDefault) {
+    return SentenceOf(document, document.Set(PathOf(*setting), setting->Name(), value), name);
+  }
+  return own ? SentenceOf(document, document.Remove(*own), name) : std::string();
 }
 
 // What a merge takes.
@@ -133,13 +209,15 @@ std::string MergeRecords(BackupDocument& document, const BackupDocument& from,
                          const MergeSelection& selection) {
   if (selection.IsOnly(IsCategoriesGroup)) {
     for (const CategoryLines& category : from.Categories()) {
-      std::string trouble = SentenceOf(document.TakeCategory(from, category), category.name);
+      if (from.FindCategory(category.name) != &category) continue;
+      std::string trouble = SentenceOf(document, document.TakeCategory(category), category.name);
       if (!trouble.empty()) return trouble;
     }
   }
   if (selection.IsOnly(IsFiltersGroup)) {
     for (const FilterLines& filter : from.Filters()) {
-      std::string trouble = SentenceOf(document.TakeFilter(from, filter), filter.title);
+      if (from.FindFilter(filter.index) != &filter) continue;
+      std::string trouble = SentenceOf(document, document.TakeFilter(filter), filter.title);
       if (!trouble.empty()) return trouble;
     }
   }
@@ -152,20 +230,15 @@ std::vector<NamedSetting> FindNamed(const BackupSettings& backup, const std::wst
                                     std::string& trouble) {
   std::wstring wanted = name;
   std::ranges::replace(wanted, L'\\', L'/');
-  std::vector<NamedSetting> found;
-  std::set<const Meaning*> meanings;
-  for (const Meaning& meaning : backup.Meanings()) {
-    for (Setting* setting : meaning.settings) {
-      const NamedSetting named{&meaning, setting};
-      if (meaning.reason == Word::kNotInBackups || !IsCalled(named, backup.Device(), wanted))
-        continue;
-      found.push_back(named);
-      meanings.insert(&meaning);
-    }
-  }
+  std::vector<NamedSetting> found = AllCalled(backup, backup.Device(), wanted);
+  if (found.empty()) found = AllCalled(backup, backup.InOtherTongue(), wanted);
+  const auto isOther = [&](const NamedSetting& each) { return each.meaning != found[0].meaning; };
   if (found.empty()) {
-    trouble = "there is no setting " + Quoted(name) + ": the command list tells all names.";
-  } else if (meanings.size() > 1) {
+    const std::wstring nearest = NearestOf(NamesOf(backup), wanted);
+    trouble = "there is no setting " + Quoted(name) + ": choose " +
+              (nearest.empty() ? "one" : Quoted(nearest) + " or another") +
+              " that the command list tells.";
+  } else if (std::ranges::any_of(found, isOther)) {
     trouble = Quoted(name) + " may be any of";
     for (const NamedSetting& named : found) trouble += " " + ToUtf8(NameOf(*named.setting));
     trouble += ": name the one that is meant.";
@@ -175,45 +248,27 @@ std::vector<NamedSetting> FindNamed(const BackupSettings& backup, const std::wst
 }
 
 std::string SetByName(BackupDocument& document, const BackupSettings& settings,
-                      const std::wstring& assignment) {
-  const std::size_t equals = assignment.find(L'=');
-  if (equals == std::wstring::npos) {
-    return Quoted(assignment) + " sets nothing: write NAME=VALUE.";
-  }
+                      const std::vector<std::wstring>& assignments) {
+  std::set<const Setting*> done;
   std::string trouble;
-  const std::wstring name = assignment.substr(0, equals);
-  const std::wstring words = assignment.substr(equals + 1);
-  const std::vector<NamedSetting> found = FindNamed(settings, name, trouble);
-  if (found.empty()) return trouble;
-
-  const bool isDefault = EqualIgnoringCase(words, kDefault);
-  if (found.size() > 1 && !isDefault) {
-    return Quoted(name) + " is six values: name one of them, " + ToUtf8(NameOf(*found[0].setting)) +
-           " or one like it.";
-  }
-  for (const auto& [meaning, setting] : found) {
-    if (meaning->kind == ValueKind::kBits) {
-      return Quoted(name) +
-             " is kept by the Today item in a form that backups do not have: leave it.";
+  for (const std::wstring& assignment : assignments) {
+    const std::size_t equals = assignment.find(L'=');
+    if (equals == std::wstring::npos || equals == 0) {
+      return Quoted(assignment) + " sets nothing: write NAME=VALUE.";
     }
-    NewValue value{meaning->kind != ValueKind::kText, 0, words};
-    if (value.isNumber && !isDefault) {
-      const auto number = NumberOfWords(*meaning, *setting, words, settings.Device());
-      if (!number) {
-        const std::string choices = ToUtf8(ChoicesInWords(*meaning, *setting));
-        return Quoted(name) + " cannot be " + Quoted(words) + ": choose " +
-               (choices.empty() ? "a whole number" : "of " + choices) + ".";
+    const std::wstring name = assignment.substr(0, equals);
+    const std::wstring words = assignment.substr(equals + 1);
+    const std::vector<NamedSetting> found = FindNamed(settings, name, trouble);
+    if (found.size() > 1 && !EqualIgnoringCase(words, kDefault)) {
+      return Quoted(name) + " is six values: name one of them, " +
+             ToUtf8(NameOf(*found[0].setting)) + " or one like it.";
+    }
+    for (const NamedSetting& named : found) {
+      if (!done.insert(named.setting).second) {
+        return Quoted(name) + " is set twice: name it once.";
       }
-      value.number = *number;
-    }
-    // A default is not stored, so that a later one reaches the user.
-    const bool isKnown = settings.Device().KnowsDefault(*setting);
-    const std::wstring plain = value.isNumber ? FormatDecimal(value.number) : words;
-    const StoredValue* own = document.Find(PathOf(*setting), setting->Name());
-    if (isDefault || (isKnown && DefaultOf(*setting).Plain() == plain)) {
-      if (own) trouble = SentenceOf(document.Remove(*own), name);
-    } else {
-      trouble = SentenceOf(document.Set(PathOf(*setting), setting->Name(), value), name);
+      trouble = SetOne(document, settings, named, name, words);
+      if (!trouble.empty()) break;
     }
     if (!trouble.empty()) return trouble;
   }
@@ -272,7 +327,7 @@ std::vector<std::byte> SchemeOf(const BackupDocument& document) {
 std::string ApplyScheme(BackupDocument& document, const BackupDocument& scheme) {
   for (const StoredValue* own : SchemeValues(document)) {
     if (scheme.Find(document.Keys()[own->key].path, own->name)) continue;
-    std::string trouble = SentenceOf(document.Remove(*own), own->name);
+    std::string trouble = SentenceOf(document, document.Remove(*own), own->name);
     if (!trouble.empty()) return trouble;
   }
   for (const StoredValue* value : SchemeValues(scheme)) {
@@ -280,8 +335,9 @@ std::string ApplyScheme(BackupDocument& document, const BackupDocument& scheme) 
     if (!trouble.empty()) return trouble;
   }
   for (const CategoryLines& category : scheme.Categories()) {
-    if (!document.FindCategory(category.name)) continue;
-    std::string trouble = SentenceOf(document.TakeCategory(scheme, category), category.name);
+    const bool hasSay = scheme.FindCategory(category.name) == &category;
+    if (!hasSay || !document.FindCategory(category.name)) continue;
+    std::string trouble = SentenceOf(document, document.TakeCategory(category), category.name);
     if (!trouble.empty()) return trouble;
   }
   return {};

@@ -15,18 +15,18 @@ struct NamedSetting {
   Setting* setting;
 };
 
-// By a registry name ("Calendar/dNumOfDays", "dNumOfDays", "Fonts/FontGeneral") or by a label
-// ("Days shown", "Calendar/Days shown"), without regard to letter case. A font is six. On trouble
-// none, and a sentence that says what to do.
+// By a registry name ("Calendar/dNumOfDays", "dNumOfDays", "Fonts/FontGeneral") or by a label in
+// either language ("Days shown", "Kalender/Tage"), without regard to letter case. A font is six. On
+// trouble none, and a sentence that says what to do.
 std::vector<NamedSetting> FindNamed(const BackupSettings& backup, const std::wstring& name,
                                     std::string& trouble);
 
 // These change the document, which is that of the settings. Empty when all went well, else one
 // sentence; the document is of no use then.
 
-// "NAME=VALUE", the value as a number or in words, or "default", which removes it.
+// Each "NAME=VALUE", the value as a number or in words, or "default", which removes it.
 std::string SetByName(BackupDocument& document, const BackupSettings& settings,
-                      const std::wstring& assignment);
+                      const std::vector<std::wstring>& assignments);
 
 struct MergeChoice {
   std::vector<std::wstring> only;    // groups; all when there is none

@@ -138,6 +138,16 @@ BackupSettings::BackupSettings(const BackupDocument& document, const DeviceFacts
   device_.Load();
 }
 
+const MeaningDevice& BackupSettings::InOtherTongue() const {
+  if (!otherTongue_) {
+    DeviceFacts facts = device_.Facts();
+    const bool isGerman = facts.tongue == Tongue::kGerman;
+    facts.tongue = isGerman ? Tongue::kEnglish : Tongue::kGerman;
+    otherTongue_ = std::make_unique<MeaningDevice>(facts);
+  }
+  return *otherTongue_;
+}
+
 bool BackupSettings::IsStored(const Setting& setting) const {
   return LocationOf(setting.Key()).root == RegistryRoot::kCurrentUser &&
          document_.Find(PathOf(setting), setting.Name());
@@ -241,13 +251,21 @@ std::wstring NumberInWords(const Meaning& meaning, std::uint32_t number,
   return plain + L" (" + device.Said(Word::kNoSuchChoice) + L")";
 }
 
+bool HasLimits(Setting& setting) {
+  return RangeOf(setting).checked != ValueRange::Checked::kNever;
+}
+
+bool IsColor(const Meaning& meaning, const Setting& setting) {
+  return meaning.kind == ValueKind::kColor || setting.Name().ends_with(L"lfColor");
+}
+
 std::optional<std::int32_t> NumberOfWords(const Meaning& meaning, Setting& setting,
                                           std::wstring_view words, const MeaningDevice& device) {
   const auto choice = std::ranges::find_if(meaning.choices, [&](const MeaningChoice& each) {
     return EqualIgnoringCase(each.text, words);
   });
   if (choice != meaning.choices.end()) return static_cast<std::int32_t>(choice->number);
-  if (meaning.kind == ValueKind::kColor || setting.Name().ends_with(L"lfColor")) {
+  if (IsColor(meaning, setting)) {
     if (EqualIgnoringCase(words, device.Text(IDS_COLOR_AUTOMATIC))) return -1;
     const std::optional<std::uint32_t> color = ColorOfWords(words);
     if (color) return static_cast<std::int32_t>(*color);
@@ -255,7 +273,7 @@ std::optional<std::int32_t> NumberOfWords(const Meaning& meaning, Setting& setti
   const std::optional<std::int32_t> number = WholeNumber(words);
   if (!number) return std::nullopt;
   const ValueRange range = RangeOf(setting);
-  if (range.checked != ValueRange::Checked::kNever) {
+  if (HasLimits(setting)) {
     const bool fits =
         range.Has(static_cast<std::uint32_t>(*number)) || DefaultOf(setting).number == *number;
     return fits ? number : std::nullopt;
@@ -267,13 +285,16 @@ std::optional<std::int32_t> NumberOfWords(const Meaning& meaning, Setting& setti
   return needsChoice && !isChoice ? std::nullopt : number;
 }
 
-std::wstring ChoicesInWords(const Meaning& meaning, Setting& setting) {
+std::wstring ChoicesInWords(const Meaning& meaning, Setting& setting, const MeaningDevice& device,
+                            std::size_t most) {
   const ValueRange range = RangeOf(setting);
-  if (range.checked != ValueRange::Checked::kNever) {
-    return FormatDecimal(range.first) + L" to " + FormatDecimal(range.last);
+  if (HasLimits(setting)) {
+    return FormatDecimal(range.first) + L" " + device.Said(Word::kTo) + L" " +
+           FormatDecimal(range.last);
   }
   std::wstring list;
   for (const MeaningChoice& choice : meaning.choices) {
+    if (most-- == 0) return list + L" and others";
     const std::wstring number = FormatDecimal(static_cast<std::int32_t>(choice.number));
     AppendPart(list, choice.text == number ? number : number + L" = " + choice.text);
   }

@@ -1,6 +1,7 @@
 // The settings of a backup as a device would have them, in words.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,6 +33,8 @@ class BackupSettings {
   const BackupDocument& Document() const { return document_; }
   const MeaningDevice& Device() const { return device_; }
   const std::vector<Meaning>& Meanings() const { return device_.Meanings(); }
+  // The same device without the backup, whose words are in the other language.
+  const MeaningDevice& InOtherTongue() const;
 
   bool IsStored(const Setting& setting) const;
   // Nothing when it is a default that is not known.
@@ -51,6 +54,7 @@ class BackupSettings {
 
   const BackupDocument& document_;
   MeaningDevice device_;
+  mutable std::unique_ptr<MeaningDevice> otherTongue_;
 };
 
 // A number as the page would say it.
@@ -59,8 +63,12 @@ std::wstring NumberInWords(const Meaning& meaning, std::uint32_t number,
 // The number that words stand for; nothing when they stand for none, or for one that is no choice.
 std::optional<std::int32_t> NumberOfWords(const Meaning& meaning, Setting& setting,
                                           std::wstring_view words, const MeaningDevice& device);
-// What a value may be, in words, for the user who chose another.
-std::wstring ChoicesInWords(const Meaning& meaning, Setting& setting);
+// What a value may be, in words; of more choices than `most` the first.
+std::wstring ChoicesInWords(const Meaning& meaning, Setting& setting, const MeaningDevice& device,
+                            std::size_t most = static_cast<std::size_t>(-1));
+bool IsColor(const Meaning& meaning, const Setting& setting);
+// Whether a number is to be between two others.
+bool HasLimits(Setting& setting);
 std::wstring ValueInWords(const BackupDocument& document, const StoredValue& value);
 // Its type and its data as well, for two that are called alike: "hex:4:01000000".
 std::wstring ExactlyInWords(const BackupDocument& document, const StoredValue& value);

@@ -1,6 +1,7 @@
 #include "companion/listing.h"
 
 #include <algorithm>
+#include <array>
 #include <nlohmann/json.hpp>
 
 #include "platform/text.h"
@@ -12,16 +13,60 @@ namespace {
 // A longer text pushes what follows to the right.
 constexpr std::size_t kWidestColumn = 30;
 
-// In cells of a terminal, nearly: a pair of surrogates is one character.
-std::size_t WidthOf(const std::wstring& text) {
-  return static_cast<std::size_t>(std::ranges::count_if(
-      text, [](wchar_t unit) { return unit < wchar_t{0xDC00} || unit > wchar_t{0xDFFF}; }));
+struct CodeRange {
+  std::uint32_t first;
+  std::uint32_t last;
+};
+// Marks that stand above or below a letter, and what is not seen at all.
+constexpr std::array<CodeRange, 14> kNoCells = {{{0x300, 0x36F},
+                                                 {0x483, 0x489},
+                                                 {0x591, 0x5BD},
+                                                 {0x610, 0x61A},
+                                                 {0x64B, 0x65F},
+                                                 {0x93C, 0x93C},
+                                                 {0x94D, 0x94D},
+                                                 {0xE31, 0xE31},
+                                                 {0xE34, 0xE3A},
+                                                 {0xE47, 0xE4E},
+                                                 {0x200B, 0x200F},
+                                                 {0x20D0, 0x20FF},
+                                                 {0xFE00, 0xFE0F},
+                                                 {0xFE20, 0xFE2F}}};
+// Signs of the scripts of East Asia, and pictures.
+constexpr std::array<CodeRange, 9> kTwoCells = {{{0x1100, 0x115F},
+                                                 {0x2E80, 0x303E},
+                                                 {0x3041, 0xA4CF},
+                                                 {0xAC00, 0xD7A3},
+                                                 {0xF900, 0xFAFF},
+                                                 {0xFE30, 0xFE6F},
+                                                 {0xFF00, 0xFF60},
+                                                 {0xFFE0, 0xFFE6},
+                                                 {0x1F300, 0x3FFFD}}};
+
+template <typename Ranges>
+bool IsIn(const Ranges& ranges, std::uint32_t code) {
+  return std::ranges::any_of(
+      ranges, [&](const CodeRange& each) { return code >= each.first && code <= each.last; });
 }
 
-// What would break the line, or be taken for an order by a terminal, becomes a sign.
+// In cells of a terminal.
+std::size_t WidthOf(std::wstring_view text) {
+  std::size_t width = 0;
+  while (!text.empty()) {
+    const std::uint32_t code = TakeCharacter(text);
+    width += IsIn(kNoCells, code) ? 0 : IsIn(kTwoCells, code) ? 2 : 1;
+  }
+  return width;
+}
+
+// What breaks a line, turns its direction, or would be an order to a terminal.
+constexpr std::array<CodeRange, 5> kOrders = {
+    {{0, 0x1F}, {0x7F, 0x9F}, {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF}}};
+
 std::wstring OnOneLine(std::wstring text) {
   std::ranges::replace_if(
-      text, [](wchar_t unit) { return unit < L' ' || (unit >= 0x7F && unit < 0xA0); }, L'\uFFFD');
+      text, [](wchar_t unit) { return IsIn(kOrders, static_cast<std::uint32_t>(unit)); },
+      L'\uFFFD');
   return text;
 }
 

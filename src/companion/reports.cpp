@@ -325,7 +325,7 @@ std::vector<Record> ListSettings(MeaningDevice& device, const std::vector<std::w
     record.fields.push_back({"name", meaning.name});
     record.fields.push_back({"type", FromUtf8(TypeOf(meaning))});
     record.fields.push_back({"default", defaults.DefaultInWords(meaning)});
-    const std::wstring choices = ChoicesInWords(meaning, *meaning.settings.front());
+    const std::wstring choices = ChoicesInWords(meaning, *meaning.settings.front(), device);
     record.fields.push_back({"values", choices});
     if (meaning.reason) record.fields.push_back({"reason", device.Said(*meaning.reason)});
     record.choices = meaning.choices;

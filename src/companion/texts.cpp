@@ -12,7 +12,7 @@ struct Words {
 };
 
 // In the order of Word.
-constexpr std::array<Words, 32> kWords = {{
+constexpr std::array<Words, 33> kWords = {{
     {L"on", L"ein"},
     {L"off", L"aus"},
     {L"none", L"keine"},
@@ -45,6 +45,7 @@ constexpr std::array<Words, 32> kWords = {{
     {L"stored with another setting", L"mit einer anderen Einstellung gespeichert"},
     {L"not in the list of tabs", L"nicht in der Liste der Tabs"},
     {L"no page shows it", L"keine Seite zeigt es"},
+    {L"to", L"bis"},
 }};
 
 constexpr std::uint32_t kUnreadable = 0xFFFD;
@@ -91,20 +92,18 @@ const wchar_t* WordIn(Tongue tongue, Word word) {
   return tongue == Tongue::kGerman ? words.german : words.english;
 }
 
+std::uint32_t TakeCharacter(std::wstring_view& text) {
+  const std::uint32_t code = UnitAt(text, 0);
+  const std::uint32_t low = UnitAt(text, 1);
+  const bool isPair = code >= 0xD800 && code < 0xDC00 && low >= 0xDC00 && low < 0xE000;
+  text.remove_prefix(isPair ? 2 : 1);
+  if (isPair) return 0x10000 + (code - 0xD800) * 0x400 + (low - 0xDC00);
+  return code >= 0xD800 && code < 0xE000 ? kUnreadable : code;
+}
+
 std::string ToUtf8(std::wstring_view text) {
   std::string utf8;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    std::uint32_t code = UnitAt(text, i);
-    const bool isHigh = code >= 0xD800 && code < 0xDC00;
-    const std::uint32_t low = UnitAt(text, i + 1);
-    if (isHigh && low >= 0xDC00 && low < 0xE000) {
-      code = 0x10000 + (code - 0xD800) * 0x400 + (low - 0xDC00);
-      ++i;
-    } else if (code >= 0xD800 && code < 0xE000) {
-      code = kUnreadable;
-    }
-    AppendUtf8(utf8, code);
-  }
+  while (!text.empty()) AppendUtf8(utf8, TakeCharacter(text));
   return utf8;
 }
 

@@ -47,8 +47,13 @@ enum class Word : std::uint8_t {
   kWithAnother,
   kNotListed,
   kNoPageShowsIt,
+  kTo,
 };
 const wchar_t* WordIn(Tongue tongue, Word word);
+
+// Takes a character off the front of a text that is not empty; a lone surrogate counts as what
+// cannot be read.
+std::uint32_t TakeCharacter(std::wstring_view& text);
 
 // UTF-8, a lone surrogate as the sign for what cannot be read; and back.
 std::string ToUtf8(std::wstring_view text);

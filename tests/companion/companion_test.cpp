@@ -63,6 +63,7 @@ TEST(Check, SaysWhatAnImportWouldNotBringBack) {
       {L"\"a\"=dword:1\n", ""},
       {L"\"a\"=\"\"\n", "3:7 no string without"},
       {L"\"ab\"=\"\"\n", ""},
+      {L"\"a\"=dword: 007\r\n", ""},
       {L"\"a\"=dword:12x\n", "3:13 read as \"a\"=dword:12"},
       {L"\"a\"=dword:9999999999\n", "3:11 read as \"a\"=dword:2147483647"},
       {L"\"a%%b\"=dword:1\n", "3:4 read as \"a%b\"=dword:1"},
@@ -72,6 +73,7 @@ TEST(Check, SaysWhatAnImportWouldNotBringBack) {
       {L"\n[Software\\Velmont\\Tidewell\\Tasks]\r\n", "4:34 no header because"},
       {L"\"ab\"=dword:1\n\"AB\"=dword:2\n", "3:1 overruled by line 4"},
       {L"\"ab\"=dword:1\n\n[Software\\Velmont\\Tidewell]\n", "3:1 deleted by a later line"},
+      {L"\n[\\Software]\n", "4:1 no key can have that name"},
       {L"\n[::Categories::]\n\"Category\"=\"x\"\n", "5:1 of a record that the end"},
       {L"\n[::Filters::]\n\"FilterName\"=\"x\"\n\"Index\"=dword:40\n\"VisibleState\"=dword:1\n"
        L"\"IncludeUncategorized\"=dword:0\n",
@@ -110,14 +112,26 @@ TEST(Edits, RefuseWhatASettingCannotBe) {
       {L"Calendar/FoldState=1", false},
       {L"SkinPath=\n", false},
       {L"Nothing=1", false},
+      {L"=1", false},
+      {L"Beim Tippen=Ausw\u00E4hlen", true},
       {L"Action key=1", false},
       {L"DPadCompleteAction=99999999999", false},
   };
   for (const Case& c : cases) {
     BackupDocument document = DocumentOf(L"\n[Software\\Velmont\\Tidewell]\n");
     const BackupSettings settings(document, {});
-    EXPECT_EQ(SetByName(document, settings, c.assignment).empty(), c.isTaken) << Utf8(c.assignment);
+    EXPECT_EQ(SetByName(document, settings, {c.assignment}).empty(), c.isTaken)
+        << Utf8(c.assignment);
   }
+}
+
+TEST(Listings, AlignTextsOfAnyScript) {
+  const auto line = [](const wchar_t* label) {
+    return Record{L"Page", L"", {{"label", label}, {"text", L"x"}}};
+  };
+  EXPECT_EQ(Render({line(L"four"), line(L"\u4F1A\u8B70"), line(L"A\u0308r\u202Ee")},
+                   ListingStyle::kAligned),
+            "Page\n  four  x\n  \u4F1A\u8B70  x\n  A\u0308r\uFFFDe  x\n");
 }
 
 TEST(Schemes, ComeOutOfABackupAndGoIntoAnother) {
