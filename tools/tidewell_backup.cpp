@@ -412,8 +412,9 @@ class CommandLine {
     CLI::App& command = Add("set", "Changes single settings", Set);
     AddFile(command);
     command
-        .add_option("NAME=VALUE", request_.names,
-                    "A registry name or label, and a number, a choice's text or default")
+        .add_option(
+            "NAME=VALUE", request_.names,
+            "A registry name or label, and a number, a choice's text, a color, a text or default")
         ->required();
     AddChanged(command);
   }

@@ -141,8 +141,8 @@ class BackupDocument::Filler final : public TextTarget {
   void TakeValue(const ParsedValue& value) override {
     if (value.isNumber || value.text != kDeletedString) {
       Add(value.name, value.isNumber ? kTypeDword : kTypeString, value.number, false);
-    } else if (const std::uint32_t* last = document_.FindLast(key_, value.name)) {
-      Overrule(*last);
+    } else {
+      Overrule(document_.LastOf(document_.SlotOf(key_, value.name)));
     }
   }
 
@@ -179,18 +179,20 @@ class BackupDocument::Filler final : public TextTarget {
 
   // The line before that is in effect no more, if one was.
   std::size_t Overrule(std::size_t value) {
-    if (!document_.IsInEffect(value)) return kNowhere;
+    if (value == kNowhere || !document_.IsInEffect(value)) return kNowhere;
     document_.values_[value].isOverruled = true;
     return value;
   }
 
   void Add(std::wstring_view name, std::uint32_t type, std::int32_t number, bool isExact) {
     StoredValue stored{Line(), key_, document_.Keep(name), type, number, kNowhere, isExact, false};
-    const auto place = static_cast<std::uint32_t>(document_.values_.size());
-    if (std::uint32_t* last = document_.FindLast(key_, name)) {
-      stored.earlier = Overrule(std::exchange(*last, place));
-    } else {
+    const std::size_t place = document_.values_.size();
+    const std::size_t slot = document_.SlotOf(key_, name);
+    stored.earlier = Overrule(document_.LastOf(slot));
+    if (slot == NameIndex::kNoSlot) {
       document_.valuePlaces_.Add(NameIndex::HashOf(key_, name), place);
+    } else {
+      document_.valuePlaces_.Move(slot, place);
     }
     document_.values_.push_back(stored);
   }
@@ -237,16 +239,20 @@ bool BackupDocument::EndsWhole(std::size_t line) const {
 
 std::size_t BackupDocument::KeyOf(std::wstring_view path) const {
   const std::wstring plain = PlainPath(path);
-  const std::uint32_t* place =
+  const std::size_t slot =
       keyPlaces_.Find(NameIndex::HashOf(kNowhere, plain),
-                      [&](std::uint32_t key) { return EqualIgnoringCase(keys_[key].path, plain); });
-  return place ? *place : kNowhere;
+                      [&](std::size_t key) { return EqualIgnoringCase(keys_[key].path, plain); });
+  return slot == NameIndex::kNoSlot ? kNowhere : keyPlaces_.PlaceIn(slot);
 }
 
-std::uint32_t* BackupDocument::FindLast(std::size_t key, std::wstring_view name) {
-  return valuePlaces_.Find(NameIndex::HashOf(key, name), [&](std::uint32_t value) {
+std::size_t BackupDocument::SlotOf(std::size_t key, std::wstring_view name) const {
+  return valuePlaces_.Find(NameIndex::HashOf(key, name), [&](std::size_t value) {
     return values_[value].key == key && EqualIgnoringCase(values_[value].name, name);
   });
+}
+
+std::size_t BackupDocument::LastOf(std::size_t slot) const {
+  return slot == NameIndex::kNoSlot ? kNowhere : valuePlaces_.PlaceIn(slot);
 }
 
 const StoredValue* BackupDocument::Find(std::wstring_view path, std::wstring_view name) const {
@@ -254,8 +260,17 @@ const StoredValue* BackupDocument::Find(std::wstring_view path, std::wstring_vie
 }
 
 const StoredValue* BackupDocument::Find(std::size_t key, std::wstring_view name) const {
-  const std::uint32_t* place = const_cast<BackupDocument*>(this)->FindLast(key, name);
-  return place && IsInEffect(*place) ? &values_[*place] : nullptr;
+  const std::size_t last = LastOf(SlotOf(key, name));
+  return last != kNowhere && IsInEffect(last) ? &values_[last] : nullptr;
+}
+
+const StoredValue* BackupDocument::Find(std::size_t key, std::wstring_view name,
+                                        std::size_t& guess) const {
+  const bool isRight = guess < values_.size() && values_[guess].key == key &&
+                       values_[guess].name == name && IsInEffect(guess);
+  const StoredValue* found = isRight ? &values_[guess] : Find(key, name);
+  if (found) guess = static_cast<std::size_t>(found - values_.data()) + 1;
+  return found;
 }
 
 bool BackupDocument::IsInEffect(std::size_t value) const {

@@ -111,8 +111,9 @@ class BackupDocument {
   // Without regard to letter case; null when there is none in effect.
   const StoredValue* Find(std::wstring_view path, std::wstring_view name) const;
   const StoredValue* Find(std::size_t key, std::wstring_view name) const;
-  // The last line that deletes what stands before it; kNowhere without one.
-  std::size_t ProductHeader() const { return productHeader_; }
+  // The same, quickest where it is the value at `guess`; that becomes the place behind the one
+  // found.
+  const StoredValue* Find(std::size_t key, std::wstring_view name, std::size_t& guess) const;
 
   // In the order of the file. Of those with one name or index the last alone has a say.
   const std::vector<CategoryLines>& Categories() const { return categories_; }
@@ -130,7 +131,6 @@ class BackupDocument {
   EditStatus TakeFilter(const FilterLines& filter);
   // The line that the last edit was refused for, from 1; 0 when it was another reason.
   std::size_t EntangledLine() const { return entangledLine_; }
-  bool HasEdits() const { return !edits_.empty(); }
   // The whole file with the changes.
   std::vector<std::byte> Edited() const;
 
@@ -151,8 +151,9 @@ class BackupDocument {
   };
 
   std::wstring_view Keep(std::wstring_view text);
-  // Null where none of that name has been read.
-  std::uint32_t* FindLast(std::size_t key, std::wstring_view name);
+  // Of a name in the index of values, and the last value of that name; both may be none.
+  std::size_t SlotOf(std::size_t key, std::wstring_view name) const;
+  std::size_t LastOf(std::size_t slot) const;
   bool StandsAlone(std::size_t line) const;
   EditStatus SetLine(std::wstring_view path, std::wstring_view name, std::wstring line);
   EditStatus Insert(std::wstring_view path, const std::wstring& line);
@@ -177,6 +178,7 @@ class BackupDocument {
   std::pmr::unordered_map<std::int32_t, std::size_t> lastFilters_;
   RecordSection categorySection_;
   RecordSection filterSection_;
+  // The last line that deletes what stands before it; kNowhere without one.
   std::size_t productHeader_ = kNowhere;
   std::size_t entangledLine_ = 0;
   std::map<std::size_t, Edit> edits_;

@@ -142,9 +142,6 @@ std::optional<ScreenFacts> ScreenOfName(std::string_view name) {
 std::vector<std::string> ScreenNames() {
   return NamesOf(kScreens);
 }
-bool IsKnownLocale(std::wstring_view name) {
-  return FindLocale(std::wstring(name)) != nullptr;
-}
 std::vector<std::string> LocaleNames() {
   return NamesOf(kLocales);
 }

@@ -49,8 +49,7 @@ struct DeviceFacts {
 // "qvga", "vga-landscape"; nothing for another.
 std::optional<ScreenFacts> ScreenOfName(std::string_view name);
 std::vector<std::string> ScreenNames();
-// "en_US", with a dash as well.
-bool IsKnownLocale(std::wstring_view name);
+// "en_US".
 std::vector<std::string> LocaleNames();
 
 // A device in memory that has every program, with its settings and what its pages make of them.

@@ -24,19 +24,20 @@ class NameIndex {
     return static_cast<std::uint32_t>(hash * 0x9E3779B97F4A7C15 >> 32);
   }
 
-  // The place with that hash that fits; null without one. It may be changed until the next Add.
+  // The slot with that hash whose place fits; kNoSlot without one. Good until the next Add.
+  static constexpr std::size_t kNoSlot = static_cast<std::size_t>(-1);
   template <typename Fits>
-  std::uint32_t* Find(std::uint32_t hash, Fits fits) {
+  std::size_t Find(std::uint32_t hash, Fits fits) const {
     for (std::size_t i = hash; !slots_.empty(); ++i) {
-      Slot& slot = slots_[i & (slots_.size() - 1)];
-      if (slot.place == kFree) break;
-      if (slot.hash == hash && fits(slot.place)) return &slot.place;
+      const std::size_t slot = i & (slots_.size() - 1);
+      if (slots_[slot].place == kFree) break;
+      if (slots_[slot].hash == hash && fits(slots_[slot].place)) return slot;
     }
-    return nullptr;
+    return kNoSlot;
   }
-  template <typename Fits>
-  const std::uint32_t* Find(std::uint32_t hash, Fits fits) const {
-    return const_cast<NameIndex*>(this)->Find(hash, fits);
+  std::size_t PlaceIn(std::size_t slot) const { return slots_[slot].place; }
+  void Move(std::size_t slot, std::size_t place) {
+    slots_[slot].place = static_cast<std::uint32_t>(place);
   }
 
   void Add(std::uint32_t hash, std::size_t place) {

@@ -153,8 +153,10 @@ void CompareOtherValues(std::vector<Record>& differences, const BackupSettings& 
   const BackupDocument& before = left.Document();
   const BackupDocument& after = right.Document();
   const std::vector<std::size_t> rightKeys = SameKeys(before, after);
+  // Most stand in the same order in both.
+  std::size_t guess = 0;
   for (const StoredValue* old : left.OtherValues()) {
-    const StoredValue* now = after.Find(rightKeys[old->key], old->name);
+    const StoredValue* now = after.Find(rightKeys[old->key], old->name, guess);
     if (now && AreSame(before, *old, after, *now)) continue;
     std::wstring oldWords = ValueInWords(before, *old);
     std::wstring newWords = now ? ValueInWords(after, *now) : none;
@@ -166,8 +168,9 @@ void CompareOtherValues(std::vector<Record>& differences, const BackupSettings& 
         Difference(heading, L"", NameOf(before, *old), std::move(oldWords), std::move(newWords)));
   }
   const std::vector<std::size_t> leftKeys = SameKeys(after, before);
+  guess = 0;
   for (const StoredValue* now : right.OtherValues()) {
-    if (before.Find(leftKeys[now->key], now->name)) continue;
+    if (before.Find(leftKeys[now->key], now->name, guess)) continue;
     differences.push_back(
         Difference(heading, L"", NameOf(after, *now), none, ValueInWords(after, *now)));
   }
