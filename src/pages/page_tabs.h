@@ -92,8 +92,8 @@ struct ItemList {
   std::vector<ItemButton> labels = {};
   std::vector<const Setting*> settings = {};  // that the items are stored in
   std::vector<ItemField> fields = {};
-  std::vector<SettingLine> lines = {};  // those that are the same whatever is stored
-  const wchar_t* columnTitle = nullptr;
+  std::vector<SettingLine> lines = {};          // those that are the same whatever is stored
+  const wchar_t* columnTitle = L"List Column";  // nobody sees it: there is no header
   // Above the list, whose place is then counted from below them.
   RowColumn rows = {};
 };

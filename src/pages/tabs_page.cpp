@@ -65,7 +65,10 @@ PageTab OrderTab(const TabSettings& s) {
                    {},
                    {&s.TasksTabEnabled, &s.NotesTabEnabled, &s.ContactsTabEnabled,
                     &s.MailTabEnabled, &s.SEventsTabEnabled, &s.TasksTabOrder, &s.NotesTabOrder,
-                    &s.ContactsTabOrder, &s.MailTabOrder, &s.SEventsTabOrder}}};
+                    &s.ContactsTabOrder, &s.MailTabOrder, &s.SEventsTabOrder},
+                   {},
+                   {},
+                   L"Calendar settings"}};
 }
 
 PageTabs TabsRules::Tabs() {

@@ -27,6 +27,7 @@ constexpr DWORD kComboStyle = WS_VSCROLL | WS_TABSTOP;
 constexpr DWORD kListStyle = WS_BORDER | WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_AUTOARRANGE |
                              LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER;
 constexpr int kRowTextCapacity = 256;
+constexpr std::size_t kFewChoices = 8;
 
 // What moves with a row of a list.
 struct ListRow {
@@ -64,7 +65,10 @@ std::wstring TextOf(HWND control) {
   return text;
 }
 
+// To hold back the painting costs as much as to paint some lines.
 void AddChoices(HWND combo, const Choices& choices, const Language& language) {
+  const bool areMany = choices.size() > kFewChoices;
+  if (areMany) SendMessageW(combo, WM_SETREDRAW, FALSE, 0);
   for (const Choice& choice : choices) {
     const std::wstring text = choice.TextIn(language);
     const LRESULT line =
@@ -73,6 +77,7 @@ void AddChoices(HWND combo, const Choices& choices, const Language& language) {
       SendMessageW(combo, CB_SETITEMDATA, static_cast<WPARAM>(line), choice.data);
     }
   }
+  if (areMany) SendMessageW(combo, WM_SETREDRAW, TRUE, 0);
 }
 
 // A path that is longer than its field is told by its end.

@@ -13,11 +13,8 @@ namespace {
 
 constexpr int kLeastHeight = 40;  // at 96 dots per inch
 
-void NameColumn(HWND list, std::wstring title) {
-  LVCOLUMNW column{};
-  column.mask = LVCF_TEXT;
-  column.pszText = title.data();
-  ListView_SetColumn(list, 0, &column);
+Rect PlaceIn(const std::vector<ControlPlace>& places, int id) {
+  return std::ranges::find(places, id, &ControlPlace::id)->rect;
 }
 
 }  // namespace
@@ -29,18 +26,26 @@ ItemListBody::ItemListBody(SettingsPage& page, Raise raise, const PaintedRoom& r
       rows_(page, raise, {}, list.rows),
       looks_(page.Scale(), page.Text(IDS_COLOR_AUTOMATIC)) {}
 
-// Keys walk in this order.
+// Keys walk in this order. Everything is made where it stands: to move it afterwards costs as much
+// as to make it.
 void ItemListBody::Build() {
   if (!list_.rows.rows.empty()) rows_.Build();
+  const std::vector<ControlPlace> places = Places();
   for (const ItemField& field : list_.fields) {
-    const HWND edit = Page().AddEdit(field.id, {}, {});
+    const HWND edit = Page().AddEdit(field.id, {}, PlaceIn(places, field.id));
     SendMessageW(edit, EM_LIMITTEXT, static_cast<WPARAM>(field.longest), 0);
-    Page().AddButton(field.button.id, field.button.textId, {});
+    AddButton(field.button, places);
   }
-  BuildList();
-  for (const ItemButton& button : list_.buttons) Page().AddButton(button.id, button.textId, {});
-  for (const ItemButton& label : list_.labels) Page().AddLabel(label.id, label.textId, {}, SS_LEFT);
-  LayOut();
+  BuildList(PlaceIn(places, list_.listId));
+  for (const ItemButton& button : list_.buttons) AddButton(button, places);
+  for (const ItemButton& label : list_.labels) {
+    Page().AddLabel(label.id, label.textId, PlaceIn(places, label.id), SS_LEFT);
+  }
+}
+
+void ItemListBody::AddButton(const ItemButton& button,
+                             const std::vector<ControlPlace>& places) const {
+  Page().AddButton(button.id, button.textId, PlaceIn(places, button.id));
 }
 
 // Those of the fields as well.
@@ -50,8 +55,9 @@ std::vector<ItemButton> ItemListBody::Buttons() const {
   return buttons;
 }
 
-void ItemListBody::BuildList() {
-  const HWND list = Page().AddListView(list_.listId, {});
+// It gets its column with its lines.
+void ItemListBody::BuildList(const Rect& place) {
+  const HWND list = Page().AddListView(list_.listId, place);
   SetWindowLongPtrW(list, GWL_STYLE, GetWindowLongPtrW(list, GWL_STYLE) | LVS_SHOWSELALWAYS);
   if (list_.look == ListLook::kTicked) {
     ListView_SetExtendedListViewStyleEx(list, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
@@ -62,7 +68,6 @@ void ItemListBody::BuildList() {
     categories_.emplace(Scale());
     ListView_SetImageList(list, categories_->Images(), LVSIL_SMALL);
   }
-  if (list_.columnTitle) NameColumn(list, list_.columnTitle);
 }
 
 void ItemListBody::Show(int showCommand) {
@@ -74,23 +79,28 @@ void ItemListBody::Show(int showCommand) {
 }
 
 void ItemListBody::LayOut() {
-  const PageMetrics metrics = Page().Metrics();
   rows_.LayOut();
+  for (const ControlPlace& each : Places()) Page().Place(each.id, each.rect);
+  FitColumn(Page().Control(list_.listId), list_.columnTitle);
+}
+
+// Of all but the rows.
+std::vector<ControlPlace> ItemListBody::Places() const {
+  const PageMetrics metrics = Page().Metrics();
+  std::vector<ControlPlace> places = PlaceButtons(metrics, Buttons());
   const Rect list = PlaceOfList(metrics);
-  Page().Place(list_.listId, list);
-  for (const ItemField& field : list_.fields) {
-    Page().Place(field.id, PlaceOf(metrics, field.place));
+  // On a page that is too low for its list, what stands below it is moved on.
+  for (ControlPlace& button : places) {
+    if (!list_.rows.rows.empty()) button.rect.top = std::max(button.rect.top, list.Bottom());
   }
-  for (ControlPlace button : PlaceButtons(metrics, Buttons())) {
-    // On a page that is too low for its list, what stands below it is moved on.
-    const bool isBelow = !list_.rows.rows.empty();
-    if (isBelow) button.rect.top = std::max(button.rect.top, list.Bottom());
-    Page().Place(button.id, button.rect);
+  places.push_back({list_.listId, list});
+  for (const ItemField& field : list_.fields) {
+    places.push_back({field.id, PlaceOf(metrics, field.place)});
   }
   for (const ItemButton& label : list_.labels) {
-    Page().Place(label.id, PlaceOf(metrics, label.place));
+    places.push_back({label.id, PlaceOf(metrics, label.place)});
   }
-  FitColumn(Page().Control(list_.listId));
+  return places;
 }
 
 // Below the rows; on a page that is too low for it, it keeps the height of two lines.
@@ -112,7 +122,7 @@ bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
   lines_ = hasPictures ? lines : std::vector<ListLine>();
   ShowLines(Page().Control(listId), lines,
             [=](const ListLine&) { return hasPictures ? I_IMAGECALLBACK : FileIcons::kNone; });
-  FitColumn(Page().Control(listId));
+  FitColumn(Page().Control(listId), list_.columnTitle);
   return true;
 }
 

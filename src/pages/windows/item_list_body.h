@@ -29,7 +29,9 @@ class ItemListBody final : public TabBody {
 
  private:
   std::vector<ItemButton> Buttons() const;
-  void BuildList();
+  void AddButton(const ItemButton& button, const std::vector<ControlPlace>& places) const;
+  void BuildList(const Rect& place);
+  std::vector<ControlPlace> Places() const;
   Rect PlaceOfList(const PageMetrics& metrics) const;
 
   const ItemList& list_;

@@ -55,29 +55,31 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
   SendMessageW(list, WM_SETREDRAW, TRUE, 0);
 }
 
-void FitColumn(HWND list) {
+void FitColumn(HWND list, const wchar_t* title) {
   const int width = ClientArea(list).right;
   if (Header_GetItemCount(ListView_GetHeader(list)) > 0) {
     ListView_SetColumnWidth(list, 0, width);
     return;
   }
-  std::wstring title = L"List Column";
+  std::wstring text = title;
   LVCOLUMNW column{};
   column.mask = LVCF_TEXT | LVCF_WIDTH;
-  column.pszText = title.data();
+  column.pszText = text.data();
   column.cx = width;
   ListView_InsertColumn(list, 0, &column);
 }
 
 void LineLooks::Set(HWND list, int line, const LineLook& look) {
-  Line& kept = lines_[line];
+  const auto [place, isNew] = lines_.try_emplace(line);
+  Line& kept = place->second;
+  if (!isNew && kept.look == look) return;
   const bool isOtherFont = kept.look.font != look.font;
   kept.look = look;
   if (isOtherFont) {
     const LOGFONTW font = SystemDescription(look.font);
     kept.font = look.font.faceName.empty() ? Font() : Font(CreateFontIndirectW(&font));
   }
-  ListView_RedrawItems(list, line, line);
+  if (IsWindowVisible(list)) ListView_RedrawItems(list, line, line);
 }
 
 LRESULT LineLooks::Draw(NMLVCUSTOMDRAW& draw) const {

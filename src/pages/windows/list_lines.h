@@ -22,8 +22,9 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
 
 // Makes the one column as wide as the list beside its scroll bar, if it has one: a desktop's list
 // view scrolls sideways otherwise. To be called after each change of the lines or of the place; a
-// list gets its column from the first call, for each line added beside a column moves its header.
-void FitColumn(HWND list);
+// list gets its column from the first call: before it has lines, it does not know of the scroll
+// bar.
+void FitColumn(HWND list, const wchar_t* title = L"List Column");
 
 // What some lines of a list look like, drawn when the list asks for it.
 class LineLooks {

@@ -60,9 +60,11 @@ void LineDialog::OnCreate() {
   introduction_ = MakeControl(WC_STATICW, SS_NOPREFIX, kIntroduction, request_.introduction);
   label_ = MakeControl(WC_STATICW, SS_NOPREFIX, kLabel, request_.label);
   lines_ = MakeControl(WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, kLines, L"");
+  SendMessageW(lines_, WM_SETREDRAW, FALSE, 0);
   for (const std::wstring& line : request_.lines) {
     SendMessageW(lines_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
   }
+  SendMessageW(lines_, WM_SETREDRAW, TRUE, 0);
   SendMessageW(lines_, CB_SETCURSEL, 0, 0);
 }
 

@@ -70,6 +70,7 @@ void TickDialog::MakeList() {
 }
 
 void TickDialog::ShowLines() {
+  SendMessageW(list_, WM_SETREDRAW, FALSE, 0);
   int row = 0;
   for (TickedLine& line : request_.lines) {
     LVITEMW item{};
@@ -79,6 +80,7 @@ void TickDialog::ShowLines() {
     ListView_InsertItem(list_, &item);
     if (line.ticked) ListView_SetCheckState(list_, item.iItem, TRUE);
   }
+  SendMessageW(list_, WM_SETREDRAW, TRUE, 0);
   ListView_SetItemState(list_, 0, LVIS_FOCUSED | LVIS_SELECTED, LVIS_FOCUSED | LVIS_SELECTED);
 }
 
