@@ -16,6 +16,8 @@ programs=(
   "vga list_bench"
   "qvga page_bench"
   "vga page_bench"
+  "qvga crowded_bench"
+  "vga crowded_bench"
   "qvga dialog_bench"
   "vga dialog_bench"
   "qvga preview_bench"

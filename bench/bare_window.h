@@ -7,6 +7,7 @@
 #include <aygshell.h>
 #include <commctrl.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -41,17 +42,25 @@ inline void RegisterPlainClass(const wchar_t* name) {
   RegisterClassW(&plain);
 }
 
-// A window with the controls of another, list views with their column, as they are without texts,
-// lines, rules or keys.
+// A window with the controls of another, list views with their column and as many lines, as they
+// are without texts, rules or keys. Drop-down lists have lines where these are asked for: they show
+// one of them.
 class BareWindow {
  public:
   struct Control {
     std::wstring kind;
     DWORD style;
     RECT place;
+    int lines = 0;
   };
 
-  static std::vector<Control> ControlsOf(HWND window, bool shownOnly = false) {
+  // 0 for what is no list.
+  static int CountLines(HWND control) {
+    const auto lines = static_cast<int>(SendMessageW(control, CB_GETCOUNT, 0, 0));
+    return std::max(lines, ListView_GetItemCount(control));
+  }
+  static std::vector<Control> ControlsOf(HWND window, bool shownOnly = false,
+                                         bool withChoices = false) {
     std::vector<Control> controls;
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
       if (shownOnly && !IsWindowVisible(child)) continue;
@@ -66,6 +75,7 @@ class BareWindow {
         SendMessageW(child, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&control.place));
       }
       MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&control.place), 2);
+      if (withChoices || control.kind == WC_LISTVIEWW) control.lines = CountLines(child);
       controls.push_back(control);
     }
     return controls;
@@ -100,13 +110,38 @@ class BareWindow {
           control.place.right - control.place.left, control.place.bottom - control.place.top,
           window_, nullptr, nullptr, nullptr);
       SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(face_), FALSE);
-      // Without a column a list view has no header and shows nothing.
-      LVCOLUMNW column{};
-      if (control.kind == WC_LISTVIEWW) ListView_InsertColumn(made, 0, &column);
+      if (control.lines > 0) AddLines(made, control);
+      if (control.kind == WC_LISTVIEWW) AddColumn(made);
     }
   }
 
  private:
+  // Without a column a list view has no header and shows nothing.
+  static void AddColumn(HWND list) {
+    RECT client;
+    GetClientRect(list, &client);
+    LVCOLUMNW column{};
+    column.mask = LVCF_WIDTH;
+    column.cx = client.right;
+    ListView_InsertColumn(list, 0, &column);
+  }
+  static void AddLines(HWND list, const Control& control) {
+    wchar_t text[] = L"A line of a list";
+    SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+    for (int line = 0; line < control.lines; ++line) {
+      LVITEMW item{};
+      item.mask = LVIF_TEXT;
+      item.iItem = line;
+      item.pszText = text;
+      if (control.kind == WC_LISTVIEWW) {
+        ListView_InsertItem(list, &item);
+      } else {
+        SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+      }
+    }
+    SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+  }
+
   HWND window_;
   HFONT face_;
 };

@@ -1,26 +1,19 @@
 // Opening each settings page, until its first tab is painted and all of its tabs are built, turning
 // to each tab and selecting each option; beside making as many bare controls of the same kinds in a
-// bare window.
+// bare window. Arguments choose pages by a part of their class's name: page_bench Color Font
 #include <windows.h>
-
-#include <commctrl.h>
 
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <variant>
 #include <vector>
 
-#include "bench/bare_window.h"
 #include "bench/figures.h"
-#include "bench/stopwatch.h"
-#include "pages/page_list.h"
-#include "pages/windows/create_page.h"
-#include "platform/desktop/device_shell.h"
-#include "platform/windows/windows_machine.h"
-#include "win32/tahoma.h"
+#include "bench/page_stage.h"
 
 namespace tidewell::bench {
 
@@ -30,7 +23,6 @@ constexpr int kRounds = 30;
 constexpr double kAim = 1.3;
 constexpr double kFirstTabAim = 120;  // milliseconds
 constexpr double kSelectingAim = 16;
-constexpr wchar_t kHostClass[] = L"PageBenchHost";
 
 // Tells when a page's first tab was painted: just before the first control of another tab is made.
 class FirstTabWatch {
@@ -71,46 +63,32 @@ class FirstTabWatch {
 
 class PageBench {
  public:
-  PageBench() {
-    const ScreenFacts screen = machine_.system.Screen();
-    const ScreenScale scale(screen.dpiX, screen.dpiY, false);
-    face_ = TahomaFont(scale.ScaleX(12), FW_NORMAL);
-    RegisterPlainClass(kBareClass);
-    RegisterPlainClass(kHostClass);
-    host_ = CreateWindowExW(0, kHostClass, L"", WS_POPUP | WS_VISIBLE, 0, scale.ScaleY(26),
-                            screen.width, screen.height - scale.ScaleY(26), nullptr, nullptr,
-                            nullptr, nullptr);
-    store_.Load(door_, scale, language_);
-    context_.emplace(PageContext{door_, store_, categories_, language_, scale});
-    screen_ = std::to_string(screen.width) + "x" + std::to_string(screen.height);
-  }
-  ~PageBench() { DestroyWindow(host_); }
-
-  void Run() {
+  // No words choose every page.
+  void Run(std::span<char*> words) {
     for (int page = 0; page < kPageCount; ++page) {
-      if (kPages[static_cast<std::size_t>(page)].make) Measure(page);
+      const std::string name = NameOfPage(page);
+      const auto isPartOfIt = [&](const char* word) { return name.find(word) != name.npos; };
+      if (words.empty() || std::ranges::any_of(words, isPartOfIt)) Measure(page);
     }
   }
 
  private:
   void Measure(int page) {
-    const std::string name =
-        "page " + Narrow(kPages[static_cast<std::size_t>(page)].className) + ", " + screen_;
     Comparison opening;
     std::vector<Comparison> turning;
     for (int round = 0; round < kRounds; ++round) {
       HandleAll();
       const Stopwatch watch;
-      const auto opened = CreatePage(page, host_, *context_);
+      const auto opened = stage_.Open(page);
       PaintAll();
       const double open = watch.Milliseconds();
       HandleAll();
-      opening.Add(open, TimeBareWindow(BareWindow::ControlsOf(opened->Window())));
+      opening.Add(open, stage_.TimeBareWindow(BareWindow::ControlsOf(opened->Window())));
       TurnAll(opened->Window(), turning);
-      SetActiveWindow(host_);
-      DestroyWindow(opened->Window());
+      stage_.Close(*opened);
     }
-    PrintRatio(("open " + name).c_str(), opening, kAim, "ms");
+    const std::string name = "open page " + NameOfPage(page) + ", " + stage_.Screen();
+    PrintRatio(name.c_str(), opening, kAim, "ms");
     MeasureFirstTab(page);
     for (std::size_t tab = 0; tab < turning.size(); ++tab) {
       PrintRatio(("  turn to tab " + std::to_string(tab + 1)).c_str(), turning[tab], kAim, "ms");
@@ -118,7 +96,7 @@ class PageBench {
   }
 
   void MeasureFirstTab(int page) {
-    const PageTabs tabs = kPages[static_cast<std::size_t>(page)].make(*context_)->Tabs();
+    const PageTabs tabs = kPages[static_cast<std::size_t>(page)].make(stage_.Context())->Tabs();
     Samples painting;
     Samples selecting;
     for (int round = 0; round < kRounds; ++round) {
@@ -126,13 +104,12 @@ class PageBench {
       std::unique_ptr<PageWindow> opened;
       {
         const FirstTabWatch watch(tabs.front().ControlIds());
-        opened = CreatePage(page, host_, *context_);
+        opened = stage_.Open(page);
         painting.Add(FirstTabWatch::Painted());
       }
       HandleAll();
       SelectAll(opened->Window(), tabs, selecting);
-      SetActiveWindow(host_);
-      DestroyWindow(opened->Window());
+      stage_.Close(*opened);
     }
     PrintTimes("  first tab painted", painting, kFirstTabAim);
     if (selecting.Quantile(1) > 0) PrintTimes("  select an option", selecting, kSelectingAim);
@@ -145,8 +122,8 @@ class PageBench {
 
   // Each option of each list of options, one after another.
   static void SelectAll(HWND page, const PageTabs& tabs, Samples& selecting) {
-    for (std::size_t tab = 0; tab < tabs.size(); ++tab) {
-      const auto* options = std::get_if<OptionList>(&tabs[tab].body);
+    for (int tab = 0; tab < std::ssize(tabs); ++tab) {
+      const auto* options = std::get_if<OptionList>(&tabs[static_cast<std::size_t>(tab)].body);
       if (!options) continue;
       TurnTo(page, tab);
       const HWND list = GetDlgItem(page, options->listId);
@@ -159,71 +136,28 @@ class PageBench {
     }
   }
 
-  static void TurnTo(HWND page, std::size_t tab) {
-    const HWND tabs = FindWindowExW(page, nullptr, WC_TABCONTROLW, nullptr);
-    Tell(page, tabs, TCN_SELCHANGING);
-    SendMessageW(tabs, TCM_SETCURSEL, tab, 0);
-    Tell(page, tabs, TCN_SELCHANGE);
-    PaintAll();
-  }
-
-  double TimeBareWindow(const std::vector<BareWindow::Control>& controls) const {
-    HandleAll();
-    const Stopwatch watch;
-    const BareWindow bare(host_, face_.Get());
-    bare.Make(controls);
-    bare.Show();
-    return watch.Milliseconds();
-  }
-
   // Each tab once, the first one last.
   void TurnAll(HWND page, std::vector<Comparison>& turning) const {
-    const HWND tabs = FindWindowExW(page, nullptr, WC_TABCONTROLW, nullptr);
-    const auto count = static_cast<std::size_t>(SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
-    turning.resize(count);
-    for (std::size_t step = 1; step <= count; ++step) {
-      const std::size_t tab = step % count;
+    const int count = CountTabs(page);
+    turning.resize(static_cast<std::size_t>(count));
+    for (int step = 1; step <= count; ++step) {
+      const int tab = step % count;
       const Stopwatch watch;
       TurnTo(page, tab);
       const double turn = watch.Milliseconds();
-
       const auto controls = BareWindow::ControlsOf(page, true);
-      const BareWindow bare(host_, face_.Get());
-      bare.Show();
-      const Stopwatch bareWatch;
-      bare.Make(controls);
-      PaintAll();
-      turning[tab].Add(turn, bareWatch.Milliseconds());
+      turning[static_cast<std::size_t>(tab)].Add(turn, stage_.TimeBareControls(controls));
     }
   }
 
-  static void Tell(HWND page, HWND tabs, UINT code) {
-    NMHDR header{tabs, 0, code};
-    SendMessageW(page, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header));
-  }
-
-  static std::string Narrow(const wchar_t* text) {
-    std::string narrow;
-    for (; *text; ++text) narrow.push_back(static_cast<char>(*text));
-    return narrow;
-  }
-
-  WindowsMachine machine_;
-  Machine door_ = machine_.Door();
-  SettingsStore store_;
-  CategoryCatalog categories_{door_, store_};
-  Language language_;
-  std::optional<PageContext> context_;
-  std::string screen_;
-  Font face_;
-  HWND host_ = nullptr;
+  PageStage stage_;
 };
 
 }  // namespace
 
 }  // namespace tidewell::bench
 
-int main() {
+int main(int count, char** words) {
   tidewell::InstallDeviceShell();
-  tidewell::bench::PageBench().Run();
+  tidewell::bench::PageBench().Run(std::span(words, static_cast<std::size_t>(count)).subspan(1));
 }
