@@ -1,5 +1,5 @@
-// Opens the dialogs that pages ask for a colour or a font, one view after another; says
-// "picture NAME" for each and waits as the tour does.
+// Opens the dialogs that pages ask for a colour or a font, one view after another, and the messages
+// that only a failing device brings; says "picture NAME" for each and waits as the tour does.
 #include <windows.h>
 
 #include <aygshell.h>
@@ -14,6 +14,7 @@
 #include "platform/windows/windows_machine.h"
 #include "resources/text/text_ids.h"
 #include "settings/settings_store.h"
+#include "ui/file_advice.h"
 #include "ui/windows/color_picker.h"
 #include "ui/windows/font_dialog.h"
 #include "win32/gdi.h"
@@ -49,6 +50,19 @@ Open FontOf(std::int32_t height, Color color) {
   };
 }
 
+// What is told in several paragraphs; a text's advice stands behind it.
+Open Message(int captionId, std::vector<std::pair<int, FileStatus>> paragraphs,
+             UINT buttons = MB_OK) {
+  return [=](const DialogContext& context) {
+    std::wstring text;
+    for (const auto& [textId, cause] : paragraphs) {
+      text += (text.empty() ? L"" : L"\n\n") + WithAdvice(context.language, textId, cause);
+    }
+    const std::wstring caption = context.language.Text(captionId, L"TW Options");
+    MessageBoxW(nullptr, text.c_str(), caption.c_str(), buttons);
+  };
+}
+
 Step Command(int id) {
   return [=](HWND dialog) { PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(id), 0); };
 }
@@ -80,6 +94,28 @@ const View kViews[] = {
     {"font-bright", FontOf(22, kWhite), {Press(VK_DOWN), Press(VK_DOWN)}},
     {"font-largest", FontOf(30, kNoColor), {Press(VK_UP)}},
     {"font-list", FontOf(14, kNoColor), {Press(VK_RETURN)}},
+    {"start-failed", Message(0, {{IDS_START_FAILED, FileStatus::kOk}}), {}},
+    {"export-full",
+     Message(IDS_EXPORT_DONE_CAPTION,
+             {{IDS_EXPORT_DONE, FileStatus::kOk}, {IDS_EXPORT_NOT_WRITTEN, FileStatus::kFull}}),
+     {}},
+    {"import-no-copy",
+     Message(
+         IDS_IMPORT_QUESTION_CAPTION,
+         {{IDS_IMPORT_NO_COPY, FileStatus::kFull}, {IDS_IMPORT_NO_COPY_QUESTION, FileStatus::kOk}},
+         MB_YESNO | MB_DEFBUTTON2),
+     {}},
+    {"import-in-part",
+     Message(IDS_IMPORT_FAILED_CAPTION,
+             {{IDS_IMPORT_FAILED, FileStatus::kOk}, {IDS_IMPORT_IN_PART, FileStatus::kOk}}),
+     {}},
+    {"import-without-filters",
+     Message(IDS_IMPORT_DONE_CAPTION,
+             {{IDS_IMPORT_DONE, FileStatus::kOk}, {IDS_FILTERS_NOT_WRITTEN, FileStatus::kRefused}}),
+     {}},
+    {"scheme-full",
+     Message(IDS_SCHEME_NOT_SAVED_CAPTION, {{IDS_SCHEME_NOT_SAVED, FileStatus::kFull}}),
+     {}},
 };
 
 class DialogSheet {
@@ -117,7 +153,7 @@ class DialogSheet {
     } else {
       if (nextStep_++ == view_->steps.size() + 1) Say();
       EndMenu();
-      PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+      for (const WPARAM refusal : {IDCANCEL, IDNO}) PostMessageW(dialog, WM_COMMAND, refusal, 0);
     }
   }
 

@@ -11,8 +11,11 @@
 #include <utility>
 #include <vector>
 
+#include "pages/categories_page.h"
 #include "pages/colors_page.h"
 #include "pages/page_list.h"
+#include "pages/pim_page.h"
+#include "pages/tabs_page.h"
 #include "platform/text.h"
 #include "tests/device/driven_program.h"
 #include "tests/support/test_device.h"
@@ -48,25 +51,70 @@ void ClosePage(DrivenProgram& program) {
   program.WaitForPopupToGo();
 }
 
-// Confirms that name in the file name dialog, and waits for the message that follows.
-Step Confirm(const wchar_t* name) {
+void PressConfirm(DrivenProgram& program) {
+  program.TapOk();
+}
+
+Step Type(const wchar_t* text) {
   return [=](DrivenProgram& program) {
-    const HWND dialog = program.WaitForPopup();
-    const HWND field = FindWindowExW(dialog, nullptr, L"Edit", nullptr);
-    SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name));
-    program.TapOk();
-    WaitUntil([&] { return GetLastActivePopup(program.Main()) != dialog; });
+    const HWND field = FindWindowExW(program.WaitForPopup(), nullptr, L"Edit", nullptr);
+    SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+  };
+}
+
+// Waits for what a step opens over the window in front, or for what was below it.
+Step Opens(Step step) {
+  return [step = std::move(step)](DrivenProgram& program) {
+    const HWND below = program.WaitForPopup();
+    step(program);
+    WaitUntil([&] { return GetLastActivePopup(program.Main()) != below; });
     program.WaitForPopup();
   };
 }
 
-// Waits for what a key opens over the window in front, or for what was below it.
 Step Opens(WPARAM key) {
+  return Opens(Press(key));
+}
+
+// Confirms that text in the dialog's field, and waits for the message that follows.
+Step Confirm(const wchar_t* text) {
+  return Opens([=](DrivenProgram& program) {
+    Type(text)(program);
+    PressConfirm(program);
+  });
+}
+
+// The control of the window in front tells that window, as a finger's tap would make it.
+Step Notify(int id, WORD notification) {
   return [=](DrivenProgram& program) {
-    const HWND below = program.WaitForPopup();
-    program.Press(key);
-    WaitUntil([&] { return GetLastActivePopup(program.Main()) != below; });
+    const HWND front = program.WaitForPopup();
+    PostMessageW(front, WM_COMMAND, MAKEWPARAM(static_cast<WORD>(id), notification),
+                 reinterpret_cast<LPARAM>(GetDlgItem(front, id)));
   };
+}
+
+Step Click(int id) {
+  return Opens(Notify(id, BN_CLICKED));
+}
+
+Step Tick(int id) {
+  return [=](DrivenProgram& program) {
+    SendMessageW(GetDlgItem(program.WaitForPopup(), id), BM_SETCHECK, BST_CHECKED, 0);
+  };
+}
+
+// The line of a drop-down list that begins with that text.
+Step ChooseLine(int id, const wchar_t* text) {
+  return [=](DrivenProgram& program) {
+    SendMessageW(GetDlgItem(program.WaitForPopup(), id), CB_SELECTSTRING, static_cast<WPARAM>(-1),
+                 reinterpret_cast<LPARAM>(text));
+    Notify(id, CBN_SELENDOK)(program);
+  };
+}
+
+void ChooseNothing(DrivenProgram& program) {
+  const HWND list = FindWindowExW(program.WaitForPopup(), nullptr, L"ComboBox", nullptr);
+  SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
 }
 
 Step Choose(int row) {
@@ -80,8 +128,11 @@ Step Choose(int row) {
 constexpr int kFontsRow = static_cast<int>(PageIndex::kFonts);
 constexpr int kColorsRow = static_cast<int>(PageIndex::kColors);
 constexpr wchar_t kSchemes[] = L"C:\\Program Files\\Velmont\\Tidewell\\Schemes\\";
-constexpr wchar_t kBrokenScheme[] = L"A broken one.scm";  // the first of them
+constexpr wchar_t kBrokenScheme[] = L"A broken one.scm";    // the first of them
+constexpr wchar_t kFirstScheme[] = L"Before applying.scm";  // without that one
 constexpr wchar_t kSavedScheme[] = L"My colors";
+
+const std::wstring kLongestName(255, L'x');  // too long for a file, with an extension
 
 std::wstring SchemePath(const std::wstring& file) {
   return kSchemes + file;
@@ -109,11 +160,12 @@ Step AskOfFirstScheme(int button) {
 }
 
 // To the message that follows on a question.
-void AnswerYes(DrivenProgram& program) {
-  const HWND question = program.WaitForPopup();
-  PostMessageW(question, WM_COMMAND, IDYES, 0);
-  WaitUntil([&] { return GetLastActivePopup(program.Main()) != question; });
-  program.WaitForPopup();
+const Step kAnswerYes = Click(IDYES);
+
+// For the rest of the tour.
+void LockFirstScheme(DrivenProgram&) {
+  CreateFileW(SchemePath(kFirstScheme).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0,
+              nullptr);
 }
 
 void RemoveBrokenScheme(DrivenProgram&) {
@@ -127,8 +179,8 @@ void UseOwnFonts(DrivenProgram& program) {
 
 struct View {
   std::string name;
-  std::vector<Step> steps;  // from the main list as it opens
-  const wchar_t* commandLine = L"";
+  std::vector<Step> steps;   // from the main list as it opens
+  void (*before)() = [] {};  // on the device, before the program starts
 };
 
 constexpr int kAboutRow = 12;
@@ -136,6 +188,7 @@ constexpr int kImportRow = 1;
 constexpr int kExitRow = 2;
 constexpr wchar_t kEmptyBackup[] = L"before the update";
 constexpr wchar_t kOtherKeys[] = L"from a friend";
+constexpr wchar_t kOwnBackup[] = L"My settings";
 constexpr wchar_t kTaken[] = L"taken by a folder";
 
 const View kViews[] = {
@@ -148,6 +201,7 @@ const View kViews[] = {
     {"export", {TapRightButton, Press(VK_RETURN), Popup}},
     {"export-illegal-name", {TapRightButton, Press(VK_RETURN), Popup, Confirm(L"May/June")}},
     {"export-refused", {TapRightButton, Press(VK_RETURN), Popup, Confirm(kTaken)}},
+    {"export-done", {TapRightButton, Press(VK_RETURN), Popup, Confirm(kOwnBackup)}},
     {"import", {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup}},
     {"import-no-name",
      {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Press(VK_UP),
@@ -156,6 +210,8 @@ const View kViews[] = {
      {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Confirm(kEmptyBackup)}},
     {"import-question",
      {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Confirm(kOtherKeys)}},
+    {"import-done",
+     {TapRightButton, Press(VK_DOWN, kImportRow), Press(VK_RETURN), Popup, Confirm(kOwnBackup)}},
     {"about", {Press(VK_DOWN, kAboutRow), Press(VK_RETURN), Popup}},
     // The other icon set, chosen on one page and shown at once by the next.
     {"calendar-5-other-set",
@@ -166,14 +222,20 @@ const View kViews[] = {
     {"color-selected", {Choose(kColorsRow), Press(VK_DOWN)}},
     {"color-last", {Choose(kColorsRow), Press(VK_END)}},
     {"scheme-no-name", {Choose(kColorsRow), NameScheme(L""), Press(VK_RETURN, 2), Popup}},
+    {"scheme-illegal-name",
+     {Choose(kColorsRow), NameScheme(L"May/June"), Press(VK_RETURN, 2), Popup}},
+    {"scheme-not-saved",
+     {Choose(kColorsRow), NameScheme(kLongestName.c_str()), Press(VK_RETURN, 2), Popup}},
     {"scheme-saved", {Choose(kColorsRow), NameScheme(kSavedScheme), Press(VK_RETURN, 2), Popup}},
     {"scheme-taken", {Choose(kColorsRow), NameScheme(kSavedScheme), Press(VK_RETURN, 2), Popup}},
     {"scheme-none",
      {Choose(kColorsRow), NameScheme(L""), Press(VK_UP, 2), Press(VK_RETURN), Popup}},
     {"scheme-delete", {Choose(kColorsRow), AskOfFirstScheme(2)}},
     {"scheme-apply", {Choose(kColorsRow), AskOfFirstScheme(1)}},
-    {"scheme-refused", {Choose(kColorsRow), AskOfFirstScheme(1), AnswerYes}},
-    {"scheme-not-opened", {Choose(kColorsRow), AskOfFirstScheme(1), RemoveBrokenScheme, AnswerYes}},
+    {"scheme-refused", {Choose(kColorsRow), AskOfFirstScheme(1), kAnswerYes}},
+    {"scheme-not-opened",
+     {Choose(kColorsRow), AskOfFirstScheme(1), RemoveBrokenScheme, kAnswerYes}},
+    {"scheme-not-deleted", {Choose(kColorsRow), AskOfFirstScheme(2), LockFirstScheme, kAnswerYes}},
 };
 
 // "PIMSettingsWin" is shown as "pim".
@@ -227,10 +289,31 @@ struct ViewOfPage {
   View view;
 };
 
+constexpr wchar_t kCategories[] = L"C:\\pim.vol";
+constexpr wchar_t kHiddenCategories[] = L"C:\\pim.hidden";
+
+void HideCategories() {
+  MoveFileW(kCategories, kHiddenCategories);
+}
+
+void ShowCategories() {
+  MoveFileW(kHiddenCategories, kCategories);
+}
+
 const Step kToOrderTab = [](DrivenProgram& program) {
   for (const WPARAM key : {VK_UP, VK_RIGHT, VK_DOWN}) program.Press(key);
 };
 const Step kToAddTab = Press(VK_TAB, 3);
+Step ToTab(int tab) {
+  return [=](DrivenProgram& program) {
+    program.Press(VK_UP);
+    program.Press(VK_RIGHT, tab);
+  };
+}
+// Of the calendar's options.
+constexpr int kOptionTick = 1226;
+constexpr int kBrowseOption = 1229;
+constexpr int kFolderBrowse = 1203;
 const Step kToFolders = [](DrivenProgram& program) {
   program.Press(VK_UP);
   program.Press(VK_RIGHT, 3);
@@ -238,6 +321,12 @@ const Step kToFolders = [](DrivenProgram& program) {
 };
 
 const ViewOfPage kPageViews[] = {
+    {PageIndex::kCalendar,
+     {"calendar-mail-program", {ToTab(6), Press(VK_DOWN, 5), Click(kBrowseOption)}}},
+    {PageIndex::kCalendar,
+     {"calendar-pinned-too-low", {ToTab(5), Press(VK_DOWN, 10), Tick(kOptionTick), Opens(VK_UP)}}},
+    {PageIndex::kPim, {"pim-not-installed", {Opens(ChooseLine(pim_ids::kProgram, L"Velmont"))}}},
+    {PageIndex::kContacts, {"contacts-search-bars", {Press(VK_RETURN)}}},
     {PageIndex::kContacts,
      {"contacts-alphabets", {Press(VK_RETURN), Press(VK_END), Opens(VK_RETURN)}}},
     {PageIndex::kNotes, {"notes-folder", {kToFolders, Press(VK_TAB), Opens(VK_RETURN)}}},
@@ -247,8 +336,12 @@ const ViewOfPage kPageViews[] = {
     {PageIndex::kNotes,
      {"notes-nothing-selected",
       {kToFolders, Press(VK_TAB, 2), Press(VK_RETURN), Opens(VK_RETURN)}}},
+    {PageIndex::kTabs, {"tabs-nothing-selected", {ToTab(1), Click(tabs_ids::kUp)}}},
     {PageIndex::kTabs, {"tabs-selected", {kToOrderTab, Press(VK_DOWN)}}},
     {PageIndex::kTabs, {"tabs-plugin", {kToOrderTab, kToAddTab, Opens(VK_RETURN)}}},
+    {PageIndex::kTabs,
+     {"tabs-plugin-none",
+      {kToOrderTab, kToAddTab, Opens(VK_RETURN), ChooseNothing, Opens(PressConfirm)}}},
     {PageIndex::kTabs,
      {"tabs-plugin-question",
       {kToOrderTab, kToAddTab, Opens(VK_RETURN), Press(VK_DOWN), Opens(VK_RETURN)}}},
@@ -258,6 +351,19 @@ const ViewOfPage kPageViews[] = {
      {"tabs-plugin-listed",
       {kToOrderTab, kToAddTab, Opens(VK_RETURN), Opens(VK_RETURN), Opens(VK_RETURN),
        Opens(VK_RETURN)}}},
+    {PageIndex::kCategories, {"category-folder", {Click(kFolderBrowse)}}},
+    {PageIndex::kCategories, {"category-selected", {Press(VK_TAB, 3), Press(VK_DOWN)}}},
+    {PageIndex::kCategories,
+     {"category-color", {Press(VK_TAB, 3), Press(VK_DOWN), Opens(VK_RETURN)}}},
+    {PageIndex::kCategories, {"category-filter", {ToTab(1), Press(VK_DOWN, 2)}}},
+    {PageIndex::kCategories, {"category-title", {ToTab(1), Press(VK_DOWN), Opens(VK_RETURN)}}},
+    {PageIndex::kCategories,
+     {"category-title-refused",
+      {ToTab(1), Press(VK_DOWN), Opens(VK_RETURN), Confirm(L"My \"own\"")}}},
+    {PageIndex::kCategories, {"category-reset", {ToTab(1), Click(categories_ids::kReset)}}},
+    {PageIndex::kCategories, {"category-members", {ToTab(2), Press(VK_DOWN, 2)}}},
+    {PageIndex::kCategories, {"category-1-none", {}, HideCategories}},
+    {PageIndex::kCategories, {"category-3-none", {ToTab(2)}, HideCategories}},
 };
 
 std::vector<View> DialogViews() {
@@ -288,7 +394,8 @@ void Say(const char* word, const std::string& name) {
 }
 
 bool Show(const View& view) {
-  DrivenProgram program(view.commandLine);
+  view.before();
+  DrivenProgram program;
   if (!program.WaitForMainWindow()) return false;
   for (const Step& step : view.steps) step(program);
   Say("picture", view.name);
@@ -312,29 +419,55 @@ void MakeBackup(const std::wstring& name, const std::wstring& text) {
   MakeText(BackupPath(name), text);
 }
 
+// Those of a tour before.
+void RemoveBackups() {
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FindFirstFileW(BackupPath(L"*").c_str(), &found);
+  do {
+    DeleteFileW((std::wstring(L"C:\\My Documents\\") + found.cFileName).c_str());
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+}
+
 // For the file name dialog, which lists them, and for the messages of an export and an import.
 void MakeBackups() {
   CreateDirectoryW(L"C:\\My Documents", nullptr);
+  RemoveBackups();
   CreateDirectoryW(BackupPath(kTaken).c_str(), nullptr);
   MakeBackup(L"TW_Backup_2026_10_31", L"");
   MakeBackup(kEmptyBackup, L"");
   MakeBackup(kOtherKeys, L"\n[Software\\Microsoft\\Today\\Items]\n\"x\"=dword:1\n");
 }
 
-// Two for the Notes page.
-void MakeNoteFolders() {
-  HKEY key = nullptr;
-  RegCreateKeyExW(HKEY_CURRENT_USER, L"Software\\Velmont\\Tidewell\\Notes\\Folders", 0, nullptr, 0,
-                  KEY_ALL_ACCESS, nullptr, &key, nullptr);
+struct OwnValue {
+  const wchar_t* key;  // below the product's
+  const wchar_t* name;
+  DWORD type;
+  std::wstring text;
+  DWORD number = 0;
+};
+
+// What a user has chosen on the Notes and the Categories page.
+const OwnValue kOwnValues[] = {
+    {L"Notes\\Folders", L"0", REG_SZ, L"\\My Documents"},
+    {L"Notes\\Folders", L"1", REG_SZ, L"\\Storage Card\\Notes"},
+    {L"Categories", L"CatColor.Business", REG_DWORD, {}, Rgb(51, 102, 204)},
+    {L"Categories", L"CatColor.Family", REG_DWORD, {}, Rgb(255, 153, 0)},
+    {L"Categories", L"CatColor.Health", REG_DWORD, {}, Rgb(204, 0, 0)},
+    {L"Categories", L"CatFilter.Family", REG_DWORD, {}, 1},
+};
+
+void MakeOwnValues() {
   CreateDirectoryW(L"C:\\Storage Card", nullptr);
   CreateDirectoryW(L"C:\\Storage Card\\Notes", nullptr);
-  const std::pair<const wchar_t*, std::wstring> folders[] = {{L"0", L"\\My Documents"},
-                                                             {L"1", L"\\Storage Card\\Notes"}};
-  for (const auto& [name, path] : folders) {
-    const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
-    RegSetValueExW(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()), size);
+  for (const OwnValue& each : kOwnValues) {
+    const std::wstring key = std::wstring(L"Software\\Velmont\\Tidewell\\") + each.key;
+    const bool isText = each.type == REG_SZ;
+    const auto size = static_cast<DWORD>((each.text.size() + 1) * sizeof(wchar_t));
+    RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), each.name, each.type,
+                    isText ? static_cast<const void*>(each.text.c_str()) : &each.number,
+                    isText ? size : sizeof each.number);
   }
-  RegCloseKey(key);
 }
 
 void MakeSchemes() {
@@ -344,7 +477,8 @@ void MakeSchemes() {
 
 int TakeTour() {
   MakeBackups();
-  MakeNoteFolders();
+  MakeOwnValues();
+  ShowCategories();
   MakeSchemes();
   for (const View& view : AllViews()) {
     if (!Show(view)) {
