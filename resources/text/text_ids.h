@@ -611,7 +611,7 @@
 #define IDS_SCHEME_REFUSED_CAPTION 878       // No scheme
 #define IDS_SCHEME_NOT_SAVED 2250            // The scheme could not be saved.
 #define IDS_SCHEME_NOT_SAVED_CAPTION 2251    // Scheme not saved
-#define IDS_SCHEME_NOT_DELETED 2252          // The scheme could not be deleted.
+#define IDS_SCHEME_NOT_DELETED 2252          // The scheme could not be deleted: it is protected or in use.
 
 // The Fonts page; the name of a font follows that of the tab in which it is seen.
 #define IDS_FONTS_TAB_FONTS 2260          // Kinds

@@ -235,8 +235,7 @@ void ColorsRules::DeleteScheme(PageView& view) {
   if (!file || !Ask(IDS_SCHEME_DELETE_QUESTION, IDS_SCHEME_DELETE_CAPTION)) return;
   const FileStatus status = schemes_.Remove(*file);
   if (status != FileStatus::kOk && status != FileStatus::kAbsent) {
-    return Say(WithAdvice(context_.language, IDS_SCHEME_NOT_DELETED, status),
-               IDS_SCHEME_DELETE_CAPTION);
+    return Say(IDS_SCHEME_NOT_DELETED, IDS_SCHEME_DELETE_CAPTION);
   }
   files_.erase(files_.begin() + (file - files_.data()));
   ShowSchemes(view);
