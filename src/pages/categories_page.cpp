@@ -65,6 +65,7 @@ class CategoriesRules final : public PageRules {
   FilterRecord* SelectedFilter(const PageView& view) const;
   std::uint32_t MemberBit(const PageView& view) const;
   void ShowCategories(PageView& view) const;
+  void ShowColor(PageView& view, int line) const;
   void ShowFilters(PageView& view) const;
   void ShowFilter(PageView& view) const;
   void ShowFilterChoices(PageView& view) const;
@@ -92,7 +93,7 @@ PageTab CategoriesRules::CategoriesTab() const {
   }
   return {IDS_CATEGORIES_TAB,
           ItemList{.listId = kCategoryList,
-                   .look = ListLook::kColors,
+                   .look = ListLook::kCategories,
                    .place = kListPlace,
                    .buttons = {{kColor, IDS_CATEGORIES_COLOR, {-95, -53, 85, 20}}},
                    .rows = {{path}}}};
@@ -189,9 +190,17 @@ void CategoriesRules::ShowCategories(PageView& view) const {
     ListLine& line = lines.emplace_back();
     line.text = category->name;
     line.icon = category->bitmap.get();
-    line.color = category->color;
   }
   view.SetLines(kCategoryList, lines);
+  for (int line = 0; line < std::ssize(lines); ++line) ShowColor(view, line);
+}
+
+// A category without a color has no swatch.
+void CategoriesRules::ShowColor(PageView& view, int line) const {
+  LineLook look;
+  const Color color = Categories()[static_cast<std::size_t>(line)]->color;
+  if (color != kNoColor) look.swatch = color;
+  view.SetLook(kCategoryList, line, look);
 }
 
 void CategoriesRules::ShowFilters(PageView& view) const {
@@ -248,9 +257,7 @@ void CategoriesRules::ChooseColor(PageView& view) const {
   const auto color = context_.dialogs->ChooseColor(category->color, true);
   if (!color) return;
   category->color = *color;
-  const int line = view.SelectedLine(kCategoryList);
-  ShowCategories(view);
-  view.SelectLine(kCategoryList, line);
+  ShowColor(view, view.SelectedLine(kCategoryList));
 }
 
 void CategoriesRules::EnterTitle(PageView& view) const {

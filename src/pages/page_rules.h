@@ -21,9 +21,7 @@ struct ListLine {
   std::wstring text;
   std::intptr_t data = 0;
   bool ticked = false;
-  // Of a list of categories: the icon, if there is one, and the colour.
-  CategoryIcon* icon = nullptr;
-  Color color = kNoColor;
+  CategoryIcon* icon = nullptr;  // of a list of categories; null where there is none
 
   bool operator==(const ListLine&) const = default;
 };

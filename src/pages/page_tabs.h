@@ -61,9 +61,9 @@ struct OptionList {
 
 enum class ListLook : std::uint8_t {
   kPlain,
-  kTicked,  // with a box before each line
-  kIcons,   // with the icon of the folder that each line names
-  kColors,  // with a category's icon and colour before each line
+  kTicked,      // with a box before each line
+  kIcons,       // with the icon of the folder that each line names
+  kCategories,  // with a category's icon before each line
 };
 
 // A text that can be typed above the list, and the button that takes it.

@@ -189,6 +189,7 @@ TEST_F(AddOnPages, EditCategoriesAndFiltersInMemory) {
   dialogs.chosenColor = 0x332211;
   page.Tap(kColor);
   EXPECT_EQ(catalog.FindCategory(L"Work")->color, 0x332211u);
+  EXPECT_EQ(page.looks[1].swatch, 0x332211u);
   EXPECT_EQ(page.Enabled(kSensitivity, kTitle), Ids{kFilterList});
   const std::pair<std::wstring, bool> titles[] = {{std::wstring(127, L'\xFF'), true},
                                                   {L"", false},

@@ -1,4 +1,4 @@
-// The small pictures of categories, each its icon and a swatch of its colour. Windows only.
+// The small pictures of categories. Windows only.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +7,6 @@
 
 #include "categories/records.h"
 #include "platform/scale.h"
-#include "preview/color.h"
 
 namespace tidewell {
 
@@ -19,14 +18,15 @@ class CategoryImages {
   ~CategoryImages();
 
   HIMAGELIST Images() const { return images_; }
-  // A category without an icon leaves its place free, one without a colour has an empty frame.
-  int Add(CategoryIcon* icon, Color color);
+  // A category without an icon leaves its place free.
+  int Add(CategoryIcon* icon);
   void Clear();
 
  private:
-  int side_;         // of an icon, which is as high as the picture
-  int swatchWidth_;  // with its frame
-  int gap_;
+  int side_;    // of an icon
+  int margin_;  // above and below it
+  int width_;   // of the picture, as the next
+  int height_;
   HIMAGELIST images_;
 };
 

@@ -64,7 +64,7 @@ void ItemListBody::BuildList(const Rect& place) {
   } else if (list_.look == ListLook::kIcons) {
     icons_.emplace();
     ListView_SetImageList(list, icons_->Images(), LVSIL_SMALL);
-  } else if (list_.look == ListLook::kColors) {
+  } else if (list_.look == ListLook::kCategories) {
     categories_.emplace(Scale());
     ListView_SetImageList(list, categories_->Images(), LVSIL_SMALL);
   }
@@ -81,7 +81,12 @@ void ItemListBody::Show(int showCommand) {
 void ItemListBody::LayOut() {
   rows_.LayOut();
   for (const ControlPlace& each : Places()) Page().Place(each.id, each.rect);
-  FitColumn(Page().Control(list_.listId), list_.columnTitle);
+  Fit();
+}
+
+void ItemListBody::Fit() const {
+  FitColumn(Page().Control(list_.listId), list_.columnTitle,
+            categories_ ? looks_.SwatchRoom() : 0);
 }
 
 // Of all but the rows.
@@ -122,7 +127,7 @@ bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
   lines_ = hasPictures ? lines : std::vector<ListLine>();
   ShowLines(Page().Control(listId), lines,
             [=](const ListLine&) { return hasPictures ? I_IMAGECALLBACK : FileIcons::kNone; });
-  FitColumn(Page().Control(listId), list_.columnTitle);
+  Fit();
   return true;
 }
 
@@ -131,7 +136,7 @@ void ItemListBody::OnShowLine(LVITEMW& line) {
   const auto place = static_cast<std::size_t>(line.iItem);
   if (!(line.mask & LVIF_IMAGE) || place >= lines_.size()) return;
   const ListLine& shown = lines_[place];
-  line.iImage = icons_ ? icons_->Load(shown.text, true) : categories_->Add(shown.icon, shown.color);
+  line.iImage = icons_ ? icons_->Load(shown.text, true) : categories_->Add(shown.icon);
   line.mask |= LVIF_DI_SETITEM;
 }
 

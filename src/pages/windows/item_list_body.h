@@ -32,6 +32,7 @@ class ItemListBody final : public TabBody {
   void AddButton(const ItemButton& button, const std::vector<ControlPlace>& places) const;
   void BuildList(const Rect& place);
   std::vector<ControlPlace> Places() const;
+  void Fit() const;
   Rect PlaceOfList(const PageMetrics& metrics) const;
 
   const ItemList& list_;

@@ -15,6 +15,7 @@ namespace {
 constexpr int kTextCapacity = 256;
 // At 96 dots per inch.
 constexpr int kSwatchWidth = 30;
+constexpr int kSwatchMargin = 2;
 constexpr int kSwatchText = 9;
 
 ListLine LineOf(HWND list, int index) {
@@ -55,8 +56,8 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
   SendMessageW(list, WM_SETREDRAW, TRUE, 0);
 }
 
-void FitColumn(HWND list, const wchar_t* title) {
-  const int width = ClientArea(list).right;
+void FitColumn(HWND list, const wchar_t* title, int besides) {
+  const int width = ClientArea(list).right - besides;
   if (Header_GetItemCount(ListView_GetHeader(list)) > 0) {
     ListView_SetColumnWidth(list, 0, width);
     return;
@@ -67,6 +68,13 @@ void FitColumn(HWND list, const wchar_t* title) {
   column.pszText = text.data();
   column.cx = width;
   ListView_InsertColumn(list, 0, &column);
+  if (besides == 0) return;
+  column.cx = besides;
+  ListView_InsertColumn(list, 1, &column);
+}
+
+int LineLooks::SwatchRoom() const {
+  return scale_.ScaleX(kSwatchWidth + 2 * kSwatchMargin);
 }
 
 void LineLooks::Set(HWND list, int line, const LineLook& look) {
@@ -95,6 +103,7 @@ LRESULT LineLooks::Draw(NMLVCUSTOMDRAW& draw) const {
 
 LRESULT LineLooks::Dress(const Line& line, NMLVCUSTOMDRAW& draw) const {
   if (line.look.ink != kNoColor) draw.clrText = line.look.ink;
+  if (!IsWindowEnabled(draw.nmcd.hdr.hwndFrom)) draw.clrText = GetSysColor(COLOR_GRAYTEXT);
   if (line.look.paper != kNoColor) draw.clrTextBk = line.look.paper;
   if (line.font) SelectObject(draw.nmcd.hdc, line.font.Get());
   return (line.font ? CDRF_NEWFONT : CDRF_DODEFAULT) |
@@ -107,7 +116,7 @@ void LineLooks::DrawSwatchOf(const Line& line, const NMLVCUSTOMDRAW& draw) const
   ListView_GetItemRect(list, static_cast<int>(draw.nmcd.dwItemSpec), &row, LVIR_BOUNDS);
   const int width = scale_.ScaleX(kSwatchWidth);
   const int margin = scale_.ScaleY(1);
-  const Rect area{static_cast<int>(ClientArea(list).right) - width - scale_.ScaleX(2),
+  const Rect area{static_cast<int>(ClientArea(list).right) - width - scale_.ScaleX(kSwatchMargin),
                   static_cast<int>(row.top) + margin, width,
                   static_cast<int>(row.bottom - row.top) - 2 * margin};
   const HDC dc = draw.nmcd.hdc;

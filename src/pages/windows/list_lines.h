@@ -23,8 +23,8 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines,
 // Makes the one column as wide as the list beside its scroll bar, if it has one: a desktop's list
 // view scrolls sideways otherwise. To be called after each change of the lines or of the place; a
 // list gets its column from the first call: before it has lines, it does not know of the scroll
-// bar.
-void FitColumn(HWND list, const wchar_t* title = L"List Column");
+// bar. Texts end `besides` points before the right edge; each list is fitted with the same number.
+void FitColumn(HWND list, const wchar_t* title = L"List Column", int besides = 0);
 
 // What some lines of a list look like, drawn when the list asks for it.
 class LineLooks {
@@ -33,6 +33,8 @@ class LineLooks {
   LineLooks(const ScreenScale& scale, std::wstring nameOfNone)
       : scale_(scale), nameOfNone_(std::move(nameOfNone)) {}
 
+  // What a list keeps free at its right edge if its texts may be longer than swatches allow.
+  int SwatchRoom() const;
   void Clear() { lines_.clear(); }
   void Set(HWND list, int line, const LineLook& look);
   // Answers NM_CUSTOMDRAW.

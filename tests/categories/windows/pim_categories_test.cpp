@@ -4,16 +4,20 @@
 
 #include <cstring>
 
+#include "pages/windows/category_images.h"
 #include "platform/pim_properties.h"
 #include "platform/text.h"
 #include "platform/windows/windows_files.h"
 #include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
+#include "win32/gdi.h"
 
 namespace tidewell {
 namespace {
 
-// A bitmap of one black pixel.
+constexpr Color kOdd = Rgb(51, 102, 204);
+
+// A bitmap of one odd pixel.
 std::vector<std::byte> TinyBitmap() {
   const BITMAPFILEHEADER file = {0x4D42, sizeof(file) + sizeof(BITMAPINFOHEADER) + 4, 0, 0,
                                  sizeof(file) + sizeof(BITMAPINFOHEADER)};
@@ -21,6 +25,8 @@ std::vector<std::byte> TinyBitmap() {
   std::vector<std::byte> bytes(file.bfSize);
   std::memcpy(bytes.data(), &file, sizeof file);
   std::memcpy(bytes.data() + sizeof file, &info, sizeof info);
+  const std::uint8_t pixel[] = {0xCC, 0x66, 0x33};
+  std::memcpy(bytes.data() + file.bfOffBits, pixel, sizeof pixel);
   return bytes;
 }
 
@@ -73,6 +79,11 @@ TEST_F(PimCategories, TheDatabaseTellsNameIdAndFlagAndTheFolderTheIcon) {
       "- 1 No id\n"
       "2 - No flag\n");
   EXPECT_EQ(Shown(), "caf\xC3\xA9 65534\nHome 8 flag\nNo flag 2\nWork 7 icon\n");
+  CategoryImages images(context.scale);
+  const MemoryBitmap screen(WindowDc(nullptr).Dc(), 16, 16);
+  ImageList_Draw(images.Images(), images.Add(catalog.FindCategory(L"Work")->bitmap.get()),
+                 screen.Dc(), 0, 0, ILD_NORMAL);
+  EXPECT_EQ(GetPixel(screen.Dc(), 8, 8), kOdd) << "a list of categories has all colors";
   PutFile(L"Work.bmp", std::span(whole).first(57));
   EXPECT_EQ(Shown(), "caf\xC3\xA9 65534\nHome 8 flag\nNo flag 2\nWork 7\n") << "it is cut off";
 }
