@@ -1,5 +1,5 @@
-// What pages are opened on in a measurement: the machine, its settings as they are stored, and a
-// window to stand over.
+// What pages are opened on in a measurement: the machine, its settings and categories as they are
+// stored, and a window to stand over.
 #pragma once
 
 #include <windows.h>
@@ -14,6 +14,7 @@
 
 #include "bench/bare_window.h"
 #include "bench/stopwatch.h"
+#include "categories/windows/pim_categories.h"
 #include "pages/page_list.h"
 #include "pages/windows/create_page.h"
 #include "platform/desktop/device_shell.h"
@@ -34,6 +35,8 @@ class PageStage {
                             screen.width, screen.height - scale.ScaleY(26), nullptr, nullptr,
                             nullptr, nullptr);
     store_.Load(door_, scale, language_);
+    PimCategorySource categories(door_.files, store_.root.TWIconsFolder.Value());
+    categories_.Rebuild(categories, L"All");
     context_.emplace(PageContext{door_, store_, categories_, language_, scale});
     screen_ = std::to_string(screen.width) + "x" + std::to_string(screen.height);
   }
