@@ -187,7 +187,7 @@ std::string PagesDocument(const char* textIds) {
   device.language.Load(device.memory.libraries, L"English", {});
   PagesWriter writer(device.language);
   for (const PageEntry& page : kPages) {
-    if (page.make) writer.Page(page, page.make(device.context)->Tabs());
+    writer.Page(page, page.make(device.context)->Tabs());
   }
   const std::wstring text = kIntroduction + writer.Take();
   return {text.begin(), text.end()};

@@ -381,7 +381,6 @@ std::vector<View> AllViews() {
   std::vector<View> views(std::begin(kViews), std::end(kViews));
   for (int row = 0; row < kPageCount; ++row) {
     const PageEntry& page = kPages[static_cast<std::size_t>(row)];
-    if (!page.make) continue;
     for (View& view : ViewsOf(page, row)) views.push_back(std::move(view));
   }
   for (View& view : DialogViews()) views.push_back(std::move(view));

@@ -348,7 +348,7 @@ void MeaningDevice::Walk(const ScreenFacts& screen, Collector& collector) {
   Load();
   for (int page = 0; page < kPageCount; ++page) {
     const PageEntry& entry = kPages[static_cast<std::size_t>(page)];
-    if (entry.make) collector.TakePage(page, entry.make(context_)->Tabs());
+    collector.TakePage(page, entry.make(context_)->Tabs());
   }
 }
 

@@ -30,8 +30,8 @@ enum class PageIndex : int {
 struct PageEntry {
   const wchar_t* className;
   int captionId;
-  int pictureId;                                             // in the resolution library
-  std::unique_ptr<PageRules> (*make)(PageContext& context);  // null until the page exists
+  int pictureId;  // in the resolution library
+  std::unique_ptr<PageRules> (*make)(PageContext& context);
 };
 
 extern const std::array<PageEntry, kPageCount> kPages;

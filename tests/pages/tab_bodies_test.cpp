@@ -1,6 +1,5 @@
-// The bodies of tabs that no page of rows has: a list of options with its editor, a list of items.
-#include <gmock/gmock.h>
-
+// The bodies of tabs that no page of rows has, a list of options with its editor and a list of
+// items; and the base of all pages.
 #include "pages/windows/rules_page.h"
 #include "preview/today_preview.h"
 #include "preview/windows/gdi_canvas.h"
@@ -99,12 +98,15 @@ class IconTab : public PageHost {
 
 TEST_F(IconTab, StoresWhatIsTappedAtOnceAndPaintsTheRoomBelow) {
   CalendarSettings& s = store.calendar;
-  const HWND strip = Control(kRight);
-  EXPECT_EQ(Place(strip).left, 100);
-  EXPECT_EQ(Place(strip).top, 31);
+  EXPECT_EQ(Place(Control(kRight)).left, 100);
+  EXPECT_EQ(Place(Control(kRight)).top, 31);
   EXPECT_EQ(TextOfControl(kRightLabel), L"Right icons");
-  SendMessageW(strip, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 4));
-  SendMessageW(strip, WM_LBUTTONUP, 0, MAKELPARAM(20, 4));
+  SetFocus(Control(kLeft));
+  for (const WPARAM key : {VK_DOWN, VK_DOWN, VK_RIGHT}) Press(key);
+  EXPECT_EQ(FocusedId(), kRight);
+  PumpMessages();
+  Send(kRight, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 4));
+  Send(kRight, WM_LBUTTONUP, 0, MAKELPARAM(20, 4));
   EXPECT_EQ(s.ClrApptRightIcons.Value(), 0x407u);
   RECT dirty{};
   GetUpdateRect(page_->Window(), &dirty, FALSE);
@@ -148,11 +150,107 @@ TEST_F(IconTab, LeavesNoDrawingObjectsBehind) {
   EXPECT_LT(CountDrawingObjects(), before + 10) << "50 openings";
 }
 
-TEST_F(IconTab, IsWorkedByKeys) {
-  SetFocus(Control(kLeft));
-  for (const WPARAM key : {VK_DOWN, VK_DOWN, VK_RIGHT, VK_SPACE}) Press(key);
-  EXPECT_EQ(FocusedId(), kRight);
-  EXPECT_EQ(store.calendar.ClrApptRightIcons.Value(), 0x407u);
+// The base and its factory, on a page that no table describes.
+enum : int { kRows = 1400, kEdit, kClear, kBrowse, kName };
+
+class FreePage final : public SettingsPage {
+ public:
+  using SettingsPage::SettingsPage;
+
+  std::string told;
+
+ private:
+  int GetTabCount() const override { return 0; }
+  int GetTabTitleId(int) const override { return 0; }
+  void OnCreate(HWND) override {
+    AddPathEdit(kEdit, kClear, kBrowse, L"\\My Documents", 8);
+    AddEdit(kName, L"Name", {10, 32, 100, 20});
+    const int texts[] = {IDS_GROUP_GENERAL, IDS_GROUP_CALENDAR, IDS_GROUP_TASKS};
+    AddList(kRows, texts, 8);
+  }
+  void ShowTab(HWND window, int command) override {
+    ShowControlRange(window, kRows, kName + 5, command);
+  }
+  void OnDestroy(HWND) override { told += "destroyed"; }
+  LRESULT OnPreviewMessage1(HWND, WPARAM, LPARAM) override { return told += "first ", 0; }
+  LRESULT OnPreviewMessage2(HWND, WPARAM, LPARAM) override { return told += "second ", 0; }
+};
+
+class BasePage : public PageHost {
+ protected:
+  void SetUp() override {
+    auto made = std::make_unique<FreePage>(context);
+    free_ = made.get();
+    ASSERT_TRUE(made->Create(host_.Get(), L"FreeWin", L"Free"));
+    page_ = std::move(made);
+  }
+
+  FreePage* free_ = nullptr;
+};
+
+TEST_F(BasePage, ShowsItsControlsHandsOnThePreviewsMessagesAndStoresOnceWhenItGoes) {
+  EXPECT_EQ(Tabs(), nullptr);
+  const wchar_t* const texts[] = {L"", L"\\My Documents", L"Clear", L"Select", L"Name"};
+  for (int id = kRows; id <= kName; ++id) {
+    EXPECT_TRUE(IsShown(id)) << id;
+    EXPECT_EQ(TextOfControl(id), texts[id - kRows]);
+  }
+  SendMessageW(page_->Window(), 1788, 0, 0);
+  SendMessageW(page_->Window(), 1789, 0, 0);
+  SetActiveWindow(host_.Get());
+  DestroyWindow(page_->Window());
+  EXPECT_EQ(page_->Window(), nullptr);
+  EXPECT_EQ(free_->told, "first second destroyed");
+  page_.reset();
+}
+
+TEST_F(BasePage, MovesAListRowOrAsksForOneAndKeysLeaveTheListAtItsEnds) {
+  const auto move = [&](int row, bool up) {
+    ListView_SetItemState(Control(kRows), row, LVIS_SELECTED, LVIS_SELECTED);
+    free_->MoveListItem(page_->Window(), kRows, up);
+    std::wstring rows;
+    for (int i = 0; i < 3; ++i) {
+      wchar_t text[64] = {};
+      ListView_GetItemText(Control(kRows), i, 0, text, 64);
+      rows += text + std::wstring(L" ");
+    }
+    return rows;
+  };
+  EXPECT_EQ(move(99, true), L"General Calendar Tasks ");
+  EXPECT_EQ(dialogs.shown,
+            std::vector<std::wstring>{L"Nothing selected: Select an entry in the list first."});
+  EXPECT_EQ(move(1, true), L"Calendar General Tasks ");
+  EXPECT_EQ(move(0, true), L"Calendar General Tasks ");
+  EXPECT_EQ(move(2, false), L"Calendar General Tasks ");
+  EXPECT_EQ(dialogs.shown.size(), 1u) << "the ends need no message";
+  SetFocus(Control(kRows));
+  Press(VK_DOWN);
+  Press(VK_DOWN);
+  EXPECT_EQ(FocusedId(), kRows);
+  while (ListView_GetNextItem(Control(kRows), -1, LVNI_FOCUSED) < 2) Press(VK_DOWN);
+  Press(VK_DOWN);
+  EXPECT_NE(FocusedId(), kRows);
+  Press(VK_UP);
+  EXPECT_EQ(FocusedId(), kRows);
+}
+
+TEST_F(BasePage, DrawsASwatchOfAColorAndOfNone) {
+  const WindowDc screen(nullptr);
+  const MemoryBitmap canvas(screen.Dc(), 60, 40);
+  FillPlain(canvas.Dc(), {0, 0, 60, 40}, RGB(1, 2, 3));
+  for (const COLORREF color : {RGB(200, 100, 50), RGB(255, 255, 255)}) {
+    const bool isNone = color == RGB(255, 255, 255);
+    free_->DrawColorSwatch(canvas.Dc(), isNone ? static_cast<COLORREF>(-1) : color, 2, 2);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 2, 2), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(canvas.Dc(), 3, 3), color);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 45, 21), RGB(0, 0, 0));
+    EXPECT_EQ(GetPixel(canvas.Dc(), 46, 22), RGB(1, 2, 3)) << "44 by 20";
+    int inked = 0;
+    for (int x = 4; x < 44; ++x) {
+      for (int y = 4; y < 20; ++y) inked += GetPixel(canvas.Dc(), x, y) != color;
+    }
+    EXPECT_EQ(inked > 20, isNone) << "which says Auto";
+  }
 }
 
 }  // namespace
