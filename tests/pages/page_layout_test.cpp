@@ -4,6 +4,7 @@
 
 #include "pages/icon_layout.h"
 #include "pages/scroll_range.h"
+#include "tests/preview/recorder.h"
 
 namespace tidewell {
 namespace {
@@ -26,25 +27,28 @@ class Layout : public testing::Test {
   PageMetrics narrow{{96, 96, true}, 240, 268, measure};
 };
 
-using Places = std::vector<ControlPlace>;
+// "id x,y widthxheight" of each control, and the row's height.
+std::string Shown(const RowPlace& row) {
+  std::string text;
+  for (const ControlPlace& each : row.controls) {
+    text += std::to_string(each.id) + ' ' + Utf8(each.rect) + ", ";
+  }
+  return text + std::to_string(row.height);
+}
 
 TEST_F(Layout, RowsStandWhereTheyAreExpected) {
-  const RowPlace check = PlaceCheckRow(qvga, 1, L"Box", 8);
-  EXPECT_EQ(check.controls, (Places{{1, {10, 8, 220, 20}}}));
-  EXPECT_EQ(check.height, 24);
-  const RowPlace combo = PlaceComboRow(qvga, 1, 2, L"Label", 32);
-  EXPECT_EQ(combo.controls, (Places{{1, {0, 35, 100, 20}}, {2, {105, 32, 125, 100}}}));
-  EXPECT_EQ(combo.height, 24);
-  const RowPlace path = PlacePathRow(qvga, 1, 2, 3, 4, L"Path", 8);
-  EXPECT_EQ(path.controls, (Places{{1, {0, 11, 100, 20}},
-                                   {2, {105, 8, 125, 20}},
-                                   {3, {135, 32, 45, 20}},
-                                   {4, {185, 32, 45, 20}}}));
-  EXPECT_EQ(path.height, 48);
-  EXPECT_EQ(PlacePathEdit(qvga, 1, 2, 3, 8).controls,
-            (Places{{1, {10, 8, 120, 20}}, {2, {135, 8, 45, 20}}, {3, {185, 8, 45, 20}}}));
+  EXPECT_EQ(Shown(PlaceCheckRow(qvga, 1, L"Box", 8)), "1 10,8 220x20, 24");
+  EXPECT_EQ(Shown(PlaceComboRow(qvga, 1, 2, L"Label", 32)), "1 0,35 100x20, 2 105,32 125x100, 24");
+  EXPECT_EQ(Shown(PlacePathRow(qvga, 1, 2, 3, 4, L"Path", 8)),
+            "1 0,11 100x20, 2 105,8 125x20, 3 135,32 45x20, 4 185,32 45x20, 48");
+  EXPECT_EQ(Shown(PlacePathEdit(qvga, 1, 2, 3, 8)),
+            "1 10,8 120x20, 2 135,8 45x20, 3 185,8 45x20, 24");
   EXPECT_EQ(PlaceList(qvga.scale, 240, 268, 8), (Rect{10, 76, 220, 164}));
   EXPECT_EQ(PlaceTabRow(qvga.scale, 240, 268), (Rect{-2, 247, 242, 21}));
+  for (const PageMetrics& metrics : {vga, doubled}) {
+    EXPECT_EQ(Shown(PlaceComboRow(metrics, 1, 2, L"Label", 64)),
+              "1 0,70 200x40, 2 210,64 250x200, 48");
+  }
 }
 
 TEST_F(Layout, StripsOfIconsStandBehindTheirLabelsOnTwoLines) {
@@ -57,67 +61,41 @@ TEST_F(Layout, StripsOfIconsStandBehindTheirLabelsOnTwoLines) {
   set.kind = RowKind::kIcons;
   set.icons = AppointmentMarkerChoices();
   const TwoRowPicker picker{{one, one}, {set}};
-  const RowPlace place = PlaceTwoRowPicker(qvga, picker, 8);
-  EXPECT_EQ(place.controls, (Places{{1, {0, 10, 98, 18}},
-                                    {2, {100, 10, 17, 17}},
-                                    {1, {120, 10, 98, 18}},
-                                    {2, {220, 10, 17, 17}},
-                                    {3, {0, 31, 98, 18}},
-                                    {4, {100, 31, 129, 17}}}));
-  EXPECT_EQ(place.height, 42);
+  EXPECT_EQ(Shown(PlaceTwoRowPicker(qvga, picker, 8)),
+            "1 0,10 98x18, 2 100,10 17x17, 1 120,10 98x18, 2 220,10 17x17, 3 0,31 98x18, "
+            "4 100,31 129x17, 42");
   const RowPlace below = PlaceTwoRowPicker(narrow, picker, 16);
   EXPECT_EQ(below.controls[1].rect, (Rect{198, 62, 34, 34}));
   EXPECT_EQ(below.controls[5].rect, (Rect{0, 230, 258, 34}));
   EXPECT_EQ(below.height, 252);
 }
 
-TEST_F(Layout, TwiceTheResolutionIsTwiceTheSize) {
-  for (const PageMetrics& metrics : {vga, doubled}) {
-    const RowPlace combo = PlaceComboRow(metrics, 1, 2, L"Label", 64);
-    EXPECT_EQ(combo.controls, (Places{{1, {0, 70, 200, 40}}, {2, {210, 64, 250, 200}}}));
-    EXPECT_EQ(combo.height, 48);
-  }
-}
-
 TEST_F(Layout, ANarrowPageHasItsLabelsAboveTheControls) {
-  const RowPlace combo = PlaceComboRow(narrow, 1, 2, L"Label", 16);
-  EXPECT_EQ(combo.controls, (Places{{1, {8, 22, 212, 40}}, {2, {20, 62, 200, 200}}}));
-  EXPECT_EQ(combo.height, 94);
-  const RowPlace path = PlacePathRow(narrow, 1, 2, 3, 4, L"Path", 16);
-  EXPECT_EQ(path.controls, (Places{{1, {8, 22, 212, 40}},
-                                   {2, {20, 62, 200, 40}},
-                                   {3, {30, 110, 90, 40}},
-                                   {4, {130, 110, 90, 40}}}));
-  EXPECT_EQ(path.height, 142);
-  const RowPlace edit = PlacePathEdit(narrow, 1, 2, 3, 16);
-  EXPECT_EQ(edit.controls,
-            (Places{{1, {20, 16, 200, 40}}, {2, {30, 64, 90, 40}}, {3, {130, 64, 90, 40}}}));
-  EXPECT_EQ(edit.height, 96);
+  EXPECT_EQ(Shown(PlaceComboRow(narrow, 1, 2, L"Label", 16)), "1 8,22 212x40, 2 20,62 200x200, 94");
+  EXPECT_EQ(Shown(PlacePathRow(narrow, 1, 2, 3, 4, L"Path", 16)),
+            "1 8,22 212x40, 2 20,62 200x40, 3 30,110 90x40, 4 130,110 90x40, 142");
+  EXPECT_EQ(Shown(PlacePathEdit(narrow, 1, 2, 3, 16)),
+            "1 20,16 200x40, 2 30,64 90x40, 3 130,64 90x40, 96");
   EXPECT_EQ(PlaceList(narrow.scale, 240, 188, 8).height, 80) << "two rows at least";
 }
 
 TEST_F(Layout, ALongCaptionWrapsAndItsRowGrows) {
-  const RowPlace fits = PlaceComboRow(qvga, 1, 2, L"Sixteen letters.", 8);
-  EXPECT_FALSE(fits.wraps);
+  EXPECT_FALSE(PlaceComboRow(qvga, 1, 2, L"Sixteen letters.", 8).wraps);
   const RowPlace combo = PlaceComboRow(qvga, 1, 2, L"Two lines of a label", 8);
   EXPECT_TRUE(combo.wraps);
   EXPECT_EQ(combo.controls[0].rect, (Rect{4, 11, 96, 28}));
   EXPECT_EQ(combo.height, 34);
-  const RowPlace check = PlaceCheckRow(qvga, 1, L"A caption that runs on under its check box", 8);
-  EXPECT_EQ(check.controls[0].rect, (Rect{10, 8, 220, 28}));
-  EXPECT_EQ(check.height, 32);
+  EXPECT_EQ(Shown(PlaceCheckRow(qvga, 1, L"A caption that runs on under its check box", 8)),
+            "1 10,8 220x28, 32");
   // Two lines beside a path need no more than its two.
   EXPECT_EQ(PlacePathRow(qvga, 1, 2, 3, 4, L"Two lines of a label", 8).height, 48);
 }
 
-TEST_F(Layout, AWordThatIsWiderThanItsColumnEndsInAnEllipsis) {
+TEST_F(Layout, AWordIsDividedWhereItMayBeElseItEndsInAnEllipsis) {
   EXPECT_EQ(PlaceComboRow(qvga, 1, 2, L"Aufgabenerinnerung", 8).caption, L"Aufgabenerinner\u2026");
   EXPECT_EQ(PlaceComboRow(qvga, 1, 2, L"Die Aufgabenerinnerung an", 8).caption,
             L"Die Aufgabenerinner\u2026 an");
   EXPECT_EQ(FitWords(measure, L"wide", 3), L"w\u2026");
-}
-
-TEST_F(Layout, AWordIsDividedWhereItMayBe) {
   const std::wstring word = L"Auf\u00ADgaben\u00ADerinnerung";
   EXPECT_EQ(PlaceCheckRow(qvga, 1, word, 8).caption, L"Aufgabenerinnerung");
   EXPECT_EQ(PlaceComboRow(qvga, 1, 2, word + L" an", 8).caption, L"Aufgaben- erinnerung an");

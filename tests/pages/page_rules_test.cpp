@@ -36,6 +36,14 @@ TEST_F(Rules, GreyWhatCannotBeUsed) {
   EXPECT_EQ(page.Enabled(1220, 1228), (Ids{1220, 1221, 1222, 1225, 1226, 1228}));
   page.Tap(kDPadEnabled);
   EXPECT_EQ(page.Enabled(1220, 1228), Ids{1220});
+  FakeView calendar(MakeCalendarPage(context));
+  EXPECT_EQ(calendar.Enabled(1206, 1209), (Ids{1206, 1208, 1209}));
+  calendar.Tap(calendar_ids::kHideEmptyGroups);
+  EXPECT_EQ(calendar.Enabled(1206, 1209), (Ids{1206, 1207, 1208, 1209}));
+  FakeView tasks(MakeTasksPage(context));
+  EXPECT_EQ(tasks.Enabled(1212, 1218), Ids{1212});
+  tasks.Tap(tasks_ids::kCustomDate);
+  EXPECT_EQ(tasks.Enabled(1212, 1218), (Ids{1212, 1213, 1214, 1215, 1216, 1217, 1218}));
 }
 
 // A library without a name has no line, but a slot: here English has the second one.
@@ -137,15 +145,17 @@ class CalendarRules : public testing::Test, protected TestDevice {
     UseScreen(480, 640, 192);
     InstallOtherPrograms();
   }
-  // The choices of the one option or row that edits a setting.
-  Choices ChoicesOf(const Setting& setting) {
+  // The one option or row that edits a setting; empty for none.
+  Row RowOf(const Setting& setting) {
     for (const PageTab& tab : MakeCalendarPage(context)->Tabs()) {
       for (const Row* row : tab.Rows()) {
-        if (row->number == &setting) return row->choices;
+        const bool isOrdered = std::ranges::find(row->order, &setting) != row->order.end();
+        if (row->number == &setting || isOrdered) return *row;
       }
     }
     return {};
   }
+  Choices ChoicesOf(const Setting& setting) { return RowOf(setting).choices; }
 
   CalendarSettings& s = store.calendar;
 };
@@ -173,13 +183,9 @@ TEST_F(CalendarRules, TurnPositionsIntoValues) {
   };
   for (const Case& c : cases) {
     c.setting->Set(c.stored);
-    for (const PageTab& tab : MakeCalendarPage(context)->Tabs()) {
-      for (const Row* row : tab.Rows()) {
-        if (row->number != c.setting) continue;
-        EXPECT_EQ(StateOf(*row).selection, c.shown) << Utf8(c.setting->Name()) << c.stored;
-        Store(*row, StateOf(*row));
-      }
-    }
+    const Row row = RowOf(*c.setting);
+    EXPECT_EQ(StateOf(row).selection, c.shown) << Utf8(c.setting->Name()) << c.stored;
+    Store(row, StateOf(row));
     EXPECT_EQ(c.setting->Value(), c.kept) << Utf8(c.setting->Name()) << c.stored;
   }
 }
@@ -198,6 +204,9 @@ TEST_F(CalendarRules, SpeakAsTheUsersLocaleDoes) {
   memory.locale.timeStyle = L"0";
   EXPECT_EQ(ChoicesOf(s.TimelinesStart).back().text, L"6:00 PM");
   EXPECT_EQ(ChoicesOf(s.HumanTime).front().text, L"0:00 AM");
+  EXPECT_EQ(ChoicesOf(s.WeatehrLayout).size(), 4u);
+  files.Remove(kWeatherLibrary);
+  EXPECT_EQ(ChoicesOf(s.WeatehrLayout).size(), 0u) << "without the weather program";
 }
 
 TEST_F(CalendarRules, StoreAnIconAtOnceAndNothingWhenThePageCloses) {
@@ -210,13 +219,6 @@ TEST_F(CalendarRules, StoreAnIconAtOnceAndNothingWhenThePageCloses) {
   page.Close();
   EXPECT_EQ(s.ClrApptRightIcons.Value(), 5u);
   EXPECT_EQ(s.ApptLeftAlignIcon1.Value(), 3u);
-}
-
-TEST_F(CalendarRules, GreyTheLinesOfGroupsThatAreHidden) {
-  FakeView page(MakeCalendarPage(context));
-  EXPECT_EQ(page.Enabled(1206, 1209), (Ids{1206, 1208, 1209}));
-  page.Tap(calendar_ids::kHideEmptyGroups);
-  EXPECT_EQ(page.Enabled(1206, 1209), (Ids{1206, 1207, 1208, 1209}));
 }
 
 TEST_F(CalendarRules, PinTheCalendarOnlyWhereTheItemMayBeHighEnough) {
@@ -235,21 +237,11 @@ TEST_F(CalendarRules, PinTheCalendarOnlyWhereTheItemMayBeHighEnough) {
   }
 }
 
-TEST_F(CalendarRules, TellWhereTheWeatherProgramIsMissing) {
-  const auto shown = [&] { return ChoicesOf(s.WeatehrLayout).size(); };
-  EXPECT_EQ(shown(), 4u);
-  files.Remove(kWeatherLibrary);
-  EXPECT_EQ(shown(), 0u);
-}
-
 TEST_F(CalendarRules, ReplaceAForeignTitleByThatOfItsPlace) {
   s.CalTitlesOrder1.Set(9);
   s.CalTitlesOrder2.Set(5);
-  for (const PageTab& tab : MakeCalendarPage(context)->Tabs()) {
-    for (const Row* row : tab.Rows()) {
-      if (row->stored == Stored::kOrder) Store(*row, StateOf(*row));
-    }
-  }
+  const Row row = RowOf(s.CalTitlesOrder1);
+  Store(row, StateOf(row));
   EXPECT_EQ(s.CalTitlesOrder1.Value(), 1u);
   EXPECT_EQ(s.CalTitlesOrder2.Value(), 5u);
 }
@@ -344,13 +336,6 @@ TEST_F(Rules, StoreAFontAtOnceAndAColorEvenWhenTheRestIsCancelled) {
   EXPECT_NE(page.looks[1].paper, kNoColor) << "white can be read all the same";
   page.Close();
   EXPECT_EQ(store.fonts.FontFaceToUse.Value(), L"Gone");
-}
-
-TEST_F(Rules, GreyTheCustomDateUntilItIsOn) {
-  FakeView page(MakeTasksPage(context));
-  EXPECT_EQ(page.Enabled(1212, 1218), Ids{1212});
-  page.Tap(tasks_ids::kCustomDate);
-  EXPECT_EQ(page.Enabled(1212, 1218), (Ids{1212, 1213, 1214, 1215, 1216, 1217, 1218}));
 }
 
 }  // namespace

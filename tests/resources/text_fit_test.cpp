@@ -47,7 +47,6 @@ std::set<int> TextsOfPages() {
   std::set<int> ids;
   for (const PageEntry& page : kPages) {
     ids.insert(page.captionId);
-    if (!page.make) continue;
     for (const PageTab& tab : page.make(device.context)->Tabs()) {
       ids.insert(tab.titleId);
       for (const Row* row : tab.Rows()) {
