@@ -11,7 +11,6 @@ namespace tidewell::device {
 
 inline constexpr wchar_t kInstallFolder[] = L"C:\\Program Files\\Velmont\\Tidewell";
 inline constexpr wchar_t kMainClass[] = L"TW_OPTIONS";
-inline constexpr wchar_t kMainCaption[] = L"TW Options";
 inline constexpr DWORD kPatience = 20'000;  // milliseconds until a wait has failed
 
 // Asks again and again until the answer is yes; false when it never was.

@@ -17,15 +17,14 @@ struct Sample {
 
 std::vector<std::byte> FileOf(const Sample& sample) {
   const bool hasPalette = sample.colorBits > 0;
-  std::vector<std::uint8_t> file = {0,           hasPalette,
-                                    sample.kind, 0,
-                                    0,           std::uint8_t(hasPalette ? 2 : 0),
-                                    0,           sample.colorBits,
-                                    0,           0,
-                                    0,           0,
-                                    2,           0,
-                                    2,           0,
-                                    sample.bits, sample.descriptor};
+  std::vector<std::uint8_t> file(18);
+  file[1] = hasPalette;
+  file[2] = sample.kind;
+  file[5] = hasPalette ? 2 : 0;
+  file[7] = sample.colorBits;
+  file[12] = file[14] = 2;
+  file[16] = sample.bits;
+  file[17] = sample.descriptor;
   file.insert(file.end(), sample.data.begin(), sample.data.end());
   const auto bytes = std::as_bytes(std::span(file));
   return {bytes.begin(), bytes.end()};
@@ -39,6 +38,8 @@ TEST(Tga, HasThePointsOfEveryKind) {
                                            0, 0, 255, 255, 0, 255, 0, 255};
   const std::vector<std::uint8_t> dark = {0,   0, 255, 0, 0,   255, 0,   0,
                                           255, 0, 0,   0, 255, 255, 255, 0};
+  const std::vector<std::uint8_t> clearPalette = {0, 0, 255, 128, 9, 9, 9, 0, 0, 1, 1, 9};
+  const std::vector<Argb> redEnds = {kR, kG, kG, kR};
   const std::vector<Sample> samples = {
       {"from the top", 2, 24, 0x20, 0, colors, {kR, kG, kB, kW}},
       {"from the bottom", 2, 24, 0x00, 0, colors, {kB, kW, kR, kG}},
@@ -51,35 +52,11 @@ TEST(Tga, HasThePointsOfEveryKind) {
       {"none promised, none there", 2, 32, 0x20, 0, dark, {kR, kG, kB, kW}},
       {"clear all over", 2, 32, 0x28, 0, dark, {kNone, kNone, kNone, kNone}},
       {"greys", 3, 8, 0x20, 0, {0, 255, 0, 255}, {0xFF000000, kW, 0xFF000000, kW}},
-      {"clear greys",
-       11,
-       16,
-       0x20,
-       0,
-       {0x83, 255, 51},
-       {0x33333333, 0x33333333, 0x33333333, 0x33333333}},
-      {"palette", 1, 8, 0x20, 24, {0, 0, 255, 0, 255, 0, 0, 1, 1, 0}, {kR, kG, kG, kR}},
-      {"wide numbers",
-       1,
-       16,
-       0x20,
-       24,
-       {0, 0, 255, 0, 255, 0, 0, 0, 1, 0, 1, 0, 0, 0},
-       {kR, kG, kG, kR}},
-      {"palette of 16 bits in runs",
-       9,
-       8,
-       0x20,
-       16,
-       {0, 0x7C, 0xE0, 3, 0x82, 1, 0, 0},
-       {kG, kG, kG, kR}},
-      {"clear palette",
-       1,
-       8,
-       0x28,
-       32,
-       {0, 0, 255, 128, 9, 9, 9, 0, 0, 1, 1, 9},
-       {kHalf, kNone, kNone, kHalf}},
+      {"clear greys", 11, 16, 0x20, 0, {0x83, 255, 51}, std::vector<Argb>(4, 0x33333333)},
+      {"palette", 1, 8, 0x20, 24, {0, 0, 255, 0, 255, 0, 0, 1, 1, 0}, redEnds},
+      {"wide numbers", 1, 16, 0x20, 24, {0, 0, 255, 0, 255, 0, 0, 0, 1, 0, 1, 0, 0, 0}, redEnds},
+      {"palette in runs", 9, 8, 0x20, 16, {0, 0x7C, 0xE0, 3, 0x80, 0, 0x81, 1, 0, 0}, redEnds},
+      {"clear palette", 1, 8, 0x28, 32, clearPalette, {kHalf, kNone, kNone, kHalf}},
   };
   for (const Sample& sample : samples) {
     const auto pixels = DecodeTga(FileOf(sample));

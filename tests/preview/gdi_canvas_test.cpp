@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <tuple>
 
 #include "preview/text_drawing.h"
 
@@ -114,13 +113,6 @@ TEST_F(Gdi, ImagesKeepTheirTransparency) {
   for (int y = 0; y < 4; ++y) {
     for (int x = 0; x < 3; ++x) EXPECT_EQ(GetPixel(drawn.Dc(), x, y), expected[y][x]) << x << y;
   }
-}
-
-TEST(GradientVertex, HasTheColoursInTheHighBytes) {
-  const TRIVERTEX vertex = GradientVertex(3, 4, RGB(0x12, 0x34, 0x56));
-  EXPECT_EQ(std::tie(vertex.x, vertex.y), std::tuple(3, 4));
-  EXPECT_EQ(std::tie(vertex.Red, vertex.Green, vertex.Blue, vertex.Alpha),
-            std::tuple(0x1200, 0x3400, 0x5600, 0));
 }
 
 }  // namespace

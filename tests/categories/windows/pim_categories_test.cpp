@@ -116,12 +116,5 @@ TEST_F(PimCategories, AClosedDatabaseAnswersNothingAndLeavesNoHandle) {
   EXPECT_LT(after, before + 10);
 }
 
-TEST_F(PimCategories, TheSampleDeviceHasElevenCategories) {
-  PimCategorySource source(windowsFiles, folder, L"" SAMPLE_VOLUME);
-  catalog.Rebuild(source, L"All");
-  EXPECT_EQ(catalog.Categories().size(), 11u);
-  EXPECT_TRUE(catalog.FindCategory(L"Ideas")->pimFlag);
-}
-
 }  // namespace
 }  // namespace tidewell
