@@ -1,22 +1,17 @@
 #include "app/main_window.h"
 
+#include <algorithm>
+
+#include "app/about_box.h"
 #include "app/resource.h"
+#include "app/single_instance.h"
 #include "program_fixture.h"
+#include "ui/windows/picture.h"
 
 namespace tidewell {
 namespace {
 
 const std::vector kTools{21, 22, 23};
-
-TEST_F(ProgramTest, ListsTheGroupsInOrder) {
-  Start();
-  EXPECT_EQ(Captions(), (std::vector<std::wstring>{
-                            L"text 617", L"text 618", L"text 619", L"text 1259", L"text 1432",
-                            L"text 1260", L"text 620", L"text 621", L"text 622", L"text 624",
-                            L"text 625", L"text 626", L"About Tidewell"}));
-  EXPECT_EQ(Commands(), (std::vector{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
-  EXPECT_EQ(program->List().Selected(), 0u);
-}
 
 TEST_F(ProgramTest, ToolsComeAndGoByTheBarAndTheSoftKeys) {
   Start();
@@ -32,7 +27,8 @@ TEST_F(ProgramTest, ToolsComeAndGoByTheBarAndTheSoftKeys) {
   ASSERT_TRUE(IsOpen()) << "the exit was answered with no";
 
   SendMessageW(Window(), WM_COMMAND, ID_RIGHT_BUTTON, 0);
-  EXPECT_EQ(Commands().size(), 13u);
+  EXPECT_EQ(Commands(), (std::vector{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
+  EXPECT_EQ(Captions().back(), L"About Tidewell");
   SendMessageW(Window(), WM_COMMAND, ID_LEFT_BUTTON, 0);
   EXPECT_FALSE(IsOpen());
 }
@@ -121,14 +117,14 @@ TEST_F(DoneTest, ADragThatEndsOverTheBarIsNoTapOnIt) {
 }
 
 TEST_F(ProgramTest, EachGroupOpensItsPage) {
-  Start();
-  RunRow(3);
-  EXPECT_EQ(CaptionOf(Window()), L"TW Options") << "a group without a page changes nothing";
+  EXPECT_FALSE(BringRunningInstanceForward());
   hasPages = true;
+  Start();
   for (int row = 0; row < 12; ++row) {
     RunRow(row);
     EXPECT_EQ(pageAsked, row);
     EXPECT_EQ(captionSeen, L"") << "the host's caption is empty before the page is made";
+    EXPECT_TRUE(BringRunningInstanceForward()) << "whatever its caption";
     SendMessageW(Window(), kClosePageMessage, 0, 0);
     EXPECT_EQ(pagesDestroyed, row + 1);
     EXPECT_EQ(CaptionOf(Window()), L"TW Options");
@@ -222,6 +218,92 @@ TEST_F(DoneTest, WhatAnImportDidNotDoIsSaidAndTheProgramGoesOn) {
   RunRow(1);
   EXPECT_EQ(dialogs.shown[2], L"text 608: text 607 \"" + backup + L"\"\n\ntext 2030 text 2072");
   EXPECT_EQ(dialogs.shown.back(), L"text 612: text 611\n\ntext 2073 text 2070") << "no such folder";
+}
+
+TEST_F(ProgramTest, TheLibrariesAndTheCategoriesFollowTheSettingsAndAreLetGo) {
+  const struct {
+    int dpi;
+    std::uint32_t vgaMode;
+    const wchar_t* pictures;
+  } cases[] = {
+      {131, 0, L"\\LowDpiRes.dll"}, {144, 0, L"\\HighDpiRes.dll"}, {96, 1, L"\\HighDpiRes.dll"}};
+  const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell";
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.dpi);
+    memory.libraries = {};
+    memory.libraries.Put(kEnglishLibrary, {});
+    memory.libraries.Put(folder + c.pictures, {});
+    memory.system.screen.dpiX = memory.system.screen.dpiY = c.dpi;
+    Put(SettingKey::kRoot, L"MyVgaMode", c.vgaMode);
+    MainWindowParts parts = Parts();
+    std::wstring icons;
+    parts.openCategories = [&](const std::wstring& iconsFolder) {
+      icons = iconsFolder;
+      return std::make_unique<ListedCategories>(categories);
+    };
+    StartOn(memory.Door(), std::move(parts));
+    EXPECT_EQ(memory.libraries.LoadedCount(), 2);
+    EXPECT_EQ(icons, folder + L"\\CategoryIcons");
+    DestroyWindow(Window());
+    EXPECT_EQ(memory.libraries.LoadedCount(), 0);
+    EXPECT_TRUE(PumpMessages()) << "the message loop ends";
+  }
+}
+
+TEST_F(ProgramTest, TheWindowFillsItsPlaceWithoutAFrameAndAnExitWritesAndTellsNothing) {
+  const TestWindow full(0x14000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kDefaultPlace);
+  Put(SettingKey::kRoot, L"dHeightLimitLandscape", 1);  // which a save repairs
+  Start();
+  const RECT place = WindowRect(Window());
+  const RECT wanted = WindowRect(full.Get());
+  EXPECT_TRUE(EqualRect(&place, &wanted));
+  EXPECT_EQ(ClientArea(Window()).bottom, place.bottom - place.top);
+  EXPECT_EQ(FindWindowW(L"TW_OPTIONS", L"TW Options"), Window());
+  dialogs.agrees = true;
+  TapBar(true);
+  RunRow(2);
+  PumpMessages();
+  EXPECT_FALSE(IsOpen());
+  EXPECT_EQ(recorded.CountWrites(), 0);
+  EXPECT_EQ(full.Count(RegisterWindowMessageW(L"VelmontTidewellSettingsChanged")), 0);
+}
+
+// ---- The about box
+
+constexpr LONG kBarHeight = 80;  // at 192 dots per inch
+
+TEST(AboutBox, TellsTheVersionOfThisProgramAndJoinsWhatThereIsOfItsBuild) {
+  AboutRecord record = AboutTidewell(nullptr, nullptr);
+  EXPECT_EQ(record.version, L"Tidewell 5.5 Public Beta 2");
+  EXPECT_EQ(BuildLine(record), L"04/17/2009, WM5/WM6 Build");
+  record.buildSuffix = false;
+  EXPECT_EQ(BuildLine(record), L"04/17/2009");
+}
+
+TEST(AboutBox, LogoAndTextsStandBelowEachOtherUntilDoneIsTapped) {
+  const TestWindow parent(0x14000800, static_cast<DWORD>(WS_EX_CAPTIONOKBTN), kDefaultPlace);
+  const HMODULE pictures = LoadLibraryA(TIDEWELL_PICTURES);
+  const Picture logo(pictures, 281);
+  ASSERT_TRUE(logo);
+  const InModalLoop look([&] {
+    const HWND dialog = FindOwnWindow(L"#32770");
+    UpdateWindow(dialog);
+    EXPECT_FALSE(IsWindowEnabled(parent.Get()));
+    const Screenshot box(dialog);
+    EXPECT_GE(box.FirstDrawnRow(0), 12);
+    EXPECT_LT(box.FirstDrawnRow(0), 12 + logo.Height());
+    const int left = std::max(0, (box.Width() - logo.Width()) / 2);
+    EXPECT_EQ(box.At(left, 12), RGB(255, 255, 255)) << "red is the key";
+    const int version = box.FirstDrawnRow(12 + logo.Height() + 4);
+    const int build = box.FirstDrawnRow(version + 28);
+    EXPECT_LT(version, 12 + logo.Height() + 4 + 24);
+    EXPECT_LT(build, version + 28 + 24);
+    EXPECT_GT(box.FirstDrawnRow(build + 28), box.Height() - kBarHeight - 2) << "nothing follows";
+    Tap(dialog, {9, box.Height() - 9});
+  });
+  ShowAboutBox(parent.Get(), AboutTidewell(GetModuleHandleW(nullptr), pictures),
+               ScreenScale(192, 192, false));
+  EXPECT_TRUE(IsWindowEnabled(parent.Get()));
 }
 
 }  // namespace

@@ -46,26 +46,19 @@ TEST_F(Rules, GreyWhatCannotBeUsed) {
   EXPECT_EQ(tasks.Enabled(1212, 1218), (Ids{1212, 1213, 1214, 1215, 1216, 1217, 1218}));
 }
 
-// A library without a name has no line, but a slot: here English has the second one.
 TEST_F(Rules, StoreTheLanguageOfTheChosenSlot) {
   const std::wstring folder = L"\\Program Files\\Velmont\\Tidewell\\LangRes\\";
-  const auto visit = [&](std::size_t lines, int selection) {
-    FakeView page(MakeGeneralPage(context));
-    EXPECT_EQ(page.ChoicesOf(general_ids::kLanguage).size(), lines);
-    EXPECT_EQ(page.State(general_ids::kLanguage).selection, selection);
-    page.Close();
-    EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWEngRc.dll");
-  };
-  visit(0, 0);  // the present one stays where there is none to choose
-  const std::pair<const wchar_t*, MemoryLibraries::Texts> packs[] = {
-      {L"AAA.dll", {}},
-      {L"TWEngRc.dll", {{IDS_LANGUAGE_NAME, L"English"}}},
-      {L"TWGerRc.dll", {{IDS_LANGUAGE_NAME, L"Deutsch"}}}};
-  for (const auto& [name, texts] : packs) {
+  FakeView(MakeGeneralPage(context)).Close();
+  EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWEngRc.dll") << "none to choose";
+  for (const wchar_t* name : {L"TWEngRc.dll", L"TWGerRc.dll"}) {
     files.Put(folder + name, "MZ");
-    memory.libraries.Put(folder + name, texts);
+    memory.libraries.Put(folder + name, {{IDS_LANGUAGE_NAME, name}});
   }
-  visit(2, 1);
+  FakeView page(MakeGeneralPage(context));
+  EXPECT_EQ(page.State(general_ids::kLanguage).selection, 0);
+  page.Choose(general_ids::kLanguage, 1);
+  page.Close();
+  EXPECT_EQ(store.root.SelectedLangResFile.Value(), folder + L"TWGerRc.dll");
 }
 
 TEST_F(Rules, StoreTheFoldersOfTheChosenIconSet) {
@@ -76,8 +69,13 @@ TEST_F(Rules, StoreTheFoldersOfTheChosenIconSet) {
   }
   IconSetSettings& set = store.iconSet;
   const auto stored = [&] {
-    return std::vector{set.InstallPath12.Value(), set.InstallPath18.Value(),
-                       set.InstallPath24.Value(), set.InstallPathBlank.Value()};
+    std::wstring folders;
+    for (const StringSetting* each :
+         {&set.InstallPath12, &set.InstallPath18, &set.InstallPath24, &set.InstallPathBlank}) {
+      const bool isSet = each->Value().starts_with(sets);
+      folders += (isSet ? each->Value().substr(sets.size()) : each->Value()) + L";";
+    }
+    return folders;
   };
   // Chooses a line, or leaves the one that is shown.
   const auto visit = [&](int shown, int line) {
@@ -88,18 +86,12 @@ TEST_F(Rules, StoreTheFoldersOfTheChosenIconSet) {
     page.Close();
     return stored();
   };
-  const std::vector<std::wstring> none(4);
-  const std::vector mono = {sets + L"Mono\\12", sets + L"Mono\\18", sets + L"Mono\\24",
-                            sets + L"Mono\\Blank"};
-  const std::vector zebra = {sets + L"Zebra\\12", sets + L"Zebra\\18", sets + L"Zebra\\24",
-                             std::wstring()};
-  EXPECT_EQ(visit(0, 0), none);
-  EXPECT_EQ(visit(0, 1), mono);
-  EXPECT_EQ(visit(1, 2), zebra);
+  EXPECT_EQ(visit(0, 0), L";;;;");
+  EXPECT_EQ(visit(0, 1), L"Mono\\12;Mono\\18;Mono\\24;Mono\\Blank;");
+  EXPECT_EQ(visit(1, 2), L"Zebra\\12;Zebra\\18;Zebra\\24;;");
   set.InstallPath18.Set(L"\\elsewhere");
-  const auto own = stored();
-  EXPECT_EQ(visit(kNoChoice, kNoChoice), own) << "what no line stands for stays";
-  EXPECT_EQ(visit(kNoChoice, 0), none);
+  EXPECT_EQ(visit(kNoChoice, kNoChoice), L"Zebra\\12;\\elsewhere;Zebra\\24;;") << "stays";
+  EXPECT_EQ(visit(kNoChoice, 0), L";;;;");
 }
 
 TEST_F(Rules, StoreAProgramAtOnceAndGreyWhatItDoesNotHave) {

@@ -52,10 +52,8 @@ TEST_F(Tables, LeaveOutTheRowsThatTheDeviceCannotUse) {
     SystemVersion version;
     bool wide, modern;
   };
-  const Case cases[] = {{480, {5, 1}, true, true},
-                        {479, {4, 21}, false, true},
-                        {640, {4, 20}, true, false},
-                        {240, {3, 0}, false, false}};
+  const Case cases[] = {
+      {480, {5, 1}, true, true}, {479, {4, 21}, false, true}, {640, {4, 20}, true, false}};
   for (const Case& c : cases) {
     memory.system.screen.width = c.width;
     memory.system.version = c.version;

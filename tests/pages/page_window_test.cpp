@@ -114,20 +114,6 @@ TEST_F(PageWindow, EveryTabIsBuiltWhenThePageIsAndTurnsWithTheScreenAndNoEditIsL
   EXPECT_EQ(store.root.dHeightLimit.Value(), 234u);
 }
 
-TEST_F(PageWindow, AListDropsAsFarAsItsHeightAndNotOverTheScreen) {
-  store.root.AutoHeight.Set(0);
-  Open(PageIndex::kGeneral);
-  TurnScreen();
-  TurnScreen();
-  COMBOBOXINFO parts{};
-  parts.cbSize = sizeof parts;
-  GetComboBoxInfo(Control(general_ids::kHeight), &parts);
-  Send(general_ids::kHeight, CB_SHOWDROPDOWN, TRUE);
-  const LONG height = WindowRect(parts.hwndList).bottom - WindowRect(parts.hwndCombo).top;
-  EXPECT_LE(height, 100);
-  EXPECT_GT(height, 80);
-}
-
 TEST_F(PageWindow, APathIsOnlyBrowsedAndClearedAndShowsItsEnd) {
   store.root.SkinPath.Set(L"\\Storage Card\\Program Files\\Skins\\Blue");
   Open(PageIndex::kGeneral);
@@ -137,9 +123,6 @@ TEST_F(PageWindow, APathIsOnlyBrowsedAndClearedAndShowsItsEnd) {
         LOWORD(Send(general_ids::kSkinPath, EM_POSFROMCHAR, static_cast<WPARAM>(last))));
     return x > 0 && x < ClientArea(Control(general_ids::kSkinPath)).right;
   };
-  EXPECT_TRUE(endIsSeen());
-  TurnScreen();
-  TurnScreen();
   EXPECT_TRUE(endIsSeen());
   Turn(1);
   Type(general_ids::kSkinPath, L"it can only be read");
