@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <span>
-
 #include "platform/text.h"
 #include "tests/support/test_device.h"
 #include "tests/support/utf8.h"
@@ -70,13 +68,6 @@ TEST_F(SchemesTest, ApplyAsFarAsTheyCanBeReadAndTheWayBackIsWhole) {
     EXPECT_EQ(Stored(kFonts, L"FontGnrlSize").has_value(), isKept(L"\"FontGnrlSize"));
     EXPECT_EQ(Trees().find("Unknown"), std::string::npos) << "nothing of before is left";
     ExpectToGoBack(trees, end);
-  }
-  const std::string narrow(scheme_.begin(), scheme_.end());
-  for (const std::string& bytes : {narrow, '\0' + narrow, "\xFF\xFE" + narrow}) {
-    const auto other = std::as_bytes(std::span(bytes));
-    EXPECT_EQ(Apply({other.begin(), other.end()}), SchemeResult::kRefused);
-    EXPECT_EQ(Trees(), "");
-    ExpectToGoBack(trees, bytes.size());
   }
   const std::wstring title = catalog.Filters()[0].title;
   recordedFiles.Calls().FailEvery(FileCall::kWrite);

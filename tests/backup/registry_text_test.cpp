@@ -162,11 +162,10 @@ TEST_F(RegistryText, ASurveyFindsTheFirstKeyOutsideTheProducts) {
     EXPECT_TRUE(survey.isRegistryText);
     return survey.outsideKey;
   };
-  for (const wchar_t* inside :
-       {L"Software\\Velmont\\Tidewell", L"SOFTWARE\\velmont\\tideWELL\\Deep\\er",
-        L"Software\\\\Velmont\\Tidewell\\", L"::Categories::", L"::Filters::"}) {
-    EXPECT_EQ(outside(L"\n[" + std::wstring(inside) + L"]\n\n"), std::nullopt) << Utf8(inside);
-  }
+  const wchar_t* inside =
+      L"\n[Software\\Velmont\\Tidewell]\n\n[SOFTWARE\\velmont\\tideWELL\\Deep\\er]\n\n"
+      L"[Software\\\\Velmont\\Tidewell\\]\n\n[::Categories::]\n\n[::Filters::]\n";
+  EXPECT_EQ(outside(inside), std::nullopt);
   for (const wchar_t* key :
        {L"", L"Software\\Velmont\\TidewellX", L"Software\\Velmont", L"Software\\Velmont\\",
         L"\\Software\\Velmont\\Tidewell", L"Control Panel", L"::categories::"}) {
@@ -227,24 +226,14 @@ TEST_F(RegistryText, AKeyThatCannotBeCreatedEndsTheImportThere) {
   const std::wstring text = L"\n[A]\n\"x\"=dword:1\n\n[B]\n\"x\"=dword:1\n\n[C]\n";
   recorded.Calls().FailNth(4);  // create, set, create, set: the second section's value is lost
   EXPECT_TRUE(ImportText(recorded, catalog, text));
+  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 3) << "once each";
+  EXPECT_EQ(recorded.CountWrites(), 2);
   EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 1\n[B]\n[C]\n");
   Delete(L"C");
   recorded.Calls().Reset();
   recorded.Calls().FailNth(3);
   EXPECT_FALSE(ImportText(recorded, catalog, text));
   EXPECT_EQ(Dump(L""), "[]\n[A]\nx = 1\n[B]\n");
-}
-
-TEST_F(RegistryText, EveryKeyIsOpenedOnceAndEveryValueWrittenOnce) {
-  const std::wstring text = L"\n[K]\n\"x\"=dword:0\n\"y\"=\"\"\n\n[K\\B]\n\"z\"=\"abcd\"\n";
-  EXPECT_TRUE(ImportText(recorded, catalog, text));
-  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 2);
-  EXPECT_EQ(recorded.Count(RegistryCall::kFlush), 0);
-  EXPECT_EQ(recorded.CountWrites(), 3);
-  EXPECT_EQ(recorded.Count(RegistryCall::kQuery), 0);
-  WriteTree(recorded);
-  EXPECT_EQ(recorded.Count(RegistryCall::kCreate), 2 + 2);
-  EXPECT_EQ(recorded.CountWrites(), 3);
 }
 
 }  // namespace

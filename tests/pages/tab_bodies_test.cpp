@@ -26,6 +26,30 @@ TEST_F(PageHost, ItemsAreSelectedMovedAndTickedByAFinger) {
             (decltype(tabs){{TabType::kCalendar, 1}, {TabType::kNotes, 0}, {TabType::kTasks, 1}}));
 }
 
+TEST_F(PageHost, ArrowsAndKeysBringEveryTabIntoViewAndATapSelectsIt) {
+  Open(PageIndex::kCalendar);
+  const int width = ClientArea(Tabs()).right;
+  const auto tab = [&](int index) {
+    RECT place{};
+    TabCtrl_GetItemRect(Tabs(), index, &place);
+    return place;
+  };
+  const auto isInView = [&](int index) {
+    return tab(index).left >= 0 && tab(index).right <= width - 2 * 28;
+  };
+  ASSERT_FALSE(isInView(8));
+  for (int taps = 0; taps < 9; ++taps) Tap(Tabs(), {width - 14, 10});
+  EXPECT_TRUE(isInView(8));
+  Tap(Tabs(), {tab(8).left + 5, 10});
+  EXPECT_EQ(TabCtrl_GetCurSel(Tabs()), 8);
+  for (int taps = 0; taps < 9; ++taps) Tap(Tabs(), {width - 28 - 14, 10});
+  EXPECT_TRUE(isInView(0));
+  EXPECT_EQ(TabCtrl_GetCurSel(Tabs()), 8) << "scrolling does not select";
+  SetFocus(Tabs());
+  Press(VK_LEFT);
+  EXPECT_TRUE(isInView(7)) << "a key shows what it selects";
+}
+
 class IconTab : public PageHost {
  protected:
   enum : int { kLeft = 1241, kRightLabel = 1244, kRight = 1245, kTaskLeft = 1247 };

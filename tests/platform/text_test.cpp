@@ -7,29 +7,6 @@
 namespace tidewell {
 namespace {
 
-TEST(Text, NumbersReadAsA32BitSystemReadsThem) {
-  const struct {
-    const wchar_t* text;
-    int base;
-    std::int32_t number;
-  } cases[] = {
-      {L"abc", 10, 0},
-      {L" \t-1\r", 10, -1},
-      {L"+7x", 10, 7},
-      {L"12-3", 10, 12},
-      {L"010", 0, 8},
-      {L"09", 0, 0},
-      {L"0x50", 0, 80},
-      {L"0x50", 10, 0},
-      {L"2147483648", 10, INT32_MAX},
-      {L"-99999999999999999999", 10, INT32_MIN},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(ParseNumber(c.text, c.base), c.number) << c.number << " in base " << c.base;
-  }
-  EXPECT_EQ(FormatDecimal(INT32_MIN), L"-2147483648");
-}
-
 TEST(Text, CaseIsFoldedInTheAlphabetsOfTheShippedLanguagesAndTheirNeighbours) {
   EXPECT_TRUE(EqualIgnoringCase(L"\u00C4\u00D6\u00DC\u0416\u03A9\u0141\u017D",
                                 L"\u00E4\u00F6\u00FC\u0436\u03C9\u0142\u017E"));

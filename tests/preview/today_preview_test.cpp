@@ -125,22 +125,21 @@ TEST_F(Preview, SortsTasksByTheKeysInTurnAndTheSubjectLast) {
   early.subject = L"b";
   late.subject = L"A";
   TasksSettings& tasks = settings.tasks;
-  const auto compare = [&] { return CompareTasks(early, late, tasks, machine.locale); };
-  EXPECT_LT(compare(), 0);
+  const auto isFirst = [&] { return CompareTasks(early, late, tasks, machine.locale) < 0; };
+  EXPECT_TRUE(isFirst());
   tasks.TsksSrt1Dirctn.Set(0);
-  EXPECT_GT(compare(), 0);
+  EXPECT_FALSE(isFirst());
   late.end = early.end;
-  EXPECT_GT(compare(), 0);  // by importance
+  EXPECT_FALSE(isFirst()) << "by importance";
   tasks.TsksSrt2Dirctn.Set(0);
-  EXPECT_LT(compare(), 0);
+  EXPECT_TRUE(isFirst());
   for (DwordSetting* key : {&tasks.TsksSrt2, &tasks.TsksSrt3}) key->Set(99);
-  EXPECT_GT(compare(), 0);  // by subject, ascending
-
-  EXPECT_FALSE(IsHidden(early, tasks));
+  EXPECT_FALSE(isFirst()) << "by subject, ascending";
   early.completed = true;
   EXPECT_FALSE(IsHidden(early, tasks));
   tasks.HideCompletedTasks.Set(1);
   EXPECT_TRUE(IsHidden(early, tasks));
+  EXPECT_FALSE(IsHidden(late, tasks));
 }
 
 // A set with a picture of the link, and the set that ships without one of the note.
@@ -175,15 +174,15 @@ TEST(IconCache, LooksIntoTheChosenSetForEachIconOnce) {
   EXPECT_EQ(ask(IconSymbol::kLink, true), "\\set\\link.png \\set\\link.tga ");
   EXPECT_EQ(ask(IconSymbol::kNote, false),
             "\\set\\note.png \\set\\note.tga \\set\\note.bmp shipped ");
-  settings.InstallPath12.Set(L"");
-  EXPECT_EQ(ask(IconSymbol::kLink, true), "shipped ");
-
   settings.InstallPath12.Set(L"\\12");
   settings.InstallPath18.Set(L"\\18");
   settings.InstallPath24.Set(L"\\24");
-  const std::pair<int, const char*> folders[] = {{72, "\\12\\"},  {139, "\\12\\"}, {140, "\\18\\"},
-                                                 {187, "\\18\\"}, {188, "\\24\\"}, {288, "\\24\\"}};
-  for (const auto& [dpi, folder] : folders) {
+  for (const auto& [dpi, folder] : {std::pair(72, "\\12\\"),
+                                    {139, "\\12\\"},
+                                    {140, "\\18\\"},
+                                    {187, "\\18\\"},
+                                    {188, "\\24\\"},
+                                    {288, "\\24\\"}}) {
     asked.clear();
     cacheAt(dpi).Find(IconSymbol::kLink);
     EXPECT_EQ(asked.substr(0, 4), folder) << dpi;

@@ -30,7 +30,6 @@ class SettingTest : public testing::Test, protected TestDevice {
 TEST_F(SettingTest, ATextIsItsBytesUpToTheFirstZeroWhateverTheirType) {
   using namespace std::string_literals;
   const std::wstring text255(255, L'q');  // just within one query
-  const std::wstring text4000(4000, L'x');
   const std::pair<std::wstring, std::wstring> cases[] = {
       {L"abc", L"abc"},
       {L"", L""},
@@ -38,7 +37,6 @@ TEST_F(SettingTest, ATextIsItsBytesUpToTheFirstZeroWhateverTheirType) {
       {L"one\0two\0\0"s, L"one"},
       {text255 + L'\0', text255},
       {text255 + L'q', text255 + L'q'},
-      {text4000 + L'\0', text4000},
       {L"\xD83D\0"s, L"\xD83D"},
   };
   StringSetting text(kKey, L"Text", L"default");
@@ -76,18 +74,6 @@ TEST_F(SettingTest, ASaveWritesWhatWasSetAndDeletesWhatIsTheDefault) {
     }
     EXPECT_FALSE(Loaded(number).IsChanged());
   }
-}
-
-TEST_F(SettingTest, AloneItOpensFlushesAndClosesItsOwnKeyAndMakesItWhereItIsMissing) {
-  DwordSetting number(kKey, L"Number", 1);
-  number.LoadAlone(recorded, {});
-  EXPECT_EQ(number.Value(), 1u);
-  number.Set(5);
-  number.SaveAlone(recorded);
-  EXPECT_EQ(Stored(kKey, L"Number"), 5u);
-  for (const RegistryCall call :
-       {RegistryCall::kCreate, RegistryCall::kFlush, RegistryCall::kClose})
-    EXPECT_EQ(recorded.Count(call), 2);
 }
 
 TEST_F(SettingTest, FlagsAreRoundedUpToBytesAndFilledWhenAbsent) {
