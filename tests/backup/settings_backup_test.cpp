@@ -128,10 +128,6 @@ TEST_F(SettingsBackupTest, ThePresentSettingsAreCopiedBeforeTheImportAndComeBack
   EXPECT_EQ(Tree(), tree);
   EXPECT_EQ(catalog.Filters()[2].title, std::wstring(2000, L't'));
   EXPECT_EQ(TextOf(kCopy), original);
-  PutText(kBackup, L"\n[Software\\Velmont\\Tidewell]\n\n[\\no key]\n");
-  answer = true;
-  EXPECT_EQ(Import(), ImportResult::kReplacedInPart);
-  EXPECT_EQ(store.calendar.dNumOfDays.Value(), 14u) << "not loaded";
 }
 
 TEST_F(SettingsBackupTest, OfTheCopiesTheFiveNewestStay) {
@@ -194,6 +190,11 @@ TEST_F(SettingsBackupTest, WhatWritesOutsideTheProductIsImportedOnlyWhenTheUserW
   answer = true;
   EXPECT_EQ(Import(), ImportResult::kDone);
   EXPECT_EQ(Stored(L"Control Panel", L"x"), 1u);
+  PutText(kBackup,
+          L"\n[Software\\Velmont\\Tidewell\\Calendar]\n\"dNumOfDays\"=dword:3\n\n[\\no key]\n");
+  EXPECT_EQ(Import(), ImportResult::kReplacedInPart);
+  EXPECT_EQ(Stored(SettingKey::kCalendar, L"dNumOfDays"), 3u);
+  EXPECT_EQ(store.calendar.dNumOfDays.Value(), 7u) << "not loaded";
 }
 
 TEST_F(SettingsBackupTest, TheCategoriesOfTheRecordsWinOverTheirImportedValues) {
