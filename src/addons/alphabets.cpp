@@ -22,12 +22,7 @@ std::wstring KeyPath() {
   return JoinPath(LocationOf(SettingKey::kContacts).path, L"Alphabets");
 }
 
-struct NameLess {
-  bool operator()(const std::wstring& left, const std::wstring& right) const {
-    return CompareFolded(left, right) < 0;
-  }
-};
-using Names = std::set<std::wstring, NameLess>;
+using Names = std::set<std::wstring, FoldedLess>;
 
 Names SetOf(const std::vector<std::wstring>& names) {
   return {names.begin(), names.end()};
@@ -52,25 +47,27 @@ std::vector<std::wstring> Alphabets::FileNames(const wchar_t* pattern) const {
   return names;
 }
 
-// A longer name ends the list, as for the Today item.
-std::vector<std::wstring> Alphabets::ActiveNames() const {
-  std::vector<std::wstring> names;
+Alphabets::ActiveNames Alphabets::ReadKey() const {
+  ActiveNames active;
   const auto key = machine_.registry.Open(RegistryRoot::kCurrentUser, KeyPath());
-  if (!key) return names;
+  active.isNew = !key;
+  if (active.isNew) return active;
   EnumeratedValue value;
-  for (std::uint32_t index = 0;
-       EnumWholeValue(*key, index, value) == kStatusSuccess && value.name.size() < kNameCapacity;
+  RegistryStatus status = kStatusSuccess;
+  for (std::uint32_t index = 0; (status = EnumWholeValue(*key, index, value)) == kStatusSuccess;
        ++index) {
-    names.push_back(value.name);
+    active.names.push_back(value.name);
   }
-  return names;
+  active.isWhole = status == kStatusNoMoreItems;
+  return active;
 }
 
-std::vector<Alphabet> Alphabets::Offered(std::uint32_t bits) const {
+std::vector<Alphabet> Alphabets::Offered(std::uint32_t bits) {
   std::vector<Alphabet> offered;
   offered.reserve(kBuiltIn.size());
   for (const auto& [name, bit] : kBuiltIn) offered.push_back({name, bit, (bits & bit) != 0});
-  const Names active = SetOf(ActiveNames());
+  known_ = ReadKey();
+  const Names active = SetOf(known_.names);
   for (const std::wstring& file : FileNames(L"*.*")) {
     if (!IsAlphabetFile(file)) continue;
     const std::wstring name = file.substr(0, file.size() - kEnding);
@@ -87,17 +84,25 @@ std::uint32_t Alphabets::Activate(const std::vector<Alphabet>& alphabets) const 
     bits |= alphabet.bit;
     if (alphabet.bit == kCustomAlphabets) values.push_back(NumberValue(alphabet.name, 1));
   }
-  if (values.empty()) {
-    machine_.registry.DeleteTree(RegistryRoot::kCurrentUser, KeyPath());
-    return bits;
-  }
-  const auto key = machine_.registry.Create(RegistryRoot::kCurrentUser, KeyPath());
-  if (key && StoreExactly(machine_.registry, KeyPath(), *key, values, Others::kGo)) key->Flush();
+  if (known_.isWhole) SaveKey(values);
   return bits;
 }
 
+void Alphabets::SaveKey(const std::vector<KeyValue>& values) const {
+  if (values.empty()) {
+    if (!known_.isNew) machine_.registry.DeleteTree(RegistryRoot::kCurrentUser, KeyPath());
+    return;
+  }
+  const auto key = machine_.registry.Create(RegistryRoot::kCurrentUser, KeyPath());
+  if (!key || (known_.isNew && HoldsAnything(*key))) return;
+  if (StoreExactly(machine_.registry, KeyPath(), *key, values, Others::kGo)) key->Flush();
+}
+
 std::vector<std::wstring> Alphabets::ActiveCustom() const {
-  std::vector<std::wstring> names = ActiveNames();
+  std::vector<std::wstring> names = ReadKey().names;
+  // A longer name ends the list, as for the Today item.
+  const auto isTooLong = [](const std::wstring& name) { return name.size() >= kNameCapacity; };
+  names.erase(std::ranges::find_if(names, isTooLong), names.end());
   if (names.empty()) return names;
   const Names files = SetOf(FileNames(L"*.txt"));
   std::erase_if(names, [&](const std::wstring& name) { return !files.contains(name + L".txt"); });

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/machine.h"
+#include "settings/exact_key.h"
 
 namespace tidewell {
 
@@ -36,19 +37,28 @@ class Alphabets {
   Alphabets(const Machine& machine, const std::wstring& installFolder);
 
   // The built-in ones by `bits`, then those of the files, which are active by their key.
-  std::vector<Alphabet> Offered(std::uint32_t bits) const;
-  // Keeps which custom ones are active; returns the bits. Failures are silent.
+  std::vector<Alphabet> Offered(std::uint32_t bits);
+  // Keeps which of those that were offered are active; returns the bits. A key that could not be
+  // read to its end stays as it is. Failures are silent.
   std::uint32_t Activate(const std::vector<Alphabet>& alphabets) const;
   // The active custom ones whose file is there.
   std::vector<std::wstring> ActiveCustom() const;
 
  private:
-  std::vector<std::wstring> ActiveNames() const;
+  struct ActiveNames {
+    std::vector<std::wstring> names;
+    bool isNew = false;  // there was no key, or it was refused
+    bool isWhole = true;
+  };
+
+  ActiveNames ReadKey() const;
+  void SaveKey(const std::vector<KeyValue>& values) const;
   // Those of the files that fit a pattern.
   std::vector<std::wstring> FileNames(const wchar_t* pattern) const;
 
   const Machine& machine_;
   std::wstring folder_;
+  ActiveNames known_;  // when they were last offered
 };
 
 }  // namespace tidewell

@@ -26,11 +26,6 @@ std::int32_t PlaceOf(const std::wstring& name) {
                                                       : std::numeric_limits<std::int32_t>::max();
 }
 
-bool HoldsAnything(RegistryKey& key) {
-  EnumeratedValue value;
-  return EnumWholeValue(key, 0, value) != kStatusNoMoreItems;
-}
-
 // A pattern is no name.
 bool IsThere(Files& files, const std::wstring& path) {
   return !path.empty() && path.find_first_of(L"*?") == std::wstring::npos && files.Find(path);

@@ -70,7 +70,7 @@ void SearchBar::OnEvent(PageView& view, const PageEvent& event) {
   view.SetState(listId_, ControlState::OfLine(0));
 }
 
-bool SearchBar::ChooseAlphabets() const {
+bool SearchBar::ChooseAlphabets() {
   if (!context_.dialogs) return false;
   std::vector<Alphabet> offered = alphabets_.Offered(ActiveAlphabets().Value());
   TickRequest request{context_.language.Text(IDS_SEARCH_BAR),

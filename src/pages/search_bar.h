@@ -22,7 +22,7 @@ class SearchBar {
  private:
   DwordSetting& ActiveAlphabets() const { return context_.settings.contacts.CntctsActiveLanguages; }
   // Stored as soon as it is confirmed. False when cancelled.
-  bool ChooseAlphabets() const;
+  bool ChooseAlphabets();
 
   PageContext& context_;
   Alphabets alphabets_;

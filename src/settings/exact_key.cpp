@@ -13,12 +13,6 @@ namespace {
 constexpr std::uint32_t kUsualDataBytes = 4096;
 constexpr std::uint32_t kMostDataBytes = 16u << 20;
 
-struct NameLess {
-  bool operator()(const std::wstring& left, const std::wstring& right) const {
-    return CompareFolded(left, right) < 0;
-  }
-};
-
 // What the key holds of the values: whatever a refusal hides is neither stored nor absent.
 struct Wanted {
   const KeyValue* value;
@@ -33,7 +27,7 @@ struct Comparison {
 
 Comparison Compare(RegistryKey& key, std::span<const KeyValue> values) {
   Comparison found;
-  std::map<std::wstring, std::size_t, NameLess> places;
+  std::map<std::wstring, std::size_t, FoldedLess> places;
   for (const KeyValue& value : values) {
     places.emplace(value.name, found.wanted.size());
     found.wanted.push_back({&value});
@@ -89,6 +83,11 @@ RegistryStatus EnumWholeValue(RegistryKey& key, std::uint32_t index, EnumeratedV
     status = key.EnumValue(index, room / 16, room, value);
   }
   return status;
+}
+
+bool HoldsAnything(RegistryKey& key) {
+  EnumeratedValue value;
+  return EnumWholeValue(key, 0, value) != kStatusNoMoreItems;
 }
 
 bool StoreExactly(Registry& registry, const std::wstring& path, RegistryKey& key,

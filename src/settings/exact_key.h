@@ -6,9 +6,11 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/registry.h"
+#include "platform/text.h"
 
 namespace tidewell {
 
@@ -22,6 +24,13 @@ struct KeyValue {
 KeyValue NumberValue(std::wstring name, std::uint32_t number);
 KeyValue TextValue(std::wstring name, const std::wstring& text);
 
+// For sets and maps of names, which differ in more than letter case.
+struct FoldedLess {
+  bool operator()(std::wstring_view left, std::wstring_view right) const {
+    return CompareFolded(left, right) < 0;
+  }
+};
+
 // What becomes of other values in the key, and of its subkeys.
 enum class Others : std::uint8_t { kStay, kGo };
 
@@ -32,6 +41,9 @@ bool StoreExactly(Registry& registry, const std::wstring& path, RegistryKey& key
 
 // The value at `index` with all of its data and a name of any length.
 RegistryStatus EnumWholeValue(RegistryKey& key, std::uint32_t index, EnumeratedValue& value);
+
+// Whether there is a value, or may be one.
+bool HoldsAnything(RegistryKey& key);
 
 // The capacity of names that are enumerated, with the terminating zero.
 inline constexpr std::uint32_t kNameCapacity = 256;

@@ -1,8 +1,6 @@
 #include "settings/hosted_plugins.h"
 
-#include <algorithm>
 #include <array>
-#include <functional>
 #include <optional>
 #include <utility>
 
@@ -61,13 +59,6 @@ std::array<KeyValue, 6> ValuesOf(const TabEntry& entry) {
           Unless(entry.enabled == 0, NumberValue(L"Enabled", entry.enabled))};
 }
 
-template <typename Same>
-bool Lists(const TabList& tabs, const std::wstring& name, Same isSame) {
-  return std::ranges::any_of(tabs, [&](const TabEntry& entry) {
-    return entry.type == TabType::kHosted && isSame(entry.caption, name);
-  });
-}
-
 }  // namespace
 
 bool HostedPlugins::Read(Registry& registry, RegistryKey* tabSettingsKey, TabList& tabs) {
@@ -85,12 +76,17 @@ bool HostedPlugins::Read(Registry& registry, RegistryKey* tabSettingsKey, TabLis
     isWhole = isWhole && entry;
     if (!entry) continue;
     InsertByOrder(tabs, *std::move(entry));
-    names_.push_back(name);
+    names_.insert(name);
   }
   return isWhole && status == kStatusNoMoreItems;
 }
 
 void HostedPlugins::Save(Registry& registry, const TabList& tabs) {
+  std::set<std::wstring> hosted;
+  for (const TabEntry& entry : tabs) {
+    if (entry.type == TabType::kHosted) hosted.insert(entry.caption);
+  }
+  const std::set<std::wstring, FoldedLess> inAnyCase(hosted.begin(), hosted.end());
   const auto deleteThose = [&](const auto& isSurplus) {
     std::erase_if(names_, [&](const std::wstring& name) {
       return isSurplus(name) &&
@@ -98,23 +94,22 @@ void HostedPlugins::Save(Registry& registry, const TabList& tabs) {
     });
   };
   // A plug-in that was removed and came back in other letters takes its old subkey's place.
-  deleteThose([&](const std::wstring& name) {
-    return Lists(tabs, name, EqualIgnoringCase) && !Lists(tabs, name, std::equal_to<>());
-  });
+  deleteThose(
+      [&](const std::wstring& name) { return inAnyCase.contains(name) && !hosted.contains(name); });
   for (const TabEntry& entry : tabs) {
     if (entry.type == TabType::kHosted) SaveEntry(registry, entry);
   }
-  deleteThose([&](const std::wstring& name) { return !Lists(tabs, name, EqualIgnoringCase); });
+  deleteThose([&](const std::wstring& name) { return !inAnyCase.contains(name); });
 }
 
 void HostedPlugins::SaveEntry(Registry& registry, const TabEntry& entry) {
   const std::wstring path = PathOf(entry.caption);
-  const bool isOurs = std::ranges::find(names_, entry.caption) != names_.end();
+  const bool isOurs = names_.contains(entry.caption);
   auto key = isOurs ? nullptr : registry.Open(RegistryRoot::kCurrentUser, path);
   const bool isNew = !isOurs && !key;
   if (!key) key = registry.Create(RegistryRoot::kCurrentUser, path);
   if (!key) return;
-  if (isNew && !IsBuiltInSubkey(entry.caption)) names_.push_back(entry.caption);
+  if (isNew && !IsBuiltInSubkey(entry.caption)) names_.insert(entry.caption);
 
   const bool isWritten =
       StoreExactly(registry, path, *key, ValuesOf(entry), isOurs ? Others::kGo : Others::kStay);

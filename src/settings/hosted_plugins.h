@@ -1,8 +1,8 @@
 // The hosted Today plug-ins: one subkey of TabSettings each, named after the plug-in.
 #pragma once
 
+#include <set>
 #include <string>
-#include <vector>
 
 #include "platform/registry.h"
 #include "settings/tab_list.h"
@@ -29,7 +29,7 @@ class HostedPlugins {
  private:
   void SaveEntry(Registry& registry, const TabEntry& entry);
 
-  std::vector<std::wstring> names_;
+  std::set<std::wstring> names_;
 };
 
 }  // namespace tidewell

@@ -16,9 +16,10 @@ const TabEntry* FindEntry(const TabList& tabs, Predicate fits) {
 }  // namespace
 
 void InsertByOrder(TabList& tabs, TabEntry entry) {
-  const auto behind = std::find_if(
-      tabs.begin(), tabs.end(), [&](const TabEntry& other) { return other.order > entry.order; });
-  tabs.insert(behind, std::move(entry));
+  const auto before = std::find_if(tabs.rbegin(), tabs.rend(), [&](const TabEntry& other) {
+    return other.order <= entry.order;
+  });
+  tabs.insert(before.base(), std::move(entry));
 }
 
 void SortByOrder(TabList& tabs) {

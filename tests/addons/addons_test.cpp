@@ -40,21 +40,41 @@ class AlphabetsTest : public testing::Test, protected TestDevice {
 TEST_F(AlphabetsTest, KeepTheCustomOnesInTheirKeyAndOfferThoseThatAreThere) {
   PutBytes(kAlphabets, L"runes", {});  // whatever its type
   Put(kAlphabets, L"Gone", 1);
+  Put(kAlphabets, std::wstring(300, L'n'), 1);
+  Put(kAlphabets, L"Latin", 1);
   std::vector<Alphabet> offered = alphabets.Offered(kCyrillic | kGreek | kCustomAlphabets);
   const std::vector<Alphabet> expected = {
-      {L"Latin", kLatin, false},           {L"Cyrillic", kCyrillic, true},
-      {L"Hebrew", kHebrew, false},         {L"Greek", kGreek, true},
-      {L"Latin", kCustomAlphabets, false}, {L"Runes", kCustomAlphabets, true}};
+      {L"Latin", kLatin, false},          {L"Cyrillic", kCyrillic, true},
+      {L"Hebrew", kHebrew, false},        {L"Greek", kGreek, true},
+      {L"Latin", kCustomAlphabets, true}, {L"Runes", kCustomAlphabets, true}};
   EXPECT_EQ(offered, expected);
   EXPECT_EQ(alphabets.ActiveCustom(), std::vector<std::wstring>{L"runes"});
 
-  offered[0].active = offered[4].active = true;
+  offered[0].active = true;
   EXPECT_EQ(alphabets.Activate(offered), kLatin | kCyrillic | kGreek | kCustomAlphabets);
   EXPECT_EQ(Dump(kAlphabets),
             "[Software\\Velmont\\Tidewell\\Contacts\\Alphabets]\nLatin = 1\nrunes = 1\n");
   offered[4].active = offered[5].active = false;
   EXPECT_EQ(alphabets.Activate(offered), kLatin | kCyrillic | kGreek);
   EXPECT_EQ(Dump(kAlphabets), "");
+}
+
+// An unread one would seem to be off.
+TEST_F(AlphabetsTest, LeaveAKeyAloneThatWasReadInPart) {
+  Put(kAlphabets, L"Latin", 1);
+  Put(kAlphabets, L"Runes", 1);
+  const std::string before = Dump(kAlphabets);
+  for (int call = 1; call <= 4; ++call) {
+    recorded.Calls().Reset();
+    recorded.Calls().FailNth(call);
+    std::vector<Alphabet> offered = alphabets.Offered(0);
+    recorded.Calls().Reset();
+    for (const bool isOn : {false, true}) {
+      offered[4].active = isOn;
+      alphabets.Activate(offered);
+      EXPECT_EQ(Dump(kAlphabets), before) << call;
+    }
+  }
 }
 
 // ---- Language packs
