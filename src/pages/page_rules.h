@@ -70,7 +70,7 @@ enum class PageEventKind : std::uint8_t {
   kSelected,    // a line of a list
   kDeselected,  // a line of a list; an option is stored by then
   kTicked,      // a line's tick came or went
-  kActivated,   // a line was tapped twice, or Enter pressed on it
+  kActivated,   // a line was tapped twice, or Enter pressed on one without a box
 };
 
 struct PageEvent {

@@ -1,4 +1,5 @@
 // The bodies of tabs that are no rows, and the base of all pages.
+#include "pages/notes_page.h"
 #include "pages/tabs_page.h"
 #include "pages/windows/settings_page.h"
 #include "preview/windows/gdi_canvas.h"
@@ -46,6 +47,34 @@ TEST_F(PageHost, ArrowsAndKeysBringEveryTabIntoViewAndATapSelectsIt) {
   SetFocus(Tabs());
   Press(VK_LEFT);
   EXPECT_TRUE(isInView(7)) << "a key shows what it selects";
+}
+
+TEST_F(PageHost, TheActionKeyTurnsBoxesAndTheFocusLeavesAButtonThatIsGreyed) {
+  using namespace tabs_ids;
+  store.tabs.push_back({TabType::kHosted, 7, 1, L"Clock", L"", L"", L""});
+  Open(PageIndex::kTabs);
+  Turn(1);
+  SetFocus(Control(kTabList));
+  Press(VK_END);
+  SetFocus(Control(kRemove));
+  Press(VK_RETURN);
+  EXPECT_EQ(FocusedId(), kTabList);
+  Press(VK_RETURN);
+  Close();
+  EXPECT_EQ(store.tabs.size(), 6u);
+  EXPECT_EQ(FindByType(store.tabs, TabType::kTasks)->enabled, 0u);
+}
+
+// A list that goes does not take them along.
+TEST_F(PageHost, PicturesOfLinesGoWithTheirPage) {
+  Open(PageIndex::kNotes);
+  const HIMAGELIST images = ListView_GetImageList(Control(notes_ids::kFolderList), LVSIL_SMALL);
+  SetActiveWindow(host_.Get());
+  DestroyWindow(page_->Window());
+  int width = 0;
+  int height = 0;
+  EXPECT_TRUE(ImageList_GetIconSize(images, &width, &height));
+  page_.reset();
 }
 
 class IconTab : public PageHost {

@@ -151,8 +151,8 @@ HWND SettingsPage::AddCombo(int id, bool editable, const Rect& place) {
   return combo;
 }
 
-HWND SettingsPage::AddListView(int id, const Rect& place) {
-  const HWND list = MakeControl(WC_LISTVIEWW, kListStyle, id, {}, place);
+HWND SettingsPage::AddListView(int id, const Rect& place, DWORD style) {
+  const HWND list = MakeControl(WC_LISTVIEWW, kListStyle | style, id, {}, place);
   ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_NOHSCROLL);
   navigation_.Add(list, ControlKind::kRows);
   return list;
@@ -282,10 +282,13 @@ void SettingsPage::MoveListItem(HWND window, int listId, bool up) {
   SetFocus(list);
 }
 
-void SettingsPage::Enable(std::span<const Enabling> rule) const {
+void SettingsPage::Enable(std::span<const Enabling> rule) {
+  const HWND focused = focused_;
   for (const Enabling& each : rule) {
     if (const HWND control = Control(each.id)) EnableWindow(control, each.enabled);
   }
+  // The system gives the focus to nothing then, and keys would be lost.
+  if (focused && !IsWindowEnabled(focused)) navigation_.FocusFirst();
 }
 
 void SettingsPage::SetTextOfControl(int id, const std::wstring& text) const {

@@ -17,6 +17,13 @@ Rect PlaceIn(const std::vector<ControlPlace>& places, int id) {
   return std::ranges::find(places, id, &ControlPlace::id)->rect;
 }
 
+// A list that goes takes its images along, unless they are told to be another's; those of its boxes
+// are its own.
+DWORD StyleOf(ListLook look) {
+  const bool hasPictures = look == ListLook::kIcons || look == ListLook::kCategories;
+  return LVS_SHOWSELALWAYS | (hasPictures ? LVS_SHAREIMAGELISTS : 0);
+}
+
 }  // namespace
 
 ItemListBody::ItemListBody(SettingsPage& page, Raise raise, const PaintedRoom& room,
@@ -57,8 +64,7 @@ std::vector<ItemButton> ItemListBody::Buttons() const {
 
 // It gets its column with its lines.
 void ItemListBody::BuildList(const Rect& place) {
-  const HWND list = Page().AddListView(list_.listId, place);
-  SetWindowLongPtrW(list, GWL_STYLE, GetWindowLongPtrW(list, GWL_STYLE) | LVS_SHOWSELALWAYS);
+  const HWND list = Page().AddListView(list_.listId, place, StyleOf(list_.look));
   if (list_.look == ListLook::kTicked) {
     ListView_SetExtendedListViewStyleEx(list, LVS_EX_CHECKBOXES, LVS_EX_CHECKBOXES);
   } else if (list_.look == ListLook::kIcons) {

@@ -8,6 +8,7 @@
 #include "pages/windows/list_lines.h"
 #include "preview/windows/gdi_canvas.h"
 #include "ui/windows/look.h"
+#include "win32/common_controls.h"
 
 namespace tidewell {
 
@@ -65,17 +66,17 @@ void RulesPage::OnPainted(HWND) {
 void RulesPage::BuildTab(int tab) {
   BuiltTab& place = bodies_[static_cast<std::size_t>(tab)];
   if (std::exchange(place.built, true)) return;
-  const bool wasSilent = std::exchange(silent_, true);
-  place.body->Build();
-  rules_->OnBuilt(*this, tab);
-  silent_ = wasSilent;
+  Silently([&] {
+    place.body->Build();
+    rules_->OnBuilt(*this, tab);
+  });
 }
 
 void RulesPage::ShowTab(HWND, int showCommand) {
   BuildTab(SelectedTab());
   SelectedBody().Show(showCommand);
   Repaint();
-  if (showCommand != SW_HIDE) rules_->OnShown(*this, SelectedTab());
+  if (showCommand != SW_HIDE) Silently([this] { rules_->OnShown(*this, SelectedTab()); });
 }
 
 void RulesPage::OnDestroy(HWND) {
@@ -98,9 +99,7 @@ void RulesPage::OnLayout(HWND window) {
 
 void RulesPage::Tell(const PageEvent& event) {
   if (silent_) return;
-  silent_ = true;
-  rules_->OnEvent(*this, event);
-  silent_ = false;
+  Silently([&] { rules_->OnEvent(*this, event); });
   Enable(rules_->Enabled(*this));
 }
 
@@ -133,8 +132,10 @@ LRESULT RulesPage::OnNotify(HWND, NMHDR* header) {
     case static_cast<UINT>(LVN_ITEMCHANGED):
       if (!silent_) OnItemChanged(*reinterpret_cast<NMLISTVIEW*>(header));
       break;
-    case static_cast<UINT>(NM_DBLCLK):
     case static_cast<UINT>(NM_RETURN):
+      if (TurnTick(header->hwndFrom)) break;
+      [[fallthrough]];
+    case static_cast<UINT>(NM_DBLCLK):
       Tell({id, PageEventKind::kActivated, SelectedLine(id)});
       break;
     case static_cast<UINT>(NM_CUSTOMDRAW):

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "pages/page_rules.h"
@@ -54,6 +55,13 @@ class RulesPage final : public SettingsPage, private PageView {
   TabBody& Body(int tab) const { return *bodies_[static_cast<std::size_t>(tab)].body; }
   TabBody& SelectedBody() const { return Body(SelectedTab()); }
   void BuildTab(int tab);
+  // Does what the rules are not to be told of.
+  template <typename Act>
+  void Silently(Act act) {
+    const bool wasSilent = std::exchange(silent_, true);
+    act();
+    silent_ = wasSilent;
+  }
   // Tells the rules, and asks them what can be used now.
   void Tell(const PageEvent& event);
   void OnItemChanged(const NMLISTVIEW& change);

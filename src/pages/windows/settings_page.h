@@ -55,7 +55,7 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   void AddButton(int id, int textId, const Rect& place);
   HWND AddCheck(int id, const std::wstring& text, bool wraps, const Rect& place);
   HWND AddCombo(int id, bool editable, const Rect& place);
-  HWND AddListView(int id, const Rect& place);
+  HWND AddListView(int id, const Rect& place, DWORD style = 0);
   RowPlace AddCheckBox(int id, int textId, bool checked, int y);
   RowPlace AddComboRow(int labelId, int comboId, int textId, const Choices& items, int selection,
                        int y, bool editable);
@@ -72,7 +72,8 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   void ShowControlRange(HWND window, int firstId, int lastId, int showCommand) const;
   // Moves the selected row one place; without one, tells the user to select it first.
   void MoveListItem(HWND window, int listId, bool up);
-  void Enable(std::span<const Enabling> rule) const;
+  // The focus leaves what cannot be used any more.
+  void Enable(std::span<const Enabling> rule);
 
   // Null where there is none, or none any more.
   HWND Control(int id) const;

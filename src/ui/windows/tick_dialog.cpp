@@ -33,7 +33,6 @@ class TickDialog final : public FullScreenDialog {
   void MakeList();
   void ShowLines();
   std::optional<LRESULT> OnListMessage(UINT message, WPARAM wParam, LPARAM lParam) const;
-  void TurnTick() const;
 
   TickRequest& request_;
   HWND label_ = nullptr;
@@ -102,10 +101,10 @@ void TickDialog::OnCommand(int id, int) {
   Close(IDOK);
 }
 
-// A device has no key for boxes: the action key turns them, and a soft key confirms.
+// The action key turns boxes, and a soft key confirms.
 std::optional<LRESULT> TickDialog::OnListMessage(UINT message, WPARAM wParam, LPARAM lParam) const {
   if (message == WM_KEYDOWN && wParam == VK_RETURN) {
-    TurnTick();
+    TurnTick(list_);
     return 0;
   }
   if (message != WM_GETDLGCODE) return std::nullopt;
@@ -114,12 +113,6 @@ std::optional<LRESULT> TickDialog::OnListMessage(UINT message, WPARAM wParam, LP
     return std::nullopt;
   }
   return DLGC_WANTALLKEYS | DLGC_WANTARROWS | DLGC_WANTCHARS;
-}
-
-void TickDialog::TurnTick() const {
-  const int row = ListView_GetNextItem(list_, -1, LVNI_FOCUSED);
-  if (row < 0) return;
-  ListView_SetCheckState(list_, row, ListView_GetCheckState(list_, row) == 0);
 }
 
 }  // namespace
