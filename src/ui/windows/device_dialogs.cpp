@@ -15,8 +15,12 @@ void DeviceDialogs::ShowMessage(const std::wstring& text, const std::wstring& ca
 }
 
 bool DeviceDialogs::Ask(const std::wstring& question, const std::wstring& caption, bool byDefault) {
+  const HWND parent = context_().parent;
   const UINT buttons = MB_YESNO | (byDefault ? MB_DEFBUTTON1 : MB_DEFBUTTON2);
-  return MessageBoxW(context_().parent, question.c_str(), caption.c_str(), buttons) == IDYES;
+  const int answer = MessageBoxW(parent, question.c_str(), caption.c_str(), buttons);
+  // What it is answered for may take its time.
+  RedrawWindow(parent, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  return answer == IDYES;
 }
 
 std::optional<std::wstring> DeviceDialogs::ChooseFolder(const std::wstring& title,

@@ -27,7 +27,7 @@ class LineDialog final : public FullScreenDialog {
  private:
   void OnCreate() override;
   void OnLayout(int width, int height) override;
-  void OnShown() override { SetFocus(lines_); }
+  void OnShown() override;
   void OnCommand(int id, int notification) override;
   LRESULT OnNotify(const NMHDR&) override { return 0; }
   void OnMeasureItem(MEASUREITEMSTRUCT&) override {}
@@ -86,6 +86,11 @@ int LineDialog::HeightOf(const std::wstring& text, int width) const {
   const Selected font(dc.Dc(), TextFont());
   RECT area{0, 0, width, 0};
   return DrawTextW(dc.Dc(), text.c_str(), -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+}
+
+void LineDialog::OnShown() {
+  SHDoneButton(Window(), SHDB_SHOW);
+  SetFocus(lines_);
 }
 
 std::optional<std::size_t> LineDialog::SelectedLine() const {
