@@ -1,8 +1,9 @@
 #include "addons/schemes.h"
 
+#include <algorithm>
 #include <array>
 
-#include "platform/whole_file.h"
+#include "platform/text.h"
 #include "settings/changed_registry.h"
 
 namespace tidewell {
@@ -38,34 +39,52 @@ FileStatus Schemes::Save(const std::wstring& name) const {
   if (machine_.files.Find(path)) return FileStatus::kInUse;
   machine_.files.MakeFolder(store_.todayItemFolder + kFolder);
   ReplacementFile file(machine_.files, path);
-  WriteTo(file, TextKind::kBackup);
-  return file.CommitAsNew();
+  return WriteTo(file, TextKind::kBackup) ? file.CommitAsNew() : FileStatus::kOther;
 }
 
-// A copy takes along also what a scheme has no room for, and is read like one.
-void Schemes::WriteTo(ReplacementFile& file, TextKind kind) const {
-  if (!file.Stream()) return;
+// A copy takes along also what a scheme has no room for, and is read like one. False when something
+// was not to be read.
+bool Schemes::WriteTo(ReplacementFile& file, TextKind kind) const {
+  if (!file.Stream()) return true;
   TextWriter text(*file.Stream());
   ChangedRegistry registry(machine_.registry, {&store_.colors, &store_.fonts});
   if (kind == TextKind::kCopy) WriteCopyMark(text);
-  for (const std::wstring& tree : Trees()) WriteKeyTree(registry, tree, text, kind);
+  bool wasRead = true;
+  for (const std::wstring& tree : Trees()) {
+    wasRead = WriteKeyTree(registry, tree, text, kind) && wasRead;
+  }
   WriteCategoriesSection(catalog_, text, kind);
   text.Flush();
+  return wasRead;
 }
 
 FileStatus Schemes::Remove(const std::wstring& file) const {
   return machine_.files.Remove(PathOf(file));
 }
 
-// Read whole before anything is changed: it may be the file that what is set now goes to.
 SchemeResult Schemes::Apply(const std::wstring& file) const {
   const WholeFile scheme = ReadWholeFile(machine_.files, PathOf(file), kLargestScheme);
   if (scheme.status != FileStatus::kOk) return SchemeResult::kUnreadable;
-  {
-    ReplacementFile before(machine_.files, PathOf(kBeforeApplying));
-    WriteTo(before, TextKind::kCopy);
-    before.Commit();
-  }
+  if (WasOneRefused()) return Import(scheme);
+  ReplacementFile before(machine_.files, PathOf(kBeforeApplying));
+  WriteTo(before, TextKind::kCopy);
+  // Whoever goes back has the state to go back to in that very file until it is set.
+  const bool goesBack = EqualIgnoringCase(file, kBeforeApplying);
+  if (!goesBack) before.Commit();
+  const SchemeResult result = Import(scheme);
+  if (goesBack) before.Commit();
+  return result;
+}
+
+// Each load of the settings makes both keys; one is missing where a scheme was refused since, and
+// what is left of them is nothing to go back to.
+bool Schemes::WasOneRefused() const {
+  return std::ranges::any_of(Trees(), [&](const std::wstring& tree) {
+    return !machine_.registry.Open(RegistryRoot::kCurrentUser, tree);
+  });
+}
+
+SchemeResult Schemes::Import(const WholeFile& scheme) const {
   for (const std::wstring& tree : Trees()) {
     machine_.registry.DeleteTree(RegistryRoot::kCurrentUser, tree);
   }

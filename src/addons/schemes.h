@@ -10,6 +10,7 @@
 #include "categories/category_catalog.h"
 #include "platform/machine.h"
 #include "platform/replacement_file.h"
+#include "platform/whole_file.h"
 #include "settings/settings_store.h"
 
 namespace tidewell {
@@ -35,16 +36,19 @@ class Schemes {
   // The files' names, in the file system's order.
   std::vector<std::wstring> Names() const;
   // What is set now, saved or not, under a name without extension. kInUse when there is such a
-  // scheme, which stays; leaves the whole new one or none.
+  // scheme, which stays; leaves the whole new one or none. kOther also when a key cannot be read.
   FileStatus Save(const std::wstring& name) const;
   FileStatus Remove(const std::wstring& file) const;
-  // Replaces colours and fonts wholly; before that, what is set now goes to kBeforeApplying, if it
-  // can be written.
+  // Replaces colours and fonts wholly. What is set now goes to kBeforeApplying, if it can be
+  // written: before that, or afterwards where that is what is applied. After a refusal, what was
+  // set before it stays there.
   SchemeResult Apply(const std::wstring& file) const;
 
  private:
   std::wstring PathOf(const std::wstring& file) const;
-  void WriteTo(ReplacementFile& file, TextKind kind) const;
+  bool WriteTo(ReplacementFile& file, TextKind kind) const;
+  bool WasOneRefused() const;
+  SchemeResult Import(const WholeFile& scheme) const;
 
   Machine machine_;
   SettingsStore& store_;

@@ -27,10 +27,17 @@ class SchemesTest : public testing::Test, protected TestDevice {
     files.Put(kFolder + L"a.scm", bytes);
     return schemes.Apply(L"a.scm");
   }
-  // What was there before the last application is there again.
+  // What was there before the last application is there again, and in its file until then.
   void ExpectToGoBack(const std::string& trees, std::size_t at) {
+    const auto kept = files.Contents(kFolder + kBeforeApplying);
+    recorded.Calls().Watch([&](RegistryCall call) {
+      if (call == RegistryCall::kSet) {
+        EXPECT_EQ(files.Contents(kFolder + kBeforeApplying), kept);
+      }
+    });
     ASSERT_EQ(schemes.Apply(kBeforeApplying), SchemeResult::kApplied) << at;
     EXPECT_EQ(Trees(), trees) << at;
+    recorded.Calls().Reset();
   }
 
   const std::wstring scheme_ =
@@ -53,6 +60,9 @@ TEST_F(SchemesTest, HoldWhatIsSetNowSavedOrNotAndNothingElse) {
                  L"Fonts]\n\"FontMsgsReadlfColor\"=dword:1\n\n[::Categories::]\n" +
                  L"\"Category\"=\"Work\"\n\"FiltersFlag\"=dword:0\n\"Color\"=dword:-1\n"));
   EXPECT_EQ(Trees(), trees) << "what is not saved stays out of the registry";
+  recorded.Calls().FailEvery(RegistryCall::kCreate);
+  EXPECT_EQ(schemes.Save(L"Unread"), FileStatus::kOther);
+  EXPECT_EQ(schemes.Names(), std::vector<std::wstring>{L"Mine.scm"});
 }
 
 TEST_F(SchemesTest, ApplyAsFarAsTheyCanBeReadAndTheWayBackIsWhole) {
@@ -63,6 +73,7 @@ TEST_F(SchemesTest, ApplyAsFarAsTheyCanBeReadAndTheWayBackIsWhole) {
   for (std::size_t end = 0; end < scheme_.size(); end = scheme_.find(L'\n', end) + 1) {
     const SchemeResult result = Apply(BytesOf(scheme_.substr(0, end)));
     EXPECT_EQ(result, end == 0 ? SchemeResult::kRefused : SchemeResult::kApplied) << end;
+    if (end == 0) schemes.Apply(L"a.scm");  // again, and nothing more is lost
     const auto isKept = [&](const wchar_t* line) { return scheme_.find(line) < end; };
     EXPECT_EQ(Stored(kColors, L"HighlightBgClr").has_value(), isKept(L"\"HighlightBgClr"));
     EXPECT_EQ(Stored(kFonts, L"FontGnrlSize").has_value(), isKept(L"\"FontGnrlSize"));
