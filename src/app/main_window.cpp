@@ -151,11 +151,14 @@ LRESULT MainWindow::OnCreate() {
   return 0;
 }
 
-// By the system, say. Nothing is saved. Below a question or a dialog the window stays: whoever
-// asked comes back to it.
+// A question or a dialog is open: whoever asked comes back to the window and to its page.
+bool MainWindow::IsAsking() const {
+  return !IsWindowEnabled(window_) || (page_ && !IsWindowEnabled(page_->Window()));
+}
+
+// By the system, say. Nothing is saved.
 LRESULT MainWindow::OnClose() {
-  const bool isAsking = !IsWindowEnabled(window_) || (page_ && !IsWindowEnabled(page_->Window()));
-  if (!isAsking) DestroyWindow(window_);
+  if (!IsAsking()) DestroyWindow(window_);
   return 0;
 }
 
@@ -392,7 +395,9 @@ LRESULT MainWindow::OnPointerUp(POINT point) {
   return 0;
 }
 
+// The shell may have posted it before a dialog opened.
 LRESULT MainWindow::OnCommand(int id) {
+  if (IsAsking()) return 0;
   switch (id) {
     case IDOK:
       Done();

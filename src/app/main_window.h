@@ -67,6 +67,7 @@ class MainWindow {
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
   LRESULT OnCreate();
+  bool IsAsking() const;
   LRESULT OnClose();
   LRESULT OnDestroy();
   LRESULT OnSize(int width, int height);

@@ -143,7 +143,9 @@ TEST_F(DoneTest, DoneClosesAPageFirstAndTheWindowsEndThePageToo) {
   for (const HWND disabled : {Window(), pageWindow}) {
     EnableWindow(disabled, FALSE);
     SendMessageW(Window(), WM_CLOSE, 0, 0);
+    Done();
     ASSERT_TRUE(IsOpen()) << "a dialog is open";
+    EXPECT_EQ(pagesDestroyed, 1);
     EnableWindow(disabled, TRUE);
   }
   program->Settings().root.OnClick.Set(1);

@@ -36,6 +36,7 @@ TEST_F(PageWindow, IsAPopupWithAnOkButtonAndLeavesNoClassBehind) {
   EXPECT_EQ(host_.Count(WM_USER + 1), 2) << "and so does whoever closes it from outside";
   EnableWindow(window, FALSE);
   SendMessageW(window, WM_CLOSE, 0, 0);
+  SendMessageW(window, WM_COMMAND, IDOK, 0);
   EXPECT_EQ(host_.Count(WM_USER + 1), 2) << "but not below a dialog";
   Close();
   EXPECT_FALSE(GetClassInfoW(GetModuleHandleW(nullptr), L"MessagesSettingsWin", &found));

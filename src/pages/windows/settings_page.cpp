@@ -93,7 +93,7 @@ LRESULT SettingsPage::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       SHHandleWMSettingChange(window_, wParam, lParam, &activation_);
       return 0;
     case WM_CLOSE:
-      return IsWindowEnabled(window_) ? AskToClose() : 0;  // not below a dialog of its own
+      return AskToClose();
     case WM_SETFOCUS:
       navigation_.FocusFirst(lastFocused_);
       return 0;
@@ -140,8 +140,10 @@ LRESULT SettingsPage::Build() {
   return 0;
 }
 
-// The host deletes the page before this returns.
+// Not below a dialog of its own, whose rules come back to it. The host deletes the page before this
+// returns.
 LRESULT SettingsPage::AskToClose() const {
+  if (!IsWindowEnabled(window_)) return 0;
   return SendMessageW(GetParent(window_), kClosePageMessage, 0, 0);
 }
 
