@@ -182,13 +182,13 @@ void FontsRules::ShowFaces(PageView& view) const {
   const std::wstring& stored = Settings().FontFaceToUse.Value();
   const std::vector<std::wstring> faces = Faces(context_.machine, stored);
   Choices choices;
-  int chosen = 0;
+  int chosen = kNoChoice;
   for (const std::wstring& face : faces) {
     if (EqualIgnoringCase(face, stored)) chosen = static_cast<int>(choices.size());
     choices.emplace_back(face);
   }
   view.SetChoices(kFace, choices);
-  ControlState state = ControlState::OfText(faces[static_cast<std::size_t>(chosen)]);
+  ControlState state = ControlState::OfText(stored);
   state.selection = chosen;
   view.SetState(kFace, state);
 }
@@ -241,10 +241,10 @@ void FontsRules::StoreGeneral(const PageView& view, int id) const {
   }
 }
 
-// A list that was not made has no text.
+// A list that was not made, or where none is chosen, has no text.
 void FontsRules::StoreFace(const ControlState& state) const {
-  const bool isNew = !state.text.empty() && state.text != Settings().FontFaceToUse.Value();
-  if (isNew) Settings().FontFaceToUse.Set(state.text);
+  StringSetting& face = Settings().FontFaceToUse;
+  if (!state.text.empty() && !EqualIgnoringCase(state.text, face.Value())) face.Set(state.text);
 }
 
 std::vector<Enabling> FontsRules::Enabled(const PageView& view) const {

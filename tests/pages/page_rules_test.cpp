@@ -328,6 +328,11 @@ TEST_F(Rules, StoreAFontAtOnceAndAColorEvenWhenTheRestIsCancelled) {
   EXPECT_NE(page.looks[1].paper, kNoColor) << "white can be read all the same";
   page.Close();
   EXPECT_EQ(store.fonts.FontFaceToUse.Value(), L"Gone");
+  for (const wchar_t* face : {L"", L"tahoma"}) {
+    store.fonts.FontFaceToUse.Set(face);
+    FakeView(MakeFontsPage(context)).Close();
+    EXPECT_EQ(store.fonts.FontFaceToUse.Value(), face);
+  }
 }
 
 }  // namespace

@@ -128,6 +128,8 @@ TEST_F(Dialogs, PassedFieldsKeepTheDefaultAndANumberBeingTypedIsConfirmedWithThe
   };
   EXPECT_EQ(Pick(kNoColor, true,
                  {{Key(VK_DOWN), L""},
+                  {Type(L"7"), L""},
+                  {Command(1021), L"0 255 255 255 FFFFFF @130"},
                   {Command(1023), L""},
                   {Command(1024), L""},
                   {expectMenu(6, 1024), L""},

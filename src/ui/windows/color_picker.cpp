@@ -213,7 +213,7 @@ void ColorPicker::OnCommand(int id, int notification) {
       break;
     case kDefault:
       model_.ChooseDefault();
-      Repaint(layout_.band);
+      ShowColor();  // what is being typed must not make a colour of it
       break;
     case kTellRange:
       TellRange();
