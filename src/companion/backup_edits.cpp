@@ -125,10 +125,13 @@ std::optional<std::int32_t> NumberOf(const BackupSettings& settings, const Named
 
 std::wstring AllowedInWords(const NamedSetting& named, const MeaningDevice& device) {
   if (IsColor(*named.meaning, *named.setting)) return L"a color as #RRGGBB";
+  if (HasLimits(*named.setting)) {
+    const ValueRange range = RangeOf(*named.setting);
+    return L"a number from " + FormatDecimal(range.first) + L" to " + FormatDecimal(range.last);
+  }
   const std::wstring choices =
       ChoicesInWords(*named.meaning, *named.setting, device, kMostChoicesTold);
-  if (choices.empty()) return L"a whole number";
-  return (HasLimits(*named.setting) ? L"a number from " : L"one of ") + choices;
+  return choices.empty() ? L"a whole number" : L"one of " + choices;
 }
 
 std::string SetOne(BackupDocument& document, const BackupSettings& settings,

@@ -53,12 +53,6 @@ class RangeFinder final : public SettingVisitor {
   ValueRange range;
 };
 
-ValueRange RangeOf(Setting& setting) {
-  RangeFinder finder;
-  setting.Accept(finder);
-  return finder.range;
-}
-
 std::wstring Hex(std::uint32_t number, int digits) {
   std::wstring text;
   for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4) {
@@ -249,6 +243,12 @@ std::wstring NumberInWords(const Meaning& meaning, std::uint32_t number,
   const ValueRange range = RangeOf(*meaning.settings.front());
   if (range.checked != ValueRange::Checked::kNever && range.Has(number)) return plain;
   return plain + L" (" + device.Said(Word::kNoSuchChoice) + L")";
+}
+
+ValueRange RangeOf(Setting& setting) {
+  RangeFinder finder;
+  setting.Accept(finder);
+  return finder.range;
 }
 
 bool HasLimits(Setting& setting) {

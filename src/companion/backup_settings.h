@@ -67,7 +67,8 @@ std::optional<std::int32_t> NumberOfWords(const Meaning& meaning, Setting& setti
 std::wstring ChoicesInWords(const Meaning& meaning, Setting& setting, const MeaningDevice& device,
                             std::size_t most = static_cast<std::size_t>(-1));
 bool IsColor(const Meaning& meaning, const Setting& setting);
-// Whether a number is to be between two others.
+// What a number is to be between, where HasLimits.
+ValueRange RangeOf(Setting& setting);
 bool HasLimits(Setting& setting);
 std::wstring ValueInWords(const BackupDocument& document, const StoredValue& value);
 // Its type and its data as well, for two that are called alike: "hex:4:01000000".
