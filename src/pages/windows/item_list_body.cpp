@@ -91,8 +91,7 @@ void ItemListBody::LayOut() {
 }
 
 void ItemListBody::Fit() const {
-  FitColumn(Page().Control(list_.listId), list_.columnTitle,
-            categories_ ? looks_.SwatchRoom() : 0);
+  FitColumn(Page().Control(list_.listId), list_.columnTitle, categories_ ? looks_.SwatchRoom() : 0);
 }
 
 // Of all but the rows.
