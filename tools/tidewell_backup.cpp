@@ -126,6 +126,7 @@ bool AreGroups(const MeaningDevice& device, const std::vector<std::wstring>& gro
   const std::optional<std::wstring> unknown = FindUnknownGroup(device, groups);
   if (!unknown) return true;
   std::vector<std::wstring> titles;
+  titles.reserve(kPageCount + 1);
   for (int page = 0; page < kPageCount; ++page) titles.push_back(device.PageTitle(page));
   titles.emplace_back(device.Said(Word::kFilters));
   const std::wstring nearest = NearestOf(titles, *unknown);
@@ -216,7 +217,7 @@ std::string PlaceFor(const Request& request) {
   }
   for (const std::string& input : {request.file, request.other}) {
     if (!IsSameFile(request.out, input)) continue;
-    Trouble(input + ": is not written over: name another file with -o" + instead);
+    Trouble(std::string(input) += ": is not written over: name another file with -o" + instead);
     return {};
   }
   return request.out;

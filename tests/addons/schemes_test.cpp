@@ -73,7 +73,9 @@ TEST_F(SchemesTest, ApplyAsFarAsTheyCanBeReadAndTheWayBackIsWhole) {
   for (std::size_t end = 0; end < scheme_.size(); end = scheme_.find(L'\n', end) + 1) {
     const SchemeResult result = Apply(BytesOf(scheme_.substr(0, end)));
     EXPECT_EQ(result, end == 0 ? SchemeResult::kRefused : SchemeResult::kApplied) << end;
-    if (end == 0) schemes.Apply(L"a.scm");  // again, and nothing more is lost
+    if (end == 0) {
+      EXPECT_EQ(schemes.Apply(L"a.scm"), result) << "again, and nothing more is lost";
+    }
     const auto isKept = [&](const wchar_t* line) { return scheme_.find(line) < end; };
     EXPECT_EQ(Stored(kColors, L"HighlightBgClr").has_value(), isKept(L"\"HighlightBgClr"));
     EXPECT_EQ(Stored(kFonts, L"FontGnrlSize").has_value(), isKept(L"\"FontGnrlSize"));
