@@ -200,7 +200,10 @@ class MeaningDevice::Collector {
   // A list of items says what stands behind each of its lines, or behind all of them, or nothing.
   void TakeItems(const ItemList& list) {
     for (const SettingLine& line : list.lines) Take(line.setting, line.TextIn(device_.language_));
-    for (const Setting* setting : list.settings) Take(setting, LabelOf(*setting));
+    for (const Setting* setting : list.settings) {
+      Meaning* meaning = Take(setting, LabelOf(*setting));
+      if (meaning && ShowsTab(*setting)) BeSwitch(*meaning);
+    }
   }
 
   void TakeRow(int textId, const Row& row) {
@@ -232,11 +235,15 @@ class MeaningDevice::Collector {
     return &meaning;
   }
 
+  void BeSwitch(Meaning& meaning) const {
+    meaning.kind = ValueKind::kSwitch;
+    meaning.choices = {{0, device_.Said(Word::kOff)}, {1, device_.Said(Word::kOn)}};
+  }
+
   void Describe(Meaning& meaning, const Row& row) const {
     switch (row.stored) {
       case Stored::kState:
-        meaning.kind = ValueKind::kSwitch;
-        meaning.choices = {{0, device_.Said(Word::kOff)}, {1, device_.Said(Word::kOn)}};
+        BeSwitch(meaning);
         break;
       case Stored::kPosition:
       case Stored::kData:
@@ -278,7 +285,13 @@ class MeaningDevice::Collector {
     Meaning meaning = Named(line);
     meaning.label = LabelOf(*line.setting);
     meaning.reason = ReasonOf(*line.setting);
+    if (ShowsTab(*line.setting)) BeSwitch(meaning);
     return meaning;
+  }
+
+  bool ShowsTab(const Setting& setting) const {
+    return std::ranges::any_of(device_.store_.tabSettings.builtInTabs,
+                               [&](const BuiltInTab& tab) { return &setting == &tab.enabled; });
   }
 
   // Of a built-in tab what it is called; else its own name has to do.
