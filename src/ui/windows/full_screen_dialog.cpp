@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "resources/text/text_ids.h"
 #include "ui/windows/look.h"
 #include "ui/windows/soft_keys.h"
 #include "win32/empty_dialog.h"
@@ -28,6 +29,10 @@ void SetKeyText(HWND menuBar, int command, std::wstring& text) {
 }
 
 }  // namespace
+
+FullScreenDialog::SoftKeys FullScreenDialog::OkAndCancel(const Language& language) {
+  return {language.Text(IDS_OK, L"OK"), language.Text(IDS_CANCEL, L"Cancel")};
+}
 
 FullScreenDialog::FullScreenDialog(const DialogContext& context, std::wstring title, SoftKeys keys)
     : parent_(context.parent),

@@ -41,6 +41,8 @@ class FullScreenDialog {
     std::vector<MenuEntry> menu = {};
   };
 
+  static SoftKeys OkAndCancel(const Language& language);
+
   FullScreenDialog(const DialogContext& context, std::wstring title, SoftKeys keys);
   virtual ~FullScreenDialog() = default;
 

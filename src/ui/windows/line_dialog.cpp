@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include "resources/text/text_ids.h"
 #include "ui/windows/device_dialogs.h"
 
 namespace tidewell {
@@ -29,9 +28,6 @@ class LineDialog final : public FullScreenDialog {
   void OnLayout(int width, int height) override;
   void OnShown() override;
   void OnCommand(int id, int notification) override;
-  LRESULT OnNotify(const NMHDR&) override { return 0; }
-  void OnMeasureItem(MEASUREITEMSTRUCT&) override {}
-  void OnDrawItem(const DRAWITEMSTRUCT&) override {}
 
   int HeightOf(const std::wstring& text, int width) const;
   std::optional<std::size_t> SelectedLine() const;
@@ -44,9 +40,7 @@ class LineDialog final : public FullScreenDialog {
 };
 
 LineDialog::LineDialog(const DialogContext& context, const LineRequest& request)
-    : FullScreenDialog(
-          context, request.title,
-          {context.language.Text(IDS_OK, L"OK"), context.language.Text(IDS_CANCEL, L"Cancel")}),
+    : FullScreenDialog(context, request.title, OkAndCancel(context.language)),
       context_(context),
       request_(request) {}
 

@@ -2,8 +2,6 @@
 
 #include <commctrl.h>
 
-#include "resources/text/text_ids.h"
-
 namespace tidewell {
 
 namespace {
@@ -25,9 +23,6 @@ class TextDialog final : public FullScreenDialog {
   void OnLayout(int width, int height) override;
   void OnShown() override;
   void OnCommand(int id, int notification) override;
-  LRESULT OnNotify(const NMHDR&) override { return 0; }
-  void OnMeasureItem(MEASUREITEMSTRUCT&) override {}
-  void OnDrawItem(const DRAWITEMSTRUCT&) override {}
 
   void Confirm();
   std::wstring Typed() const;
@@ -39,10 +34,7 @@ class TextDialog final : public FullScreenDialog {
 };
 
 TextDialog::TextDialog(const DialogContext& context, const TextRequest& request)
-    : FullScreenDialog(
-          context, request.title,
-          {context.language.Text(IDS_OK, L"OK"), context.language.Text(IDS_CANCEL, L"Cancel")}),
-      request_(request) {}
+    : FullScreenDialog(context, request.title, OkAndCancel(context.language)), request_(request) {}
 
 std::optional<std::wstring> TextDialog::Enter() {
   Run();

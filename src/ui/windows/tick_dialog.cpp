@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include "resources/text/text_ids.h"
 #include "win32/common_controls.h"
 #include "win32/control_hook.h"
 
@@ -26,9 +25,6 @@ class TickDialog final : public FullScreenDialog {
   void OnLayout(int width, int height) override;
   void OnShown() override { SetFocus(list_); }
   void OnCommand(int id, int notification) override;
-  LRESULT OnNotify(const NMHDR&) override { return 0; }
-  void OnMeasureItem(MEASUREITEMSTRUCT&) override {}
-  void OnDrawItem(const DRAWITEMSTRUCT&) override {}
 
   void MakeList();
   void ShowLines();
@@ -41,10 +37,7 @@ class TickDialog final : public FullScreenDialog {
 };
 
 TickDialog::TickDialog(const DialogContext& context, TickRequest& request)
-    : FullScreenDialog(
-          context, request.title,
-          {context.language.Text(IDS_OK, L"OK"), context.language.Text(IDS_CANCEL, L"Cancel")}),
-      request_(request) {}
+    : FullScreenDialog(context, request.title, OkAndCancel(context.language)), request_(request) {}
 
 void TickDialog::OnCreate() {
   label_ = MakeControl(WC_STATICW, SS_NOPREFIX, kLabel, request_.label);
