@@ -408,16 +408,14 @@ EditStatus BackupDocument::ReplaceRecord(std::size_t firstLine, std::size_t last
 }
 
 // At the end of the section, or in a new one at the end of the file.
-EditStatus BackupDocument::AddRecord(const RecordSection& section, const std::wstring& header,
-                                     const std::wstring& lines) {
+EditStatus BackupDocument::AddRecord(RecordSection& section, const std::wstring& lines) {
   const bool isNew = section.header == kNowhere;
   const std::size_t last = isNew ? lines_.size() - 1 : section.last;
   // A record that the end of the text cuts off would go on in the new lines.
-  const bool isCutOff = !isNew && last != section.header && last != section.lastTaken;
+  const bool isCutOff =
+      isNew ? categorySection_.IsCutOff() || filterSection_.IsCutOff() : section.IsCutOff();
   if (!EndsWhole(last) || isCutOff) return Entangled(last);
-  std::wstring& behind = edits_[last].behind;
-  if (isNew && behind.find(header) == std::wstring::npos) behind += kLineEnd + header;
-  behind += lines;
+  (isNew ? section.newLines : edits_[last].behind) += lines;
   return EditStatus::kDone;
 }
 
@@ -429,7 +427,7 @@ EditStatus BackupDocument::TakeCategory(const CategoryLines& category) {
   AppendNumberLine(lines, L"FiltersFlag", category.flags);
   AppendNumberLine(lines, L"Color", category.color);
   if (own) return ReplaceRecord(own->firstLine, own->lastLine, lines);
-  return AddRecord(categorySection_, HeaderOf(kCategoriesSection), lines);
+  return AddRecord(categorySection_, lines);
 }
 
 EditStatus BackupDocument::TakeFilter(const FilterLines& filter) {
@@ -441,7 +439,7 @@ EditStatus BackupDocument::TakeFilter(const FilterLines& filter) {
   AppendNumberLine(lines, L"VisibleState", filter.visible ? 1 : 0);
   AppendNumberLine(lines, L"IncludeUncategorized", filter.uncategorized ? 1 : 0);
   if (own) return ReplaceRecord(own->firstLine, own->lastLine, lines);
-  return AddRecord(filterSection_, HeaderOf(kFiltersSection), lines);
+  return AddRecord(filterSection_, lines);
 }
 
 std::vector<std::byte> BackupDocument::Edited() const {
@@ -453,6 +451,11 @@ std::vector<std::byte> BackupDocument::Edited() const {
     const std::wstring section = HeaderOf(path) + lines;
     edits[place].behind += isFirst ? section + kLineEnd : kLineEnd + section;
   }
+  const auto addSection = [&](std::wstring_view name, const std::wstring& lines) {
+    if (!lines.empty()) edits[lines_.size() - 1].behind += kLineEnd + HeaderOf(name) + lines;
+  };
+  addSection(kCategoriesSection, categorySection_.newLines);
+  addSection(kFiltersSection, filterSection_.newLines);
 
   std::vector<std::byte> bytes;
   bytes.reserve(bytes_.size());

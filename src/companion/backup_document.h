@@ -145,9 +145,12 @@ class BackupDocument {
 
   // The last one of its kind; kNowhere without one.
   struct RecordSection {
+    bool IsCutOff() const { return last != header && last != lastTaken; }
+
     std::size_t header = kNowhere;
     std::size_t last = kNowhere;       // the header itself if it has no other line
     std::size_t lastTaken = kNowhere;  // of the last record
+    std::wstring newLines = {};        // of a section that is yet to come, at the end of the file
   };
 
   std::wstring_view Keep(std::wstring_view text);
@@ -158,8 +161,7 @@ class BackupDocument {
   EditStatus SetLine(std::wstring_view path, std::wstring_view name, std::wstring line);
   EditStatus Insert(std::wstring_view path, const std::wstring& line);
   EditStatus ReplaceRecord(std::size_t firstLine, std::size_t lastLine, const std::wstring& lines);
-  EditStatus AddRecord(const RecordSection& section, const std::wstring& header,
-                       const std::wstring& lines);
+  EditStatus AddRecord(RecordSection& section, const std::wstring& lines);
   EditStatus Entangled(std::size_t line);
 
   // Whatever is one of many lies here, so that a large file costs no call for each.

@@ -41,14 +41,30 @@ void RequireOthers(const BackupDocument& old, const BackupDocument& now, const s
     const StoredValue* found = now.Find(key, value.name);
     Require(found && AreSame(now, *found, old, value));
   }
+}
+void RequireRecords(const BackupDocument& old, const BackupDocument& now) {
   Require(old.Categories().size() == now.Categories().size());
   Require(old.Filters().size() == now.Filters().size());
+}
+
+// Records that are taken over are there, and all values still are.
+void TakeRecords(BackupDocument document, std::int32_t number) {
+  const CategoryLines category{0, 0, L"Work", number, 255};
+  const FilterLines filter{0, 0, number % 32 + 1, L"x\"=\"", true, number % 2 == 0};
+  if (document.TakeCategory(category) != EditStatus::kDone) return;
+  if (document.TakeFilter(filter) != EditStatus::kDone) return;
+  const BackupDocument now(document.Edited());
+  const CategoryLines* itsCategory = now.FindCategory(category.name);
+  const FilterLines* itsFilter = now.FindFilter(filter.index);
+  Require(itsCategory && AreSame(*itsCategory, category));
+  Require(itsFilter && AreSame(*itsFilter, filter));
+  RequireOthers(document, now, kPaths[0], L"\n");
 }
 
 }  // namespace
 
 // Unchanged a file stays the same to the byte; a value that is set or removed is so when the file
-// is read again, and is all that changed.
+// is read again, and is all that changed; so are records.
 void backup_document(Bytes bytes) {
   const std::size_t choice = TakeNumber(bytes);
   const std::wstring& path = kPaths[choice % 3];
@@ -68,13 +84,16 @@ void backup_document(Bytes bytes) {
     Require(found && (value.isNumber ? found->type == kTypeDword && found->number == value.number
                                      : again.StringOf(*found) == value.text));
     RequireOthers(document, again, path, name);
+    RequireRecords(document, again);
   }
+  TakeRecords(BackupDocument(Copied(bytes)), value.number);
   BackupDocument other(Copied(bytes));
   const StoredValue* present = other.Find(path, name);
   if (!present || other.Remove(*present) != EditStatus::kDone) return;
   const BackupDocument without(other.Edited());
   Require(!without.Find(path, name));
   RequireOthers(other, without, path, name);
+  RequireRecords(other, without);
 }
 
 }  // namespace tidewell::fuzz
