@@ -164,7 +164,7 @@ class PagesWriter {
       const std::wstring number = FormatDecimal(static_cast<std::int32_t>(choice.data));
       const std::wstring text = choice.TextIn(language_);
       listed += (listed.empty() ? L"" : L", ") + text;
-      if (row.stored == Stored::kData && text != number) listed += L" = " + number;
+      if (row.HoldsData() && text != number) listed += L" = " + number;
     }
     if (row.otherwise != kNoChoice) {
       listed += L"; else line " + FormatDecimal(row.otherwise);

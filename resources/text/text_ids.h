@@ -159,6 +159,7 @@
 #define IDS_SEARCH_BAR_GREEK 1412     // Greek
 #define IDS_SEARCH_BAR_ALL 1413       // All alphabets
 #define IDS_SEARCH_BAR_CHOOSE 1440    // Alphabets...
+#define IDS_SEARCH_BAR_CUSTOM 2550    // Custom alphabet
 
 // Contacts.
 #define IDS_ACTION_KEY_CALLS 1476               // Call

@@ -131,7 +131,8 @@ std::wstring AllowedInWords(const NamedSetting& named, const MeaningDevice& devi
   }
   const std::wstring choices =
       ChoicesInWords(*named.meaning, *named.setting, device, kMostChoicesTold);
-  return choices.empty() ? L"a whole number" : L"one of " + choices;
+  if (choices.empty()) return L"a whole number";
+  return (named.meaning->kind == ValueKind::kCodes ? L"some of " : L"one of ") + choices;
 }
 
 std::string SetOne(BackupDocument& document, const BackupSettings& settings,

@@ -67,8 +67,10 @@ std::wstring HexOf(std::span<const std::byte> data) {
   return hex;
 }
 
+constexpr std::wstring_view kBetweenParts = L", ";
+
 void AppendPart(std::wstring& list, const std::wstring& part) {
-  if (!list.empty() && !part.empty()) list += L", ";
+  if (!list.empty() && !part.empty()) list += kBetweenParts;
   list += part;
 }
 
@@ -76,12 +78,33 @@ std::wstring CodesInWords(const Meaning& meaning, std::uint32_t codes,
                           const MeaningDevice& device) {
   std::wstring list;
   for (const MeaningChoice& choice : meaning.choices) {
-    if ((codes & choice.number) == 0) continue;
+    if ((codes & choice.number) != choice.number) continue;
     AppendPart(list, choice.text);
     codes &= ~choice.number;
   }
   if (codes != 0) AppendPart(list, L"+" + FormatDecimal(static_cast<std::int32_t>(codes)));
   return list.empty() ? device.Said(Word::kNone) : list;
+}
+
+std::optional<std::uint32_t> ChoiceOfWords(const Meaning& meaning, std::wstring_view words) {
+  const auto choice = std::ranges::find_if(meaning.choices, [&](const MeaningChoice& each) {
+    return EqualIgnoringCase(each.text, words);
+  });
+  if (choice == meaning.choices.end()) return std::nullopt;
+  return choice->number;
+}
+
+// As CodesInWords lists them.
+std::optional<std::uint32_t> CodesOfWords(const Meaning& meaning, std::wstring_view words) {
+  for (const MeaningChoice& choice : meaning.choices) {
+    if (!EqualIgnoringCase(words.substr(0, choice.text.size()), choice.text)) continue;
+    const std::wstring_view others = words.substr(choice.text.size());
+    if (others.empty()) return choice.number;
+    if (!others.starts_with(kBetweenParts)) continue;
+    const auto codes = CodesOfWords(meaning, others.substr(kBetweenParts.size()));
+    if (codes) return choice.number | *codes;
+  }
+  return std::nullopt;
 }
 
 // Decimal, all of it, of 32 bits.
@@ -261,10 +284,11 @@ bool IsColor(const Meaning& meaning, const Setting& setting) {
 
 std::optional<std::int32_t> NumberOfWords(const Meaning& meaning, Setting& setting,
                                           std::wstring_view words, const MeaningDevice& device) {
-  const auto choice = std::ranges::find_if(meaning.choices, [&](const MeaningChoice& each) {
-    return EqualIgnoringCase(each.text, words);
-  });
-  if (choice != meaning.choices.end()) return static_cast<std::int32_t>(choice->number);
+  const bool isSet = meaning.kind == ValueKind::kCodes;
+  if (isSet && EqualIgnoringCase(words, device.Said(Word::kNone))) return 0;
+  const std::optional<std::uint32_t> chosen =
+      isSet ? CodesOfWords(meaning, words) : ChoiceOfWords(meaning, words);
+  if (chosen) return static_cast<std::int32_t>(*chosen);
   if (IsColor(meaning, setting)) {
     if (EqualIgnoringCase(words, device.Text(IDS_COLOR_AUTOMATIC))) return -1;
     const std::optional<std::uint32_t> color = ColorOfWords(words);

@@ -207,20 +207,28 @@ class MeaningDevice::Collector {
   }
 
   void TakeRow(int textId, const Row& row) {
-    // Of boxes that are parts of one setting their tab says what it is.
-    const bool isPart = row.kind == RowKind::kCheck && row.stored == Stored::kByRules;
-    const std::wstring label = isPart ? tab_ : device_.Text(textId);
+    if (row.stored == Stored::kByRules && row.kind == RowKind::kCheck) {
+      if (row.number) TakeBits(row);
+      return;
+    }
+    const std::wstring label = device_.Text(textId);
     for (std::size_t i = 0; i < row.order.size(); ++i) {
       std::wstring place = label + L' ';
       place += FormatDecimal(static_cast<std::int32_t>(i + 1));
       if (Meaning* meaning = Take(row.order[i], place)) Describe(*meaning, row);
     }
-    // A row may store a number and a text.
-    const std::array<const Setting*, 2> both = {row.number, row.text};
-    for (const Setting* setting : both) {
-      Meaning* meaning = setting ? Take(setting, label) : nullptr;
-      if (meaning && meaning->kind == ValueKind::kNumber) Describe(*meaning, row);
-    }
+    Meaning* meaning = row.number ? Take(row.number, label) : nullptr;
+    if (meaning && meaning->kind == ValueKind::kNumber) Describe(*meaning, row);
+    // A row may store a number and a name that goes with it.
+    if (row.text) Take(row.text, row.number ? label + L": " + device_.Said(Word::kName) : label);
+  }
+
+  // Boxes that are parts of one setting: their tab says what it is.
+  void TakeBits(const Row& row) {
+    if (Meaning* meaning = Take(row.number, tab_)) meaning->kind = ValueKind::kCodes;
+    const bool isNew =
+        !page_meanings_.empty() && page_meanings_.back().settings.front() == row.number;
+    if (isNew) AddChoices(page_meanings_.back(), row);
   }
 
   // Null when it has a meaning already.
@@ -248,12 +256,13 @@ class MeaningDevice::Collector {
       case Stored::kPosition:
       case Stored::kData:
       case Stored::kOrder:
+      case Stored::kByRules:
         meaning.kind = ValueKind::kChoice;
         AddChoices(meaning, row);
         break;
       case Stored::kCodes:
         meaning.kind = row.kind == RowKind::kIcons ? ValueKind::kCodes : ValueKind::kChoice;
-        if (row.kind == RowKind::kIcon) meaning.choices = {{0, device_.Said(Word::kNone)}};
+        if (row.kind == RowKind::kIcon) meaning.choices = {{0, device_.Said(Word::kNoIcon)}};
         for (const MarkerChoice& icon : row.icons) {
           meaning.choices.push_back({icon.value, device_.Text(icon.textId)});
         }
@@ -266,8 +275,7 @@ class MeaningDevice::Collector {
   void AddChoices(Meaning& meaning, const Row& row) const {
     std::uint32_t position = 0;
     for (const Choice& choice : row.choices) {
-      const bool isPosition = row.stored != Stored::kData;
-      meaning.choices.push_back({isPosition ? position : choice.data,
+      meaning.choices.push_back({row.HoldsData() ? choice.data : position,
                                  WithoutSoftHyphens(choice.TextIn(device_.language_))});
       ++position;
     }
@@ -336,6 +344,9 @@ void MeaningDevice::UseLocale() {
   if (isGerman) {
     own.dayNames = {L"Montag",  L"Dienstag", L"Mittwoch", L"Donnerstag",
                     L"Freitag", L"Samstag",  L"Sonntag"};
+    own.shortDayLength = 2;
+    own.monthNames = {L"Jan", L"Feb", L"Mrz", L"Apr", L"Mai", L"Jun",
+                      L"Jul", L"Aug", L"Sep", L"Okt", L"Nov", L"Dez"};
     own.longDate = L"dddd, d. MMM yyyy";
   }
 }

@@ -149,7 +149,7 @@ std::vector<std::size_t> SameKeys(const BackupDocument& document, const BackupDo
 void CompareOtherValues(std::vector<Record>& differences, const BackupSettings& left,
                         const BackupSettings& right) {
   const std::wstring heading = left.Device().Said(Word::kOtherValues);
-  const std::wstring none = left.Device().Said(Word::kNone);
+  const std::wstring absent = left.Device().Said(Word::kAbsent);
   const BackupDocument& before = left.Document();
   const BackupDocument& after = right.Document();
   const std::vector<std::size_t> rightKeys = SameKeys(before, after);
@@ -159,7 +159,7 @@ void CompareOtherValues(std::vector<Record>& differences, const BackupSettings& 
     const StoredValue* now = after.Find(rightKeys[old->key], old->name, guess);
     if (now && AreSame(before, *old, after, *now)) continue;
     std::wstring oldWords = ValueInWords(before, *old);
-    std::wstring newWords = now ? ValueInWords(after, *now) : none;
+    std::wstring newWords = now ? ValueInWords(after, *now) : absent;
     if (now && oldWords == newWords) {
       oldWords = ExactlyInWords(before, *old);
       newWords = ExactlyInWords(after, *now);
@@ -172,7 +172,7 @@ void CompareOtherValues(std::vector<Record>& differences, const BackupSettings& 
   for (const StoredValue* now : right.OtherValues()) {
     if (before.Find(leftKeys[now->key], now->name, guess)) continue;
     differences.push_back(
-        Difference(heading, L"", NameOf(after, *now), none, ValueInWords(after, *now)));
+        Difference(heading, L"", NameOf(after, *now), absent, ValueInWords(after, *now)));
   }
 }
 
@@ -182,10 +182,10 @@ void CompareRecords(std::vector<Record>& differences, const BackupSettings& left
                     const std::vector<Lines>& others) {
   const MeaningDevice& device = left.Device();
   const auto add = [&](const Lines& any, const Lines* old, const Lines* now) {
-    const std::wstring none = device.Said(Word::kNone);
+    const std::wstring absent = device.Said(Word::kAbsent);
     differences.push_back(Difference(device.Said(heading), L"", NameOf(left.Document(), any),
-                                     old ? InWords(device, *old) : none,
-                                     now ? InWords(device, *now) : none));
+                                     old ? InWords(device, *old) : absent,
+                                     now ? InWords(device, *now) : absent));
   };
   for (const Lines& old : all) {
     if (FindSame(left.Document(), old) != &old) continue;

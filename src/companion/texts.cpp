@@ -12,10 +12,12 @@ struct Words {
 };
 
 // In the order of Word.
-constexpr std::array<Words, 33> kWords = {{
+constexpr std::array<Words, 36> kWords = {{
     {L"on", L"ein"},
     {L"off", L"aus"},
     {L"none", L"keine"},
+    {L"none", L"keins"},
+    {L"(absent)", L"(fehlt)"},
     {L"(empty)", L"(leer)"},
     {L"no such choice", L"keine solche Auswahl"},
     {L"default", L"Vorgabe"},
@@ -28,6 +30,7 @@ constexpr std::array<Words, 33> kWords = {{
     {L"On no page", L"Auf keiner Seite"},
     {L"shown", L"sichtbar"},
     {L"place", L"Platz"},
+    {L"name", L"Name"},
     {L"weight", L"Stärke"},
     {L"italic", L"kursiv"},
     {L"underlined", L"unterstrichen"},

@@ -17,7 +17,9 @@ const std::map<int, std::wstring>& TextsOf(Tongue tongue);
 enum class Word : std::uint8_t {
   kOn,
   kOff,
-  kNone,
+  kNone,  // of a set
+  kNoIcon,
+  kAbsent,  // a value
   kEmpty,
   kNoSuchChoice,
   kDefault,
@@ -30,6 +32,7 @@ enum class Word : std::uint8_t {
   kNoPage,
   kShown,
   kPlace,
+  kName,
   kWeight,
   kItalic,
   kUnderlined,

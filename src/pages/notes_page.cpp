@@ -80,7 +80,8 @@ PageTab FoldersTab() {
 PageTab NotesRules::TypesTab() const {
   RowColumn column;
   for (const auto& type : kTypes) {
-    column.rows.push_back(CheckByRules(type.boxId, type.textId, &settings_.NotesScannedFileTypes));
+    column.rows.push_back(
+        CheckBits(type.boxId, type.textId, settings_.NotesScannedFileTypes, type.bits));
   }
   return {IDS_NOTES_TAB_TYPES, std::move(column)};
 }

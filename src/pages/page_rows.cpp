@@ -125,12 +125,18 @@ Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting) {
   return row;
 }
 
-Row CheckByRules(int id, int textId, DwordSetting* setting) {
+Row CheckByRules(int id, int textId) {
   Row row;
   row.stored = Stored::kByRules;
   row.controlId = id;
   row.textId = textId;
-  row.number = setting;
+  return row;
+}
+
+Row CheckBits(int id, int textId, DwordSetting& setting, std::uint32_t bits) {
+  Row row = CheckByRules(id, textId);
+  row.number = &setting;
+  row.choices = {{L"", textId, bits}};
   return row;
 }
 

@@ -77,6 +77,9 @@ struct Row {
     return std::move(*this);
   }
 
+  // Whether its choices are stored as their data, rather than as their positions.
+  bool HoldsData() const { return stored == Stored::kData || stored == Stored::kByRules; }
+
   RowKind kind = RowKind::kCheck;
   Stored stored = Stored::kNothing;
   int labelId = 0;
@@ -87,7 +90,7 @@ struct Row {
   DwordSetting* number = nullptr;
   StringSetting* text = nullptr;
   std::vector<DwordSetting*> order;
-  Choices choices;
+  Choices choices;  // of kByRules: what its numbers stand for, of which the rules show what fits
   std::span<const MarkerChoice> icons;
   int otherwise = kNoChoice;       // the line shown when none has the stored data
   std::uint32_t ofNoChoice = ~0u;  // the data stored when no line is chosen
@@ -108,8 +111,10 @@ Row Path(int labelId, int editId, int clearId, int browseId, int textId, StringS
 // Begins at its first line and is not stored.
 Row Selector(int labelId, int listId, int textId, Choices choices);
 Row FilledByRules(int labelId, int listId, int textId, StringSetting& setting);
-// A box that shows a part of its setting, or what is no setting.
-Row CheckByRules(int id, int textId, DwordSetting* setting = nullptr);
+// A box that shows what is no setting.
+Row CheckByRules(int id, int textId);
+// A box that shows some bits of its setting.
+Row CheckBits(int id, int textId, DwordSetting& setting, std::uint32_t bits);
 // Of an icon picker. What is offered outlives the row; of a set the codes that are not offered stay
 // as they are stored.
 Row Icon(int labelId, int stripId, int textId, DwordSetting& setting,

@@ -38,6 +38,10 @@ SearchBar::SearchBar(PageContext& context, int labelId, int listId, DwordSetting
 Row SearchBar::AsRow() const {
   Row row = FilledByRules(labelId_, listId_, IDS_SEARCH_BAR, name_);
   row.number = &kind_;
+  row.choices = {{L"", IDS_SEARCH_BAR_NONE, kNoBar}};
+  for (const auto& bar : kBuiltInBars) row.choices.push_back({L"", bar.textId, bar.kind});
+  row.choices.push_back({L"", IDS_SEARCH_BAR_CUSTOM, kCustomBar});
+  row.choices.push_back({L"", IDS_SEARCH_BAR_ALL, kAllBars});
   return row;
 }
 

@@ -115,6 +115,10 @@ TEST(Edits, RefuseWhatASettingCannotBe) {
       {L"=1", false},
       {L"Beim Tippen=Ausw\u00E4hlen", true},
       {L"Action key=1", false},
+      {L"NotesScannedFileTypes=Notes (pwi), word documents (doc, docx)", true},
+      {L"NotesScannedFileTypes=Notes (pwi), ", false},
+      {L"NotesScannedFileTypes=None", true},
+      {L"NotesActiveSearchBar=8", false},
       {L"DPadCompleteAction=99999999999", false},
   };
   for (const Case& c : cases) {

@@ -66,7 +66,7 @@ std::wstring TextOf(HWND control) {
 }
 
 // To hold back the painting costs as much as to paint some lines.
-void AddChoices(HWND combo, const Choices& choices, const Language& language) {
+void AddChoices(HWND combo, std::span<const Choice> choices, const Language& language) {
   const bool areMany = choices.size() > kFewChoices;
   if (areMany) SendMessageW(combo, WM_SETREDRAW, FALSE, 0);
   for (const Choice& choice : choices) {
@@ -165,8 +165,9 @@ RowPlace SettingsPage::AddCheckBox(int id, int textId, bool checked, int y) {
   return row;
 }
 
-RowPlace SettingsPage::AddComboRow(int labelId, int comboId, int textId, const Choices& items,
-                                   int selection, int y, bool editable) {
+RowPlace SettingsPage::AddComboRow(int labelId, int comboId, int textId,
+                                   std::span<const Choice> items, int selection, int y,
+                                   bool editable) {
   RowPlace row = PlaceComboRow(Metrics(), labelId, comboId, Text(textId), y);
   MakeControl(WC_STATICW, SS_RIGHT, labelId, row.caption, row.controls[0].rect);
   const HWND combo = AddCombo(comboId, editable, row.controls[1].rect);

@@ -1,8 +1,19 @@
 #include "pages/windows/row_column_body.h"
 
+#include <span>
 #include <utility>
 
 namespace tidewell {
+
+namespace {
+
+// Those of a list that the rules fill come from them.
+std::span<const Choice> LinesAtFirst(const Row& row) {
+  if (row.stored == Stored::kByRules) return {};
+  return row.choices;
+}
+
+}  // namespace
 
 RowColumnBody::RowColumnBody(SettingsPage& page, Raise raise, const PaintedRoom& room,
                              const RowColumn& column)
@@ -24,7 +35,7 @@ RowPlace RowColumnBody::BuildRow(const Row& row, int y) const {
     case RowKind::kCheck:
       return Page().AddCheckBox(row.controlId, row.textId, state.checked, y);
     case RowKind::kList:
-      return Page().AddComboRow(row.labelId, row.controlId, row.textId, row.choices,
+      return Page().AddComboRow(row.labelId, row.controlId, row.textId, LinesAtFirst(row),
                                 state.selection, y, false);
     case RowKind::kNumber: {
       RowPlace place = Page().AddComboRow(row.labelId, row.controlId, row.textId, row.choices,

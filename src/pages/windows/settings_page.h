@@ -57,8 +57,8 @@ class SettingsPage : public PageWindow, private NavigationOwner {
   HWND AddCombo(int id, bool editable, const Rect& place);
   HWND AddListView(int id, const Rect& place, DWORD style = 0);
   RowPlace AddCheckBox(int id, int textId, bool checked, int y);
-  RowPlace AddComboRow(int labelId, int comboId, int textId, const Choices& items, int selection,
-                       int y, bool editable);
+  RowPlace AddComboRow(int labelId, int comboId, int textId, std::span<const Choice> items,
+                       int selection, int y, bool editable);
   RowPlace AddPathRow(int labelId, int editId, int clearId, int browseId, int textId,
                       const std::wstring& path, int y);
   RowPlace AddTextRow(int labelId, int editId, int textId, const std::wstring& text, int y);

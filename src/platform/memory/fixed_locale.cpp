@@ -17,8 +17,6 @@ std::wstring Padded(int number, std::size_t digits) {
 }
 
 constexpr std::wstring::size_type kWhole = std::wstring::npos;
-constexpr std::array<const wchar_t*, 12> kMonths{L"Jan", L"Feb", L"Mar", L"Apr", L"May", L"Jun",
-                                                 L"Jul", L"Aug", L"Sep", L"Oct", L"Nov", L"Dec"};
 
 // From 0, Monday.
 int DayOfWeek(const LocalTime& date) {
@@ -58,9 +56,11 @@ int FixedLocale::CompareIgnoringCase(const std::wstring& left, const std::wstrin
 
 std::wstring FixedLocale::FormatDate(const LocalTime& date, const std::wstring& picture) {
   return FilledIn(picture, [&](wchar_t unit, std::size_t run) {
-    if (unit == L'd' && run > 2) return DayName(DayOfWeek(date)).substr(0, run < 4 ? 3 : kWhole);
+    if (unit == L'd' && run > 2) {
+      return DayName(DayOfWeek(date)).substr(0, run < 4 ? shortDayLength : kWhole);
+    }
     if (unit == L'd') return Padded(date.day, run);
-    if (unit == L'M' && run > 2) return std::wstring(kMonths[date.month - 1]);
+    if (unit == L'M' && run > 2) return monthNames[date.month - 1u];
     if (unit == L'M') return Padded(date.month, run);
     if (unit == L'y') return Padded(run < 4 ? date.year % 100 : date.year, run);
     return std::wstring(run, unit);

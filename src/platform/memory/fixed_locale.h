@@ -17,6 +17,9 @@ class FixedLocale final : public Locale {
   std::wstring longDate = L"dddd, MMM d, yyyy";
   std::array<std::wstring, 7> dayNames{L"Monday", L"Tuesday",  L"Wednesday", L"Thursday",
                                        L"Friday", L"Saturday", L"Sunday"};
+  std::size_t shortDayLength = 3;  // of a day's name
+  std::array<std::wstring, 12> monthNames{L"Jan", L"Feb", L"Mar", L"Apr", L"May", L"Jun",
+                                          L"Jul", L"Aug", L"Sep", L"Oct", L"Nov", L"Dec"};
   LocalTime now{2008, 3, 14, 9, 5};
 
   std::wstring TimeStyle() override { return timeStyle; }
