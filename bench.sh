@@ -38,13 +38,13 @@ need_packages "${program_packages[@]}" googletest
 say "Building the programs"
 build_preset windows || exit
 build_preset release tidewell_backup companion_bench || exit
-forget_device bench
-use_device bench
-install_program
-
 # A device has one processor. On several, a call to Wine's server costs up to ten times as much
 # whenever the system happens to put the server on another: all is measured on one.
 taskset -pc "$(taskset -pc $$ | sed 's/.*[ ,-]//')" $$ >/dev/null
+
+forget_device bench
+use_device bench
+install_program
 
 printf '\n%-52s %8s%-4s %-16s %-8s %s\n' "" median "" "from to" aim "behind it"
 for words in "${programs[@]}"; do
