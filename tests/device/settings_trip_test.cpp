@@ -172,6 +172,7 @@ std::uint32_t OtherNumber(const DwordSetting& setting, const Meaning& meaning) {
   if (name.starts_with(L"CalTitlesOrder")) return 5 - byDefault;
   if (name.starts_with(L"dHeightLimit")) return 500;
   if (name.ends_with(L"ActiveSearchBar")) return 5;
+  if (name == L"NotesScannedFileTypes") return byDefault ^ 1;
   if (name.ends_with(L"lfWeight")) return 800 - byDefault;
   if (meaning.kind == ValueKind::kColor || name.ends_with(L"lfColor")) return 0x102030;
   for (const MeaningChoice& choice : meaning.choices) {
