@@ -42,25 +42,66 @@ inline void RegisterPlainClass(const wchar_t* name) {
   RegisterClassW(&plain);
 }
 
+// A window that shows a picture which is there already.
+class BarePicture {
+ public:
+  static constexpr wchar_t kClass[] = L"BarePicture";
+
+  static void Register() {
+    WNDCLASSW plain{};
+    plain.lpfnWndProc = WindowProc;
+    plain.lpszClassName = kClass;
+    RegisterClassW(&plain);
+  }
+
+ private:
+  static constexpr int kSide = 640;
+
+  static HDC Picture() {
+    static const HDC picture = [] {
+      const HDC screen = GetDC(nullptr);
+      const HDC made = CreateCompatibleDC(screen);
+      SelectObject(made, CreateCompatibleBitmap(screen, kSide, kSide));
+      ReleaseDC(nullptr, screen);
+      return made;
+    }();
+    return picture;
+  }
+
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_ERASEBKGND) return 1;
+    if (message != WM_PAINT) return DefWindowProcW(window, message, wParam, lParam);
+    PAINTSTRUCT paint;
+    const HDC dc = BeginPaint(window, &paint);
+    RECT client;
+    GetClientRect(window, &client);
+    BitBlt(dc, 0, 0, client.right, client.bottom, Picture(), 0, 0, SRCCOPY);
+    EndPaint(window, &paint);
+    return 0;
+  }
+};
+
 // A window with the controls of another, list views with their column and as many lines, as they
-// are without texts, rules or keys. Drop-down lists have lines where these are asked for: they show
-// one of them.
+// are without rules or keys. Where texts are asked for, all have theirs, and drop-down lists have
+// lines, of which they show one.
 class BareWindow {
  public:
   struct Control {
     std::wstring kind;
     DWORD style;
     RECT place;
-    int lines = 0;
+    std::vector<std::wstring> lines = {};
+    std::wstring text = {};
+    DWORD listStyle = 0;  // the extended style of a list view
   };
 
   // 0 for what is no list.
   static int CountLines(HWND control) {
-    const auto lines = static_cast<int>(SendMessageW(control, CB_GETCOUNT, 0, 0));
-    return std::max(lines, ListView_GetItemCount(control));
+    const auto choices = static_cast<int>(SendMessageW(control, CB_GETCOUNT, 0, 0));
+    return std::max({choices, ListView_GetItemCount(control), TabCtrl_GetItemCount(control)});
   }
   static std::vector<Control> ControlsOf(HWND window, bool shownOnly = false,
-                                         bool withChoices = false) {
+                                         bool withTexts = false) {
     std::vector<Control> controls;
     for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
       if (shownOnly && !IsWindowVisible(child)) continue;
@@ -75,7 +116,15 @@ class BareWindow {
         SendMessageW(child, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&control.place));
       }
       MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&control.place), 2);
-      if (withChoices || control.kind == WC_LISTVIEWW) control.lines = CountLines(child);
+      const bool hasLines = withTexts || control.kind == WC_LISTVIEWW;
+      for (int line = 0; hasLines && line < CountLines(child); ++line) {
+        control.lines.push_back(withTexts ? LineOf(child, control.kind, line)
+                                          : L"A line of a list");
+      }
+      if (withTexts) control.text = TextOf(child);
+      if (control.kind == WC_LISTVIEWW) {
+        control.listStyle = ListView_GetExtendedListViewStyle(child);
+      }
       controls.push_back(control);
     }
     return controls;
@@ -103,19 +152,29 @@ class BareWindow {
     UpdateWindow(window_);
     PaintAll();
   }
-  void Make(const std::vector<Control>& controls) const {
+  std::vector<HWND> Make(const std::vector<Control>& controls) const {
+    std::vector<HWND> all;
     for (const Control& control : controls) {
       const HWND made = CreateWindowExW(
-          0, control.kind.c_str(), L"", control.style, control.place.left, control.place.top,
-          control.place.right - control.place.left, control.place.bottom - control.place.top,
-          window_, nullptr, nullptr, nullptr);
+          0, control.kind.c_str(), control.text.c_str(), control.style, control.place.left,
+          control.place.top, control.place.right - control.place.left,
+          control.place.bottom - control.place.top, window_, nullptr, nullptr, nullptr);
       SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(face_), FALSE);
-      if (control.lines > 0) AddLines(made, control);
-      if (control.kind == WC_LISTVIEWW) AddColumn(made);
+      if (!control.lines.empty()) AddLines(made, control);
+      if (control.kind == WC_LISTVIEWW) {
+        ListView_SetExtendedListViewStyle(made, control.listStyle);
+        AddColumn(made);
+      }
+      all.push_back(made);
     }
+    return all;
   }
 
  private:
+  static std::wstring TextOf(HWND control) {
+    wchar_t text[128];
+    return {text, static_cast<std::size_t>(GetWindowTextW(control, text, 128))};
+  }
   // Without a column a list view has no header and shows nothing.
   static void AddColumn(HWND list) {
     RECT client;
@@ -125,19 +184,42 @@ class BareWindow {
     column.cx = client.right;
     ListView_InsertColumn(list, 0, &column);
   }
+  static std::wstring LineOf(HWND list, const std::wstring& kind, int line) {
+    wchar_t text[128] = L"";
+    if (kind == WC_LISTVIEWW) {
+      ListView_GetItemText(list, line, 0, text, 128);
+    } else if (kind == WC_TABCONTROLW) {
+      TCITEMW tab = TabText(text);
+      TabCtrl_GetItem(list, line, &tab);
+    } else if (SendMessageW(list, CB_GETLBTEXTLEN, static_cast<WPARAM>(line), 0) < 128) {
+      SendMessageW(list, CB_GETLBTEXT, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(text));
+    }
+    return text;
+  }
+  static TCITEMW TabText(wchar_t* text) {
+    TCITEMW tab{};
+    tab.mask = TCIF_TEXT;
+    tab.pszText = text;
+    tab.cchTextMax = 128;
+    return tab;
+  }
   static void AddLines(HWND list, const Control& control) {
-    wchar_t text[] = L"A line of a list";
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
-    for (int line = 0; line < control.lines; ++line) {
-      LVITEMW item{};
-      item.mask = LVIF_TEXT;
-      item.iItem = line;
-      item.pszText = text;
+    int line = 0;
+    for (std::wstring text : control.lines) {
       if (control.kind == WC_LISTVIEWW) {
+        LVITEMW item{};
+        item.mask = LVIF_TEXT;
+        item.iItem = line;
+        item.pszText = text.data();
         ListView_InsertItem(list, &item);
+      } else if (control.kind == WC_TABCONTROLW) {
+        const TCITEMW tab = TabText(text.data());
+        TabCtrl_InsertItem(list, line, &tab);
       } else {
-        SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+        SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
       }
+      ++line;
     }
     SendMessageW(list, WM_SETREDRAW, TRUE, 0);
   }

@@ -1,6 +1,7 @@
 // Opening each settings page, until its first tab is painted and all of its tabs are built, turning
 // to each tab and selecting each option; beside making as many bare controls of the same kinds in a
-// bare window. Arguments choose pages by a part of their class's name: page_bench Color Font
+// bare window, and hiding and showing them there. Arguments choose pages by a part of their class's
+// name: page_bench Color Font
 #include <windows.h>
 
 #include <algorithm>
@@ -14,6 +15,7 @@
 
 #include "bench/figures.h"
 #include "bench/page_stage.h"
+#include "ui/windows/icon_marker.h"
 
 namespace tidewell::bench {
 
@@ -136,17 +138,29 @@ class PageBench {
     }
   }
 
+  static ShownTab TabInView(HWND page, int number) {
+    ShownTab tab{number, {}, BareWindow::ControlsOf(page, true, true)};
+    for (BareWindow::Control& each : tab.controls) {
+      if (each.kind == kIconMarkerClass) each.kind = BarePicture::kClass;
+      if (each.kind == WC_TABCONTROLW) tab.strip = each;
+    }
+    std::erase_if(tab.controls, [](const auto& each) { return each.kind == WC_TABCONTROLW; });
+    return tab;
+  }
+
   // Each tab once, the first one last.
   void TurnAll(HWND page, std::vector<Comparison>& turning) const {
     const int count = CountTabs(page);
     turning.resize(static_cast<std::size_t>(count));
+    ShownTab before = TabInView(page, 0);
     for (int step = 1; step <= count; ++step) {
       const int tab = step % count;
       const Stopwatch watch;
       TurnTo(page, tab);
       const double turn = watch.Milliseconds();
-      const auto controls = BareWindow::ControlsOf(page, true);
-      turning[static_cast<std::size_t>(tab)].Add(turn, stage_.TimeBareControls(controls));
+      ShownTab after = TabInView(page, tab);
+      turning[static_cast<std::size_t>(tab)].Add(turn, stage_.TimeBareTurn(before, after));
+      before = std::move(after);
     }
   }
 

@@ -23,6 +23,13 @@
 
 namespace tidewell::bench {
 
+// What of a page can be seen, its strip of tabs apart.
+struct ShownTab {
+  int number = 0;
+  BareWindow::Control strip;
+  std::vector<BareWindow::Control> controls;
+};
+
 class PageStage {
  public:
   PageStage() {
@@ -31,6 +38,7 @@ class PageStage {
     face_ = TahomaFont(scale.ScaleX(12), FW_NORMAL);
     RegisterPlainClass(kBareClass);
     RegisterPlainClass(kHostClass);
+    BarePicture::Register();
     host_ = CreateWindowExW(0, kHostClass, L"", WS_POPUP | WS_VISIBLE, 0, scale.ScaleY(26),
                             screen.width, screen.height - scale.ScaleY(26), nullptr, nullptr,
                             nullptr, nullptr);
@@ -64,12 +72,19 @@ class PageStage {
     bare.Show();
     return watch.Milliseconds();
   }
-  // In a window that is there already.
-  double TimeBareControls(const std::vector<BareWindow::Control>& controls) const {
+  // From one tab to another, with each control hidden and shown by itself.
+  double TimeBareTurn(const ShownTab& from, const ShownTab& to) const {
     const BareWindow bare(host_, face_.Get());
+    const std::vector<HWND> before = bare.Make(from.controls);
+    const std::vector<HWND> after = bare.Make(to.controls);
+    const HWND strip = bare.Make({from.strip}).front();
+    TabCtrl_SetCurSel(strip, from.number);
+    for (const HWND control : after) ShowWindow(control, SW_HIDE);
     bare.Show();
     const Stopwatch watch;
-    bare.Make(controls);
+    TabCtrl_SetCurSel(strip, to.number);
+    for (const HWND control : before) ShowWindow(control, SW_HIDE);
+    for (const HWND control : after) ShowWindow(control, SW_SHOW);
     PaintAll();
     return watch.Milliseconds();
   }

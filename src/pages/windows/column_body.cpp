@@ -23,11 +23,11 @@ void ColumnBody::Build() {
 }
 
 void ColumnBody::Show(int showCommand) {
+  std::vector<int> ids;
   for (const RowPlace& row : places_) {
-    for (const ControlPlace& control : row.controls) {
-      ShowWindow(Page().Control(control.id), showCommand);
-    }
+    for (const ControlPlace& control : row.controls) ids.push_back(control.id);
   }
+  ShowControls(ids, showCommand);
   if (!scroll_.Needed()) return;
   const RECT thumb = ThumbArea();
   InvalidateRect(Page().Window(), &thumb, TRUE);

@@ -78,10 +78,11 @@ void ItemListBody::BuildList(const Rect& place) {
 
 void ItemListBody::Show(int showCommand) {
   rows_.Show(showCommand);
-  ShowWindow(Page().Control(list_.listId), showCommand);
-  for (const ItemField& field : list_.fields) ShowWindow(Page().Control(field.id), showCommand);
-  for (const ItemButton& button : Buttons()) ShowWindow(Page().Control(button.id), showCommand);
-  for (const ItemButton& label : list_.labels) ShowWindow(Page().Control(label.id), showCommand);
+  std::vector<int> ids{list_.listId};
+  for (const ItemField& field : list_.fields) ids.push_back(field.id);
+  for (const ItemButton& button : Buttons()) ids.push_back(button.id);
+  for (const ItemButton& label : list_.labels) ids.push_back(label.id);
+  ShowControls(ids, showCommand);
 }
 
 void ItemListBody::LayOut() {

@@ -70,7 +70,7 @@ void OptionListBody::BuildPart(const ControlPlace& part) const {
 
 void OptionListBody::Show(int showCommand) {
   if (showCommand == SW_HIDE) Deselect();
-  ShowWindow(Page().Control(list_.listId), showCommand);
+  ShowControls({list_.listId}, showCommand);
 }
 
 // The selected option is stored when it hears that it is none any more.
@@ -125,7 +125,7 @@ void OptionListBody::OnSelection(int listId, int line, bool selected) {
   if (selected) {
     ShowEditor(option);
   } else {
-    HideEditor(option);
+    ShowControls(ControlsOf(option, list_.editor), SW_HIDE);
     StoreOption(option);
   }
   selected_ = selected ? &option : nullptr;
@@ -139,7 +139,7 @@ void OptionListBody::ShowEditor(const Option& option) const {
   if (row.kind == RowKind::kCheck) Page().SetTextOfControl(id, Page().Text(row.textId));
   if (row.kind == RowKind::kList) ShowChoices(row);
   if (row.kind != RowKind::kOrder) Page().SetState(id, StateOf(row));
-  for (const int part : ControlsOf(option, e)) ShowWindow(Page().Control(part), SW_SHOW);
+  ShowControls(ControlsOf(option, e), SW_SHOW);
 }
 
 void OptionListBody::ShowChoices(const Row& row) const {
@@ -154,12 +154,6 @@ void OptionListBody::ShowChoices(const Row& row) const {
   }
   Page().SetTextOfControl(e.labelId, label);
   Page().SetChoices(e.listId, row.choices);
-}
-
-void OptionListBody::HideEditor(const Option& option) const {
-  for (const int part : ControlsOf(option, list_.editor)) {
-    ShowWindow(Page().Control(part), SW_HIDE);
-  }
 }
 
 }  // namespace tidewell

@@ -27,7 +27,6 @@ class OptionListBody final : public TabBody {
   void StoreOption(const Option& option) const;
   void ShowEditor(const Option& option) const;
   void ShowChoices(const Row& row) const;
-  void HideEditor(const Option& option) const;
 
   const OptionList& list_;
   const Option* selected_ = nullptr;  // whose editor is shown

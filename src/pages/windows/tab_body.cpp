@@ -12,6 +12,24 @@ Rect TabBody::PlaceOfRoom() const {
   return {0, 0, static_cast<int>(ClientArea(page_.Window()).right), Scale().ScaleY(room_.height)};
 }
 
+void TabBody::ShowControls(const std::vector<int>& ids, int showCommand) const {
+  const bool areHidden = showCommand == SW_HIDE;
+  const UINT change = areHidden ? SWP_HIDEWINDOW | SWP_NOREDRAW : SWP_SHOWWINDOW;
+  RECT uncovered{};
+  for (const int id : ids) {
+    const HWND control = page_.Control(id);
+    if (!control) continue;
+    RECT place;
+    GetWindowRect(control, &place);
+    UnionRect(&uncovered, &uncovered, &place);
+    SetWindowPos(control, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | change);
+  }
+  if (!areHidden) return;
+  MapWindowPoints(nullptr, page_.Window(), reinterpret_cast<POINT*>(&uncovered), 2);
+  InvalidateRect(page_.Window(), &uncovered, TRUE);
+}
+
 bool TabBody::RunPathCommand(int id, int pathId, int clearId, int browseId,
                              const Browse& browse) const {
   if (id == clearId) {

@@ -24,6 +24,7 @@ class TabBody {
 
   // Makes the controls, none of them visible.
   virtual void Build() = 0;
+  // SW_SHOW or SW_HIDE.
   virtual void Show(int showCommand) = 0;
   // The client area has another size.
   virtual void LayOut() = 0;
@@ -53,6 +54,8 @@ class TabBody {
   SettingsPage& Page() const { return page_; }
   const ScreenScale& Scale() const { return page_.Scale(); }
   const PaintedRoom& Room() const { return room_; }
+  // To uncover the place of each hidden control by itself would cost more than all at once.
+  void ShowControls(const std::vector<int>& ids, int showCommand) const;
   void Tell(int id, PageEventKind kind) const { raise_({id, kind}); }
   // Clears a path or browses for one, where the command is that of one of the row's two buttons.
   bool RunPathCommand(int id, int pathId, int clearId, int browseId, const Browse& browse) const;
