@@ -112,7 +112,7 @@ bool CategoryCatalog::LoadFiltersFile() {
   filtersRefused_ = file.status != FileStatus::kOk && file.status != FileStatus::kAbsent;
   std::optional<FilterSet> filters = ReadFilters(file.bytes);
   if (!filters) {
-    ResetFilters();
+    filters_ = DefaultFilters();
     return false;
   }
   filters_ = *std::move(filters);
@@ -137,6 +137,7 @@ bool CategoryCatalog::WasReadWhole() const {
 
 void CategoryCatalog::ResetFilters() {
   filters_ = DefaultFilters();
+  filtersRefused_ = false;
 }
 
 Selection CategoryCatalog::FindByNameOrIndex(const std::wstring& name,

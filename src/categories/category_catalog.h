@@ -57,6 +57,7 @@ class CategoryCatalog {
   // kOther also before a rebuild has come to its end, and when the filters are but the defaults in
   // place of a file that is there and could not be read.
   FileStatus SaveFiltersFile() const;
+  // The user wants the defaults, whatever a file holds that could not be read.
   void ResetFilters();
 
   // The category of exactly that name, else the filter of that index, else no restriction.

@@ -98,6 +98,8 @@ TEST_F(Catalog, AFiltersFileThatCannotBeReadIsReplacedByNewFiltersAlone) {
   catalog.FindFilter(1)->visible = false;
   EXPECT_EQ(catalog.SaveFiltersFile(), FileStatus::kOk);
   EXPECT_NE(files.Contents(kFiltersFile), own);
+  catalog.ResetFilters();
+  EXPECT_EQ(catalog.SaveFiltersFile(), FileStatus::kOk);
 }
 
 TEST_F(Catalog, TheFiltersFileIsTheOldOrTheNewOneAndUnchangedNotWritten) {
