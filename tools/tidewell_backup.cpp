@@ -20,7 +20,6 @@
 #include "companion/backup_edits.h"
 #include "companion/reports.h"
 #include "companion/suggestions.h"
-#include "pages/page_list.h"
 #include "platform/text.h"
 #include "tools/whole_files.h"
 
@@ -123,12 +122,10 @@ std::optional<BackupDocument> Open(const std::string& file) {
 }
 
 bool AreGroups(const MeaningDevice& device, const std::vector<std::wstring>& groups) {
-  const std::optional<std::wstring> unknown = FindUnknownGroup(device, groups);
-  if (!unknown) return true;
-  std::vector<std::wstring> titles;
-  titles.reserve(kPageCount + 1);
-  for (int page = 0; page < kPageCount; ++page) titles.push_back(device.PageTitle(page));
-  titles.emplace_back(device.Said(Word::kFilters));
+  const auto unknown = std::ranges::find_if_not(
+      groups, [&](const std::wstring& group) { return IsGroup(device, group); });
+  if (unknown == groups.end()) return true;
+  const std::vector<std::wstring> titles = GroupTitles(device);
   const std::wstring nearest = NearestOf(titles, *unknown);
   std::string all;
   for (const std::wstring& title : titles) all += (all.empty() ? "" : ", ") + ToUtf8(title);
@@ -256,9 +253,8 @@ int MergeFiles(const Request& request) {
   if (!document) return kTrouble;
   const std::optional<BackupDocument> from = Open(request.other);
   if (!from) return kTrouble;
-  BackupSettings theirs(*from, FactsOf(request));
+  const BackupSettings theirs(*from, FactsOf(request));
   const MergeChoice choice{Wide(request.groups), Wide(request.names)};
-  if (!AreGroups(theirs.Device(), choice.only)) return kTrouble;
   return Finish(request, *document, Merge(*document, theirs, choice));
 }
 
@@ -423,7 +419,8 @@ class CommandLine {
     CLI::App& command = Add("merge", "Takes values of one backup over another", MergeFiles);
     command.add_option("BASE", request_.file, "The backup that is changed")->required();
     command.add_option("FROM", request_.other, "The backup that values come from")->required();
-    command.add_option("--only", request_.groups, "Pages, Categories, Filters");
+    command.add_option("--only", request_.groups,
+                       "Pages, Categories, Filters, registry names, labels");
     command.add_option("--except", request_.names, "Registry names or labels that stay");
     AddChanged(command);
   }

@@ -169,43 +169,58 @@ class MergeSelection {
   MergeSelection(const BackupSettings& from, const MergeChoice& choice)
       : from_(from.Document()), choice_(choice), isOfGroups_(KeysOfGroups(from, choice.only)) {}
 
+  // A sentence on trouble.
   std::string Read(const BackupSettings& from) {
+    for (const std::wstring& word : choice_.only) {
+      if (IsGroup(from.Device(), word)) continue;
+      std::string trouble = Find(from, word, named_);
+      if (trouble.empty()) continue;
+      const std::wstring title = NearestOf(GroupTitles(from.Device()), word);
+      return title.empty() ? trouble
+                           : "there is no group " + Quoted(word) + ": choose " + Quoted(title) +
+                                 " or another.";
+    }
     for (const std::wstring& name : choice_.except) {
-      if (IsOther(from, name)) continue;
-      std::string trouble;
-      for (const NamedSetting& named : FindNamed(from, name, trouble)) {
-        excepted_.insert(named.setting);
-      }
+      std::string trouble = Find(from, name, excepted_);
       if (!trouble.empty()) return trouble;
     }
     return {};
   }
 
-  bool Takes(const Meaning& meaning) const {
-    return meaning.reason != Word::kNotInBackups &&
+  bool Takes(const Meaning& meaning, const Setting* setting) const {
+    if (meaning.reason == Word::kNotInBackups || excepted_.contains(setting)) return false;
+    return named_.contains(setting) ||
            IsOnly([&](const auto& group) { return IsOfGroup(meaning, group); });
   }
-  bool Takes(const Setting* setting) const { return !excepted_.contains(setting); }
   bool Takes(const StoredValue& value) const {
-    return isOfGroups_[value.key] &&
-           std::ranges::none_of(choice_.except, [&](const std::wstring& each) {
-             return EqualIgnoringCase(each, tidewell::NameOf(from_, value));
-           });
+    return (isOfGroups_[value.key] || IsAmong(choice_.only, value)) &&
+           !IsAmong(choice_.except, value);
   }
   bool IsOnly(auto fits) const {
     return choice_.only.empty() || std::ranges::any_of(choice_.only, fits);
   }
 
  private:
-  static bool IsOther(const BackupSettings& from, const std::wstring& name) {
-    return std::ranges::any_of(from.OtherValues(), [&](const StoredValue* value) {
-      return EqualIgnoringCase(tidewell::NameOf(from.Document(), *value), name);
+  bool IsAmong(const std::vector<std::wstring>& names, const StoredValue& value) const {
+    return std::ranges::any_of(names, [&](const std::wstring& each) {
+      return EqualIgnoringCase(each, tidewell::NameOf(from_, value));
     });
+  }
+  // The settings of a name, none for that of a value which the catalogue does not know.
+  std::string Find(const BackupSettings& from, const std::wstring& name,
+                   std::set<const Setting*>& settings) const {
+    const bool isOther = std::ranges::any_of(
+        from.OtherValues(), [&](const StoredValue* value) { return IsAmong({name}, *value); });
+    if (isOther) return {};
+    std::string trouble;
+    for (const NamedSetting& found : FindNamed(from, name, trouble)) settings.insert(found.setting);
+    return trouble;
   }
 
   const BackupDocument& from_;
   const MergeChoice& choice_;
   std::vector<bool> isOfGroups_;
+  std::set<const Setting*> named_;
   std::set<const Setting*> excepted_;
 };
 
@@ -285,9 +300,8 @@ std::string Merge(BackupDocument& document, const BackupSettings& from, const Me
   std::string trouble = selection.Read(from);
   if (!trouble.empty()) return trouble;
   for (const Meaning& meaning : from.Meanings()) {
-    if (!selection.Takes(meaning)) continue;
     for (const Setting* setting : meaning.settings) {
-      if (selection.Takes(setting)) trouble = TakeSetting(document, theirs, *setting);
+      if (selection.Takes(meaning, setting)) trouble = TakeSetting(document, theirs, *setting);
       if (!trouble.empty()) return trouble;
     }
   }

@@ -29,7 +29,7 @@ std::string SetByName(BackupDocument& document, const BackupSettings& settings,
                       const std::vector<std::wstring>& assignments);
 
 struct MergeChoice {
-  std::vector<std::wstring> only;    // groups; all when there is none
+  std::vector<std::wstring> only;    // groups and names; all when there is none
   std::vector<std::wstring> except;  // names
 };
 // A setting of the chosen groups gets the other backup's value, its default included; other values,

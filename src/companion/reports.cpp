@@ -253,14 +253,17 @@ bool IsFiltersGroup(const std::wstring& group) {
          EqualIgnoringCase(group, WordIn(Tongue::kGerman, Word::kFilters));
 }
 
-std::optional<std::wstring> FindUnknownGroup(const MeaningDevice& device,
-                                             const std::vector<std::wstring>& groups) {
-  for (const std::wstring& group : groups) {
-    const bool isPage = std::ranges::any_of(
-        device.Meanings(), [&](const Meaning& meaning) { return IsOfGroup(meaning, group); });
-    if (!isPage && !IsCategoriesGroup(group) && !IsFiltersGroup(group)) return group;
-  }
-  return std::nullopt;
+bool IsGroup(const MeaningDevice& device, const std::wstring& word) {
+  return IsCategoriesGroup(word) || IsFiltersGroup(word) ||
+         std::ranges::any_of(device.Meanings(),
+                             [&](const Meaning& meaning) { return IsOfGroup(meaning, word); });
+}
+
+std::vector<std::wstring> GroupTitles(const MeaningDevice& device) {
+  std::vector<std::wstring> titles;
+  for (int page = 0; page < kPageCount; ++page) titles.push_back(device.PageTitle(page));
+  titles.emplace_back(device.Said(Word::kFilters));
+  return titles;
 }
 
 std::wstring NameOf(const BackupDocument& document, const StoredValue& value) {

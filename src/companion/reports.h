@@ -1,7 +1,6 @@
 // What the companion tells of backups: their settings, what differs between two, what there is.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,9 +17,9 @@ std::vector<bool> KeysOfGroups(const BackupSettings& backup,
                                const std::vector<std::wstring>& groups);
 bool IsCategoriesGroup(const std::wstring& group);
 bool IsFiltersGroup(const std::wstring& group);
-// The first of them that is none; nothing when all are.
-std::optional<std::wstring> FindUnknownGroup(const MeaningDevice& device,
-                                             const std::vector<std::wstring>& groups);
+bool IsGroup(const MeaningDevice& device, const std::wstring& word);
+// What the owner calls them.
+std::vector<std::wstring> GroupTitles(const MeaningDevice& device);
 
 // Every setting by page and tab, then what the catalogue does not know, categories and filters. Of
 // the groups that are named, or all.

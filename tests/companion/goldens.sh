@@ -45,7 +45,9 @@ run diff-json diff sample.twsb changed.twsb --json
 run get get everything.twsb dNumOfDays Fonts/FontGeneral TabSettings/Clock/DLL SeperatorLineClr
 run set set sample.twsb dNumOfDays=21 SeperatorLineClr=#12abEF OnClick=default SkinPath=Ä -o out.twsb
 run set-refused set sample.twsb dNumOfDays=121 -o out.twsb
-run merge merge sample.twsb changed.twsb --only Tasks Tabs Filters --except TsksDateFrmt -o out.twsb
+run merge merge sample.twsb changed.twsb --only Tasks Filters Tabs/Position \
+  "TabSettings/Moon phases/DLL" --except TsksDateFrmt -o out.twsb
+run merge-refused merge sample.twsb changed.twsb --only Taks -o out.twsb
 run apply-scheme apply-scheme sample.twsb scheme.scm -o out.twsb --aligned
 run list list
 run list-json list Tabs --json
