@@ -280,6 +280,7 @@ void SettingsPage::MoveListItem(HWND window, int listId, bool up) {
   WriteRow(list, row, displaced);
   WriteRow(list, target, moved);
   ListView_SetItemState(list, target, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+  ListView_EnsureVisible(list, target, FALSE);
   SetFocus(list);
 }
 
