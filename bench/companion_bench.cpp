@@ -100,9 +100,7 @@ bool MeasureShow(const std::string& program, const std::string& backup) {
     if (Run({program, "--help"}) != 0) return false;
     comparison.Add(ours, bare.Milliseconds());
   }
-  PrintFigure("show of a real backup, as a process", comparison.ours.Median(),
-              Spread(comparison.ours.Quantile(0.25), comparison.ours.Quantile(0.75)), 30, " ms",
-              "");
+  PrintSamples("show of a real backup, as a process", comparison.ours, 30, " ms");
   PrintRatio("show of a real backup / --help, both as processes", comparison, kNoAim, "ms");
   return true;
 }

@@ -180,15 +180,10 @@ struct Opening {
   void Print(const std::string& name) const {
     // The floor has no registry to read.
     PrintRatio(name.c_str(), times, kNoAim, "ms");
-    PrintTimes("  until it is painted", times.ours, kOpeningAim, "");
-    if (turning.Quantile(1) > 0) PrintTimes("  turn to the list", turning, kTurningAim, "");
-    PrintTimes("  turn on by a screenful", screenfuls, kScreenfulAim,
-               "to line " + std::to_string(reached) + " of " + std::to_string(lines));
-  }
-  static void PrintTimes(const char* name, const Samples& samples, double aim,
-                         const std::string& behind) {
-    PrintFigure(name, samples.Median(), Spread(samples.Quantile(0.25), samples.Quantile(0.75)), aim,
-                " ms", behind);
+    PrintSamples("  until it is painted", times.ours, kOpeningAim, " ms");
+    if (turning.Quantile(1) > 0) PrintSamples("  turn to the list", turning, kTurningAim, " ms");
+    PrintSamples("  turn on by a screenful", screenfuls, kScreenfulAim, " ms",
+                 "to line " + std::to_string(reached) + " of " + std::to_string(lines));
   }
 };
 
@@ -229,12 +224,7 @@ class CrowdedBench {
     const int page = static_cast<int>(index);
     Opening opening;
     for (int round = 0; round < kRounds; ++round) {
-      HandleAll();
-      const Stopwatch watch;
-      const auto opened = stage_.Open(page);
-      PaintAll();
-      const double open = watch.Milliseconds();
-      HandleAll();
+      const auto [opened, open] = stage_.TimeOpening(page);
       if (tab > 0) Turn(opened->Window(), tab, opening.turning);
       const auto controls = BareWindow::ControlsOf(opened->Window(), false, true);
       opening.times.Add(open, stage_.TimeBareWindow(controls));

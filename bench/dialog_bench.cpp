@@ -99,7 +99,7 @@ class DialogBench {
       }
     }
     PrintRatio(("open " + name + ", " + screen_).c_str(), opening, kAim, "ms");
-    Print("  until it is painted", opening.ours, kOpeningAim, " ms");
+    PrintSamples("  until it is painted", opening.ours, kOpeningAim, " ms");
   }
 
   void MeasureSlider(const DialogContext& context) {
@@ -113,8 +113,8 @@ class DialogBench {
                 heights.Add(Step(dialog, position, steps));
               }
             });
-    Print("drag a slider by one step, " + screen_, steps, kStepAim, " ms");
-    Print("  painted anew, in heights of the band", heights, 1, "");
+    PrintSamples("drag a slider by one step, " + screen_, steps, kStepAim, " ms");
+    PrintSamples("  painted anew, in heights of the band", heights, 1, "");
   }
 
   double Step(HWND dialog, int position, Samples& steps) const {
@@ -128,11 +128,6 @@ class DialogBench {
     PaintAll();
     steps.Add(watch.Milliseconds());
     return static_cast<double>(area.bottom - area.top) / scale_.ScaleY(kBandHeight);
-  }
-
-  static void Print(const std::string& name, const Samples& samples, double aim, const char* unit) {
-    PrintFigure(name.c_str(), samples.Median(),
-                Spread(samples.Quantile(0.25), samples.Quantile(0.75)), aim, unit, "");
   }
 
   static inline DialogBench* bench = nullptr;

@@ -56,6 +56,13 @@ inline std::string Spread(double low, double high) {
   return text;
 }
 
+// The median, between the quartiles.
+inline void PrintSamples(const std::string& name, const Samples& samples, double aim,
+                         const char* unit, const std::string& behind = "") {
+  PrintFigure(name.c_str(), samples.Median(),
+              Spread(samples.Quantile(0.25), samples.Quantile(0.75)), aim, unit, behind);
+}
+
 // The median of the rounds' ratios, between their quartiles; behind it the medians in `unit`.
 inline void PrintRatio(const char* name, const Comparison& comparison, double aim,
                        const char* unit) {

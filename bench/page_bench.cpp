@@ -79,12 +79,7 @@ class PageBench {
     Comparison opening;
     std::vector<Comparison> turning;
     for (int round = 0; round < kRounds; ++round) {
-      HandleAll();
-      const Stopwatch watch;
-      const auto opened = stage_.Open(page);
-      PaintAll();
-      const double open = watch.Milliseconds();
-      HandleAll();
+      const auto [opened, open] = stage_.TimeOpening(page);
       opening.Add(open, stage_.TimeBareWindow(BareWindow::ControlsOf(opened->Window())));
       TurnAll(opened->Window(), turning);
       stage_.Close(*opened);
@@ -113,13 +108,9 @@ class PageBench {
       SelectAll(opened->Window(), tabs, selecting);
       stage_.Close(*opened);
     }
-    PrintTimes("  first tab painted", painting, kFirstTabAim);
-    if (selecting.Quantile(1) > 0) PrintTimes("  select an option", selecting, kSelectingAim);
-  }
-
-  static void PrintTimes(const char* name, const Samples& times, double aim) {
-    PrintFigure(name, times.Median(), Spread(times.Quantile(0.25), times.Quantile(0.75)), aim,
-                " ms", "");
+    PrintSamples("  first tab painted", painting, kFirstTabAim, " ms");
+    if (selecting.Quantile(1) > 0)
+      PrintSamples("  select an option", selecting, kSelectingAim, " ms");
   }
 
   // Each option of each list of options, one after another.

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "bench/bare_window.h"
@@ -59,6 +60,16 @@ class PageStage {
   const std::string& Screen() const { return screen_; }
 
   std::unique_ptr<PageWindow> Open(int page) { return CreatePage(page, host_, *context_); }
+  // Until it is painted.
+  std::pair<std::unique_ptr<PageWindow>, double> TimeOpening(int page) {
+    HandleAll();
+    const Stopwatch watch;
+    auto opened = Open(page);
+    PaintAll();
+    const double took = watch.Milliseconds();
+    HandleAll();
+    return {std::move(opened), took};
+  }
   void Close(const PageWindow& page) const {
     SetActiveWindow(host_);
     DestroyWindow(page.Window());

@@ -93,9 +93,8 @@ void PrintParts() {
     for (std::size_t i = 0; round >= 0 && i < kStartPartCount; ++i) samples[i].Add(parts[i]);
   }
   for (std::size_t i = 0; i < kStartPartCount; ++i) {
-    PrintFigure(kStartParts[i], samples[i].Median(),
-                Spread(samples[i].Quantile(0.25), samples[i].Quantile(0.75)), kNoAim, " ms",
-                "at least " + FormatMilliseconds(samples[i].Quantile(0)));
+    PrintSamples(kStartParts[i], samples[i], kNoAim, " ms",
+                 "at least " + FormatMilliseconds(samples[i].Quantile(0)));
   }
 }
 
@@ -116,8 +115,7 @@ int Run() {
     memory.Add(ours.mebibytes - floor.mebibytes);
   }
   PrintRatio("start to the painted list / empty window", start, 1.2, "ms");
-  PrintFigure("peak memory above the empty window", memory.Median(),
-              Spread(memory.Quantile(0.25), memory.Quantile(0.75)), 4, " MiB", "");
+  PrintSamples("peak memory above the empty window", memory, 4, " MiB");
   PrintParts();
   return 0;
 }
