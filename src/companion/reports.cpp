@@ -89,8 +89,13 @@ std::wstring NameOf(const BackupDocument&, const FilterLines& filter) {
 }
 
 std::wstring InWords(const MeaningDevice& device, const CategoryLines& category) {
-  return device.Said(Word::kFlags) + L" " + FormatDecimal(category.flags) + L", " +
-         ColorInWords(static_cast<std::uint32_t>(category.color), device);
+  std::wstring filters;
+  for (std::int32_t index = 1; index <= kFilterCount; ++index) {
+    if ((static_cast<std::uint32_t>(category.flags) >> (index - 1) & 1) == 0) continue;
+    filters += (filters.empty() ? L": " : L", ") + FormatDecimal(index);
+  }
+  const std::wstring color = ColorInWords(static_cast<std::uint32_t>(category.color), device);
+  return filters.empty() ? color : color + L"; " + device.Said(Word::kInFilters) + filters;
 }
 std::wstring InWords(const MeaningDevice& device, const FilterLines& filter) {
   std::wstring words(filter.title);

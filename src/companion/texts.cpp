@@ -40,7 +40,7 @@ constexpr std::array<Words, 36> kWords = {{
     {L"bold", L"fett"},
     {L"with uncategorized items", L"mit Einträgen ohne Kategorie"},
     {L"hidden", L"ausgeblendet"},
-    {L"flags", L"Schalter"},
+    {L"filters", L"Filter"},
     {L"kept by the Today item", L"vom Heute-Element geführt"},
     {L"not part of a backup", L"nicht Teil einer Sicherung"},
     {L"set after the first start", L"nach dem ersten Start gesetzt"},

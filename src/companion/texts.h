@@ -42,7 +42,7 @@ enum class Word : std::uint8_t {
   kBold,
   kUncategorized,
   kHidden,
-  kFlags,
+  kInFilters,
   kKeptByTodayItem,
   kNotInBackups,
   kNoteAfterFirstStart,
