@@ -19,6 +19,7 @@ enum class Request : std::uint8_t {
   kCountValues,
   kEnumValue,
   kEnumSubkey,
+  kFlush,
   kClose
 };
 
@@ -79,7 +80,10 @@ class RecordingRegistry final : public Registry {
       requests_.push_back({Request::kEnumSubkey, RegistryRoot::kNone, L"", index});
       return inner_->EnumSubkey(index, nameCapacity, name);
     }
-    void Flush() override { inner_->Flush(); }
+    void Flush() override {
+      requests_.push_back({Request::kFlush, RegistryRoot::kNone, {}});
+      inner_->Flush();
+    }
 
    private:
     std::unique_ptr<RegistryKey> inner_;

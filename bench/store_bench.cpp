@@ -82,6 +82,9 @@ void AskBare(const std::vector<RecordedRequest>& requests) {
                       nullptr, nullptr, nullptr);
         break;
       }
+      case Request::kFlush:
+        RegFlushKey(key);
+        break;
       case Request::kClose:
         RegCloseKey(key);
         break;
