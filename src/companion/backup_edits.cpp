@@ -202,9 +202,10 @@ class MergeSelection {
 
  private:
   bool IsAmong(const std::vector<std::wstring>& names, const StoredValue& value) const {
-    return std::ranges::any_of(names, [&](const std::wstring& each) {
-      return EqualIgnoringCase(each, tidewell::NameOf(from_, value));
-    });
+    if (names.empty()) return false;
+    const std::wstring name = tidewell::NameOf(from_, value);
+    return std::ranges::any_of(
+        names, [&](const std::wstring& each) { return EqualIgnoringCase(each, name); });
   }
   // The settings of a name, none for that of a value which the catalogue does not know.
   std::string Find(const BackupSettings& from, const std::wstring& name,

@@ -266,6 +266,7 @@ bool IsGroup(const MeaningDevice& device, const std::wstring& word) {
 
 std::vector<std::wstring> GroupTitles(const MeaningDevice& device) {
   std::vector<std::wstring> titles;
+  titles.reserve(kPageCount + 1);
   for (int page = 0; page < kPageCount; ++page) titles.push_back(device.PageTitle(page));
   titles.emplace_back(device.Said(Word::kFilters));
   return titles;
