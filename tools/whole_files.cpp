@@ -33,6 +33,8 @@ File OpenFile(const fs::path& path, bool forWriting) {
 #endif
 }
 
+constexpr int kMostLinks = 40;
+
 // Not only into the system's memory.
 bool Flush(std::FILE* file) {
 #ifdef _WIN32
@@ -65,12 +67,12 @@ bool WriteNew(const fs::path& path, std::span<const std::byte> bytes) {
 std::optional<std::vector<std::byte>> ReadFile(const std::string& path) {
   const fs::path place = PathOf(path);
   std::error_code error;
-  const auto size = fs::file_size(place, error);
   const File file = OpenFile(place, false);
   if (!file || fs::is_directory(place, error)) return std::nullopt;
+  // What is no plain file does not tell its size.
+  const auto size = fs::file_size(place, error);
   std::vector<std::byte> bytes(error ? 0 : static_cast<std::size_t>(size));
   std::size_t used = 0;
-  // What is no plain file does not tell its size.
   for (;;) {
     if (used == bytes.size()) bytes.resize(used + 64 * 1024);
     const std::size_t count = std::fread(bytes.data() + used, 1, bytes.size() - used, file.get());
@@ -93,14 +95,17 @@ std::string WhyNotRead(const std::string& path) {
 bool WriteFile(const std::string& path, std::span<const std::byte> bytes) {
   std::error_code error;
   fs::path place = PathOf(path);
-  if (fs::exists(place, error)) place = fs::canonical(place, error);
-  // What is no plain file is no place for one.
-  if (error || (fs::exists(place, error) && !fs::is_regular_file(place, error))) return false;
+  for (int link = 0; link < kMostLinks && fs::is_symlink(place, error); ++link) {
+    place = place.parent_path() / fs::read_symlink(place, error);
+  }
+  const fs::file_status old = fs::symlink_status(place, error);
+  // What is no plain file, or is protected, is no place for one.
+  const bool isProtected = (old.permissions() & fs::perms::owner_write) == fs::perms::none;
+  if (fs::exists(old) && (!fs::is_regular_file(old) || isProtected)) return false;
+  error.clear();
   const fs::path beside = NameBeside(place);
   bool isDone = WriteNew(beside, bytes);
-  if (isDone && fs::exists(place, error)) {
-    fs::permissions(beside, fs::status(place, error).permissions(), error);
-  }
+  if (isDone && fs::exists(old)) fs::permissions(beside, old.permissions(), error);
   if (isDone) fs::rename(beside, place, error);
   isDone = isDone && !error;
   if (!isDone) fs::remove(beside, error);

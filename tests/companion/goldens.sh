@@ -52,6 +52,7 @@ run apply-scheme apply-scheme sample.twsb scheme.scm -o out.twsb --aligned
 run list list
 run list-json list Tabs --json
 text scheme.scm >found/scheme.txt
+diff found/show.en.txt <("$program" show <(cat sample.twsb) && echo "exit 0")
 
 if [[ ${2-} == --write ]]; then
   rm -rf "$golden"
