@@ -327,8 +327,20 @@ EditStatus BackupDocument::Set(std::wstring_view path, std::wstring_view name,
     AppendStringLine(line, name, value.text);
   }
   line += kLineEnd;
-  if (!IsReadAs(line, name, value)) return EditStatus::kUnwritable;
+  const std::vector<std::byte> data = tidewell::DataOf(value);
+  const std::uint32_t type = value.isNumber ? kTypeDword : kTypeString;
+  const StoredValue* present = Find(path, name);
+  if (present && present->type == type && DataOf(*present) == data) return EditStatus::kDone;
+  if (!IsReadAs(line, name, value)) return SetExactly(path, {std::wstring(name), type, data});
   return SetLine(path, name, std::move(line));
+}
+
+// Which copies alone can.
+EditStatus BackupDocument::SetExactly(std::wstring_view path, const EnumeratedValue& value) {
+  if (!isCopy_) return EditStatus::kUnwritable;
+  std::wstring line;
+  AppendExactLine(line, value);
+  return SetLine(path, value.name, line + kLineEnd);
 }
 
 EditStatus BackupDocument::Take(const BackupDocument& from, const StoredValue& value) {
@@ -338,13 +350,9 @@ EditStatus BackupDocument::Take(const BackupDocument& from, const StoredValue& v
   const bool isPlain = value.type == kTypeDword || value.type == kTypeString;
   // A copy keeps every byte, a backup what its lines have room for.
   if (isPlain && (!isCopy_ || data == tidewell::DataOf(plain))) {
-    const EditStatus status = Set(path, value.name, plain);
-    if (status != EditStatus::kUnwritable) return status;
+    return Set(path, value.name, plain);
   }
-  if (!isCopy_) return EditStatus::kUnwritable;
-  std::wstring line;
-  AppendExactLine(line, {std::wstring(value.name), value.type, data});
-  return SetLine(path, value.name, line + kLineEnd);
+  return SetExactly(path, {std::wstring(value.name), value.type, data});
 }
 
 EditStatus BackupDocument::SetLine(std::wstring_view path, std::wstring_view name,
@@ -368,7 +376,7 @@ EditStatus BackupDocument::Insert(std::wstring_view path, const std::wstring& li
   const bool isGone =
       productHeader_ != kNowhere && key != kNowhere && keys_[key].header < productHeader_;
   if (key == kNowhere || isGone) {
-    if (!CanHead(path)) return EditStatus::kUnwritable;
+    if (!CanHead(path) && !isCopy_) return EditStatus::kUnwritable;
     added_[std::wstring(path)] += line;
     if (productHeader_ == kNowhere) return EditStatus::kDone;
     const std::size_t before = keys_[KeyOf(kProductKey)].last;
@@ -430,6 +438,14 @@ EditStatus BackupDocument::TakeCategory(const CategoryLines& category) {
   return AddRecord(categorySection_, lines);
 }
 
+// Whether the filter behind that line has a malformed one, which leaves it what the one before has.
+bool BackupDocument::IsTakenOver(std::size_t lastLine) const {
+  const auto next = std::ranges::find(filters_, lastLine + 1, &FilterLines::firstLine);
+  if (next == filters_.end()) return false;
+  const auto its = std::span(lines_).subspan(next->firstLine, next->lastLine - lastLine);
+  return std::ranges::find(its, LineUse::kMalformed, &DocumentLine::use) != its.end();
+}
+
 EditStatus BackupDocument::TakeFilter(const FilterLines& filter) {
   const FilterLines* own = FindFilter(filter.index);
   if (own && AreSame(*own, filter)) return EditStatus::kDone;
@@ -438,6 +454,7 @@ EditStatus BackupDocument::TakeFilter(const FilterLines& filter) {
   AppendNumberLine(lines, L"Index", filter.index);
   AppendNumberLine(lines, L"VisibleState", filter.visible ? 1 : 0);
   AppendNumberLine(lines, L"IncludeUncategorized", filter.uncategorized ? 1 : 0);
+  if (own && IsTakenOver(own->lastLine)) return Entangled(own->lastLine + 1);
   if (own) return ReplaceRecord(own->firstLine, own->lastLine, lines);
   return AddRecord(filterSection_, lines);
 }
@@ -448,7 +465,7 @@ std::vector<std::byte> BackupDocument::Edited() const {
     // New keys stand behind the product's own values, where no header takes them away again.
     const bool isFirst = productHeader_ == kNowhere;
     const std::size_t place = isFirst ? (isCopy_ ? 1 : 0) : keys_[KeyOf(kProductKey)].last;
-    const std::wstring section = HeaderOf(path) + lines;
+    const std::wstring section = HeaderOf(CanHead(path) ? path : ExactSectionName(path)) + lines;
     edits[place].behind += isFirst ? section + kLineEnd : kLineEnd + section;
   }
   const auto addSection = [&](std::wstring_view name, const std::wstring& lines) {

@@ -158,6 +158,8 @@ class BackupDocument {
   std::size_t SlotOf(std::size_t key, std::wstring_view name) const;
   std::size_t LastOf(std::size_t slot) const;
   bool StandsAlone(std::size_t line) const;
+  EditStatus SetExactly(std::wstring_view path, const EnumeratedValue& value);
+  bool IsTakenOver(std::size_t lastLine) const;
   EditStatus SetLine(std::wstring_view path, std::wstring_view name, std::wstring line);
   EditStatus Insert(std::wstring_view path, const std::wstring& line);
   EditStatus ReplaceRecord(std::size_t firstLine, std::size_t lastLine, const std::wstring& lines);
