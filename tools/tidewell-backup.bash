@@ -1,7 +1,7 @@
 # Completion of tidewell-backup for bash.
 _tidewell_backup() {
   local commands="show check diff get set merge scheme apply-scheme list"
-  local groups="General Calendar Tasks Notes Contacts Messages Fonts Colors PIM Tabs Categories Filters"
+  local groups="General Calendar Tasks Notes Contacts Messages SEvents Fonts Colors PIM Tabs Categories Filters"
   local facts="--language --device --locale" style="--json --aligned"
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} words=''
   if ((COMP_CWORD == 1)); then

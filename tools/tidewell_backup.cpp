@@ -10,6 +10,8 @@
 #include <vector>
 
 #ifdef _WIN32
+#include <windows.h>
+
 #include <fcntl.h>
 #include <io.h>
 #else
@@ -62,14 +64,27 @@ std::string Environment(const char* name) {
 }
 
 int Trouble(const std::string& sentence) {
-  std::cerr << "tidewell-backup: " << sentence << '\n';
+  std::cerr << "tidewell-backup: " << OnOneLine(sentence) << '\n';
   return kTrouble;
+}
+
+// A console of Windows has to be told that it may.
+bool ShowsColors() {
+  if (!Environment("NO_COLOR").empty()) return false;
+#ifdef _WIN32
+  const HANDLE console = GetStdHandle(STD_OUTPUT_HANDLE);
+  DWORD mode = 0;
+  return GetConsoleMode(console, &mode) != 0 &&
+         SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+#else
+  return true;
+#endif
 }
 
 ListingStyle StyleOf(const Request& request) {
   if (request.json) return ListingStyle::kJson;
   if (!IsTerminal()) return request.aligned ? ListingStyle::kAligned : ListingStyle::kPlain;
-  return Environment("NO_COLOR").empty() ? ListingStyle::kColored : ListingStyle::kAligned;
+  return ShowsColors() ? ListingStyle::kColored : ListingStyle::kAligned;
 }
 
 DeviceFacts FactsOf(const Request& request) {
@@ -175,7 +190,7 @@ int Check(const Request& request) {
     std::string place = request.file + ":";
     if (finding.line != 0) place += std::to_string(finding.line) + ":";
     if (finding.column != 0) place += std::to_string(finding.column) + ":";
-    std::cout << place << (finding.isLoss ? " " : " note: ") << finding.text << '\n';
+    std::cout << OnOneLine(place + (finding.isLoss ? " " : " note: ") + finding.text) << '\n';
     hasLoss = hasLoss || finding.isLoss;
   }
   return hasLoss ? kDifferent : kDone;
@@ -185,20 +200,20 @@ int Get(const Request& request) {
   const std::optional<BackupDocument> document = Open(request.file);
   if (!document) return kTrouble;
   BackupSettings backup(*document, FactsOf(request));
+  const std::vector<const StoredValue*> others = backup.OtherValues();
   std::vector<Record> records;
   for (const std::wstring& name : Wide(request.names)) {
-    const std::vector<const StoredValue*> others = backup.OtherValues();
-    const auto other = std::ranges::find_if(others, [&](const StoredValue* value) {
-      return EqualIgnoringCase(NameOf(*document, *value), name);
-    });
-    if (other != others.end()) {
-      records.push_back(ShowValue(backup, **other));
-      continue;
-    }
     std::string trouble;
     const std::vector<NamedSetting> found = FindNamed(backup, name, trouble);
-    if (found.empty()) return Trouble(request.file + ": " + trouble);
-    records.push_back(ShowMeaning(backup, *found.front().meaning));
+    const auto other = std::ranges::find_if(
+        others, [&](const StoredValue* value) { return IsNamed(*document, *value, name); });
+    if (!found.empty()) {
+      records.push_back(ShowMeaning(backup, *found.front().meaning));
+    } else if (other != others.end()) {
+      records.push_back(ShowValue(backup, **other));
+    } else {
+      return Trouble(request.file + ": " + trouble);
+    }
   }
   std::cout << Render(records, StyleOf(request));
   return kDone;
@@ -212,9 +227,12 @@ std::string PlaceFor(const Request& request) {
     Trouble(request.file + ": stays as it is: name the new file with -o" + instead);
     return {};
   }
-  for (const std::string& input : {request.file, request.other}) {
-    if (!IsSameFile(request.out, input)) continue;
-    Trouble(std::string(input) += ": is not written over: name another file with -o" + instead);
+  if (IsSameFile(request.out, request.other)) {
+    Trouble(request.other + ": is not written over: name another file with -o.");
+    return {};
+  }
+  if (IsSameFile(request.out, request.file)) {
+    Trouble(request.file + ": is not written over: name another file with -o" + instead);
     return {};
   }
   return request.out;
@@ -232,9 +250,9 @@ int Finish(const Request& request, const BackupDocument& document, const std::st
   if (!trouble.empty()) return Trouble(request.file + ": " + trouble);
   const std::string place = PlaceFor(request);
   if (place.empty()) return kTrouble;
-  const std::vector<std::byte> bytes = document.Edited();
+  std::vector<std::byte> bytes = document.Edited();
   if (const int status = Write(place, bytes); status != kDone) return status;
-  const BackupDocument edited(bytes);
+  const BackupDocument edited(std::move(bytes));
   BackupSettings old(document, FactsOf(request));
   BackupSettings now(edited, FactsOf(request));
   std::cout << Render(CompareBackups(old, now), StyleOf(request));
@@ -261,8 +279,11 @@ int MergeFiles(const Request& request) {
 int WriteScheme(const Request& request) {
   const std::optional<BackupDocument> document = Open(request.file);
   if (!document) return kTrouble;
+  std::vector<std::byte> scheme;
+  const std::string trouble = SchemeOf(*document, scheme);
+  if (!trouble.empty()) return Trouble(request.file + ": " + trouble);
   const std::string place = PlaceFor(request);
-  return place.empty() ? kTrouble : Write(place, SchemeOf(*document));
+  return place.empty() ? kTrouble : Write(place, scheme);
 }
 
 int ApplySchemeFile(const Request& request) {
@@ -295,6 +316,12 @@ class CommandLine {
   }
 
   int Run(std::vector<std::string> arguments) {
+    for (const std::string& each : arguments) {
+      if (ToUtf8(FromUtf8(each)) != each) {
+        return Trouble("\"" + ToUtf8(FromUtf8(each)) +
+                       "\" is not UTF-8: type it on a terminal that is.");
+      }
+    }
     if (arguments.empty() || !IsCommand(arguments[0])) {
       return NoCommand(Commands(), arguments);
     }
@@ -447,6 +474,8 @@ class CommandLine {
 #ifdef _WIN32
 int wmain(int argc, wchar_t** argv) {
   _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
+  SetConsoleOutputCP(CP_UTF8);
   std::vector<std::string> arguments;
   for (int i = 1; i < argc; ++i) arguments.push_back(tidewell::ToUtf8(argv[i]));
   return tidewell::CommandLine().Run(std::move(arguments));

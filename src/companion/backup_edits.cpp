@@ -27,13 +27,13 @@ std::string SentenceOf(const BackupDocument& document, EditStatus status, std::w
   switch (status) {
     case EditStatus::kUnwritable:
       return Quoted(name) +
-             " cannot be written so, for a line has room for 800 characters without "
-             "line breaks: choose a shorter or another value.";
+             " cannot be written so, for a backup has lines only for numbers and for texts of up "
+             "to 800 characters without line breaks: choose another value or leave it out.";
     case EditStatus::kEntangled:
       return Quoted(name) + " cannot be changed, for line " +
              std::to_string(document.EntangledLine()) +
-             " is a piece of a longer one, lacks its line end or is of a record that is cut off: "
-             "mend first what the command check tells.";
+             " is a piece of a longer one, lacks its line end or is of a record that is cut off or "
+             "malformed: mend first what the command check tells.";
     case EditStatus::kDone:
       break;
   }
@@ -202,20 +202,18 @@ class MergeSelection {
 
  private:
   bool IsAmong(const std::vector<std::wstring>& names, const StoredValue& value) const {
-    if (names.empty()) return false;
-    const std::wstring name = tidewell::NameOf(from_, value);
     return std::ranges::any_of(
-        names, [&](const std::wstring& each) { return EqualIgnoringCase(each, name); });
+        names, [&](const std::wstring& each) { return IsNamed(from_, value, each); });
   }
-  // The settings of a name, none for that of a value which the catalogue does not know.
+  // The settings of a name; trouble only where no value of it is unknown to the catalogue either.
   std::string Find(const BackupSettings& from, const std::wstring& name,
                    std::set<const Setting*>& settings) const {
-    const bool isOther = std::ranges::any_of(
-        from.OtherValues(), [&](const StoredValue* value) { return IsAmong({name}, *value); });
-    if (isOther) return {};
     std::string trouble;
     for (const NamedSetting& found : FindNamed(from, name, trouble)) settings.insert(found.setting);
-    return trouble;
+    if (trouble.empty()) return {};
+    const bool isOther = std::ranges::any_of(
+        from.OtherValues(), [&](const StoredValue* value) { return IsNamed(from_, *value, name); });
+    return isOther ? std::string() : trouble;
   }
 
   const BackupDocument& from_;
@@ -236,7 +234,8 @@ std::string MergeRecords(BackupDocument& document, const BackupDocument& from,
   }
   if (selection.IsOnly(IsFiltersGroup)) {
     for (const FilterLines& filter : from.Filters()) {
-      if (from.FindFilter(filter.index) != &filter) continue;
+      const bool isReal = filter.index >= 1 && filter.index <= kFilterCount;
+      if (!isReal || from.FindFilter(filter.index) != &filter) continue;
       std::string trouble = SentenceOf(document, document.TakeFilter(filter), filter.title);
       if (!trouble.empty()) return trouble;
     }
@@ -313,7 +312,7 @@ std::string Merge(BackupDocument& document, const BackupSettings& from, const Me
   return MergeRecords(document, theirs, selection);
 }
 
-std::vector<std::byte> SchemeOf(const BackupDocument& document) {
+std::string SchemeOf(const BackupDocument& document, std::vector<std::byte>& scheme) {
   MemoryMachine memory;
   const Machine machine = memory.Door();
   for (const StoredValue* value : SchemeValues(document)) {
@@ -340,7 +339,16 @@ std::vector<std::byte> SchemeOf(const BackupDocument& document) {
     WriteCategoriesSection(catalog, writer);
     writer.Flush();
   }
-  return memory.files.Contents(path).value_or(std::vector<std::byte>());
+  scheme = memory.files.Contents(path).value_or(std::vector<std::byte>());
+  const BackupDocument made(scheme);
+  for (const StoredValue* value : SchemeValues(document)) {
+    const StoredValue* written = made.Find(document.Keys()[value->key].path, value->name);
+    if (written && AreSame(made, *written, document, *value)) continue;
+    return Quoted(value->name) +
+           " has no room in a scheme, or stands behind what has none: set longer texts among the "
+           "colors and fonts to others first.";
+  }
+  return {};
 }
 
 std::string ApplyScheme(BackupDocument& document, const BackupDocument& scheme) {

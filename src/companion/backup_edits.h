@@ -37,7 +37,7 @@ struct MergeChoice {
 std::string Merge(BackupDocument& document, const BackupSettings& from, const MergeChoice& choice);
 
 // The colours, fonts and categories as a scheme file has them.
-std::vector<std::byte> SchemeOf(const BackupDocument& document);
+std::string SchemeOf(const BackupDocument& document, std::vector<std::byte>& scheme);
 // Those of the scheme in place of all that the backup has; of categories those that it has.
 std::string ApplyScheme(BackupDocument& document, const BackupDocument& scheme);
 

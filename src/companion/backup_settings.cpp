@@ -98,10 +98,11 @@ std::optional<std::uint32_t> ChoiceOfWords(const Meaning& meaning, std::wstring_
 std::optional<std::uint32_t> CodesOfWords(const Meaning& meaning, std::wstring_view words) {
   for (const MeaningChoice& choice : meaning.choices) {
     if (!EqualIgnoringCase(words.substr(0, choice.text.size()), choice.text)) continue;
-    const std::wstring_view others = words.substr(choice.text.size());
+    std::wstring_view others = words.substr(choice.text.size());
     if (others.empty()) return choice.number;
-    if (!others.starts_with(kBetweenParts)) continue;
-    const auto codes = CodesOfWords(meaning, others.substr(kBetweenParts.size()));
+    if (!others.starts_with(L',')) continue;
+    others.remove_prefix(std::min(others.find_first_not_of(L' ', 1), others.size()));
+    const auto codes = CodesOfWords(meaning, others);
     if (codes) return choice.number | *codes;
   }
   return std::nullopt;
@@ -131,9 +132,6 @@ std::wstring Reading::Plain() const {
   return isNumber ? FormatDecimal(number) : text;
 }
 
-Reading ValueOf(Setting& setting) {
-  return ReadingOf(setting, false);
-}
 Reading DefaultOf(Setting& setting) {
   return ReadingOf(setting, true);
 }

@@ -20,7 +20,6 @@ struct Reading {
   std::wstring Plain() const;
   bool operator==(const Reading&) const = default;
 };
-Reading ValueOf(Setting& setting);
 Reading DefaultOf(Setting& setting);
 
 std::wstring PathOf(const Setting& setting);

@@ -63,13 +63,6 @@ std::size_t WidthOf(std::wstring_view text) {
 constexpr std::array<CodeRange, 5> kOrders = {
     {{0, 0x1F}, {0x7F, 0x9F}, {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF}}};
 
-std::wstring OnOneLine(std::wstring text) {
-  std::ranges::replace_if(
-      text, [](wchar_t unit) { return IsIn(kOrders, static_cast<std::uint32_t>(unit)); },
-      L'\uFFFD');
-  return text;
-}
-
 std::vector<std::wstring> CellsOf(const Record& record) {
   std::vector<std::wstring> cells;
   for (const Field& field : record.fields) {
@@ -156,6 +149,17 @@ std::string Json(const std::vector<Record>& records) {
 }
 
 }  // namespace
+
+std::wstring OnOneLine(std::wstring text) {
+  std::ranges::replace_if(
+      text, [](wchar_t unit) { return IsIn(kOrders, static_cast<std::uint32_t>(unit)); },
+      L'\uFFFD');
+  return text;
+}
+
+std::string OnOneLine(std::string_view utf8) {
+  return ToUtf8(OnOneLine(FromUtf8(utf8)));
+}
 
 std::string Render(const std::vector<Record>& records, ListingStyle style) {
   switch (style) {

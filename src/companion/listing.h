@@ -30,6 +30,10 @@ enum class ListingStyle : std::uint8_t {
   kJson,
 };
 
+// Without what breaks a line, turns its direction, or would be an order to a terminal.
+std::wstring OnOneLine(std::wstring text);
+std::string OnOneLine(std::string_view utf8);
+
 std::string Render(const std::vector<Record>& records, ListingStyle style);
 
 }  // namespace tidewell

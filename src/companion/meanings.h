@@ -57,7 +57,6 @@ class MeaningDevice {
  public:
   explicit MeaningDevice(const DeviceFacts& facts);
 
-  Tongue Speaks() const { return facts_.tongue; }
   const DeviceFacts& Facts() const { return facts_; }
   SettingsStore& Store() { return store_; }
   MemoryRegistry& OwnRegistry() { return memory_.registry; }

@@ -34,13 +34,33 @@ bool IsInBackups(const Meaning& meaning) {
   return meaning.reason != Word::kNotInBackups;
 }
 
-std::wstring JoinedReadings(const BackupSettings& backup, const Meaning& meaning) {
-  std::wstring joined;
-  for (Setting* setting : meaning.settings) {
-    const std::optional<Reading> reading = backup.Read(*setting);
-    joined += (reading ? reading->Plain() : std::wstring(L"\n")) + L'\n';
-  }
-  return joined;
+// Null when it is not stored.
+const StoredValue* StoredOf(const BackupSettings& backup, const Setting& setting) {
+  return backup.IsStored(setting) ? backup.Document().Find(PathOf(setting), setting.Name())
+                                  : nullptr;
+}
+
+// What is read of it, and what is stored where that is something else.
+std::wstring WhatIsIn(const BackupSettings& backup, Setting& setting) {
+  const std::optional<Reading> reading = backup.Read(setting);
+  std::wstring all = reading ? reading->Plain() : L"\n";
+  const StoredValue* stored = StoredOf(backup, setting);
+  if (!stored || !reading) return all;
+  const std::uint32_t type = reading->isNumber ? kTypeDword : kTypeString;
+  const bool isAsRead =
+      stored->type == type && ValueInWords(backup.Document(), *stored) == reading->Plain();
+  return isAsRead ? all : all + L'\n' + ExactlyInWords(backup.Document(), *stored);
+}
+
+// Of two that are said alike: what is stored.
+void AddStored(std::wstring& words, const BackupSettings& backup, const Setting& setting) {
+  const StoredValue* stored = StoredOf(backup, setting);
+  const BackupDocument& document = backup.Document();
+  const bool isPlain = stored && (stored->type == kTypeDword || stored->type == kTypeString);
+  words += L" ";
+  words += !stored   ? backup.Device().Said(Word::kAbsent)
+           : isPlain ? L"(" + ValueInWords(document, *stored) + L")"
+                     : L"(" + ExactlyInWords(document, *stored) + L")";
 }
 
 // Of a key of the product what stands behind the product's, of that its last name.
@@ -104,6 +124,14 @@ std::wstring InWords(const MeaningDevice& device, const FilterLines& filter) {
   return words;
 }
 
+// For two that are said alike.
+std::wstring NumbersOf(const CategoryLines& category) {
+  return L" (" + FormatDecimal(category.color) + L")";
+}
+std::wstring NumbersOf(const FilterLines& filter) {
+  return L" (\"" + std::wstring(filter.title) + L"\")";
+}
+
 Record OtherRecord(const MeaningDevice& device, Word heading, const std::wstring& name,
                    const std::wstring& words) {
   return {device.Said(heading), L"", {{"name", name}, {"text", words}}};
@@ -136,9 +164,20 @@ void CompareSettings(std::vector<Record>& differences, BackupSettings& left,
     // Both devices have the same pages.
     const Meaning& old = left.Meanings()[i];
     const Meaning& now = right.Meanings()[i];
-    if (JoinedReadings(left, old) == JoinedReadings(right, now)) continue;
+    std::size_t member = 0;
+    while (member < old.settings.size() &&
+           WhatIsIn(left, *old.settings[member]) == WhatIsIn(right, *now.settings[member])) {
+      ++member;
+    }
+    if (member == old.settings.size()) continue;
+    std::wstring oldWords = left.InWords(old);
+    std::wstring newWords = right.InWords(now);
+    if (oldWords == newWords) {
+      AddStored(oldWords, left, *old.settings[member]);
+      AddStored(newWords, right, *now.settings[member]);
+    }
     differences.push_back(Difference(left.Device().PageTitle(old.page), old.tab, old.label,
-                                     left.InWords(old), right.InWords(now)));
+                                     std::move(oldWords), std::move(newWords)));
     differences.back().fields.push_back({"name", old.name});
   }
 }
@@ -187,10 +226,14 @@ void CompareRecords(std::vector<Record>& differences, const BackupSettings& left
                     const std::vector<Lines>& others) {
   const MeaningDevice& device = left.Device();
   const auto add = [&](const Lines& any, const Lines* old, const Lines* now) {
-    const std::wstring absent = device.Said(Word::kAbsent);
+    std::wstring oldWords = old ? InWords(device, *old) : device.Said(Word::kAbsent);
+    std::wstring newWords = now ? InWords(device, *now) : device.Said(Word::kAbsent);
+    if (oldWords == newWords) {
+      oldWords += NumbersOf(*old);
+      newWords += NumbersOf(*now);
+    }
     differences.push_back(Difference(device.Said(heading), L"", NameOf(left.Document(), any),
-                                     old ? InWords(device, *old) : absent,
-                                     now ? InWords(device, *now) : absent));
+                                     std::move(oldWords), std::move(newWords)));
   };
   for (const Lines& old : all) {
     if (FindSame(left.Document(), old) != &old) continue;
@@ -277,6 +320,13 @@ std::wstring NameOf(const BackupDocument& document, const StoredValue& value) {
   std::ranges::replace(name, L'\\', L'/');
   name += L'/';
   return name.append(value.name);
+}
+
+bool IsNamed(const BackupDocument& document, const StoredValue& value, std::wstring name) {
+  std::ranges::replace(name, L'\\', L'/');
+  std::wstring own = NameOf(document, value);
+  std::ranges::replace(own, L'\\', L'/');
+  return EqualIgnoringCase(own, name);
 }
 
 Record ShowMeaning(BackupSettings& backup, const Meaning& meaning) {

@@ -35,5 +35,7 @@ std::vector<Record> ListSettings(MeaningDevice& device, const std::vector<std::w
 
 // "TabSettings/Clock/DLL"; the product's own values stand below "Tidewell".
 std::wstring NameOf(const BackupDocument& document, const StoredValue& value);
+// With either slash, without regard to letter case.
+bool IsNamed(const BackupDocument& document, const StoredValue& value, std::wstring name);
 
 }  // namespace tidewell

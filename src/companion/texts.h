@@ -22,7 +22,6 @@ enum class Word : std::uint8_t {
   kAbsent,  // a value
   kEmpty,
   kNoSuchChoice,
-  kDefault,
   kOfTheScreen,
   kOfTheLocale,
   kInstallFolder,
@@ -38,7 +37,6 @@ enum class Word : std::uint8_t {
   kUnderlined,
   kStruckOut,
   kHeight,
-  kColor,
   kBold,
   kUncategorized,
   kHidden,

@@ -1,5 +1,5 @@
 # Writes a table of C++ from a language's resource script, for programs without resources:
-# cmake -D SCRIPT=german.rc -D NAME=kGermanTexts -D OUT=german_texts.cpp -P write_texts.cmake
+# cmake -D SCRIPT=german.rc -D NAME=GermanTexts -D OUT=german_texts.cpp -P write_texts.cmake
 file(READ "${SCRIPT}" script)
 # What stands around the lines of the table.
 string(REGEX REPLACE "^.*\nBEGIN\n" "" script "${script}")

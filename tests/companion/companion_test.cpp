@@ -118,6 +118,7 @@ TEST(Edits, RefuseWhatASettingCannotBe) {
       {L"NotesScannedFileTypes=Notes (pwi), word documents (doc, docx)", true},
       {L"NotesScannedFileTypes=Notes (pwi), ", false},
       {L"NotesScannedFileTypes=None", true},
+      {L"Rechte Symbole=1", false},
       {L"NotesActiveSearchBar=8", false},
       {L"DPadCompleteAction=99999999999", false},
   };
@@ -126,6 +127,24 @@ TEST(Edits, RefuseWhatASettingCannotBe) {
     const BackupSettings settings(document, {});
     EXPECT_EQ(SetByName(document, settings, {c.assignment}).empty(), c.isTaken)
         << Utf8(c.assignment);
+  }
+}
+
+// What the settings make of both is the same.
+TEST(Differences, AreToldOfWhatIsStored) {
+  const wchar_t* const lines[] = {L"dNumOfDays\"=dword:500", L"dNumOfDays\"=dword:600",
+                                  L"dNumOfDays\"=\"long\"", L"other\"=dword:1"};
+  const char* const words[] = {"7 (500)", "7 (600)", "7 (long)", "7 (absent)"};
+  for (std::size_t i = 0; i < 3; ++i) {
+    const std::wstring head = L"\n[Software\\Velmont\\Tidewell\\Calendar]\n\"";
+    const BackupDocument before = DocumentOf(head + lines[i] + L"\n");
+    const BackupDocument after = DocumentOf(head + lines[i + 1] + L"\n");
+    BackupSettings left(before, {});
+    BackupSettings right(after, {});
+    const std::vector<Record> told = CompareBackups(left, right);
+    ASSERT_FALSE(told.empty());
+    EXPECT_EQ(Utf8(told[0].fields[1].text), words[i]);
+    EXPECT_EQ(Utf8(told[0].fields[2].text), words[i + 1]);
   }
 }
 
@@ -149,7 +168,9 @@ TEST(Schemes, ComeOutOfABackupAndGoIntoAnother) {
       DocumentOf(root + L"]\n\"OnClick\"=dword:1\n" + root +
                  L"\\Colors]\n\"ClrStatusBusy\"=dword:1\n\"ours\"=\"\"\n" + root +
                  L"\\Fonts]\n\"FontGnrlSize\"=dword:9\n" + category + L"0\n\"Color\"=dword:-1\n");
-  EXPECT_EQ(ApplyScheme(into, BackupDocument(SchemeOf(from))), "");
+  std::vector<std::byte> scheme;
+  EXPECT_EQ(SchemeOf(from, scheme), "");
+  EXPECT_EQ(ApplyScheme(into, BackupDocument(scheme)), "");
   const BackupDocument edited(into.Edited());
   BackupSettings left(from, {});
   BackupSettings right(edited, {});
