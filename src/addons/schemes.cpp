@@ -62,35 +62,36 @@ FileStatus Schemes::Remove(const std::wstring& file) const {
   return machine_.files.Remove(PathOf(file));
 }
 
-SchemeResult Schemes::Apply(const std::wstring& file) const {
+SchemeResult Schemes::Apply(const std::wstring& file) {
   const WholeFile scheme = ReadWholeFile(machine_.files, PathOf(file), kLargestScheme);
   if (scheme.status != FileStatus::kOk) return SchemeResult::kUnreadable;
   if (WasOneRefused()) return Import(scheme);
   ReplacementFile before(machine_.files, PathOf(kBeforeApplying));
-  WriteTo(before, TextKind::kCopy);
+  const bool isWhole = WriteTo(before, TextKind::kCopy);
   // Whoever goes back has the state to go back to in that very file until it is set.
   const bool goesBack = EqualIgnoringCase(file, kBeforeApplying);
-  if (!goesBack) before.Commit();
+  if (isWhole && !goesBack) before.Commit();
   const SchemeResult result = Import(scheme);
-  if (goesBack) before.Commit();
+  if (isWhole && goesBack) before.Commit();
   return result;
 }
 
-// Each load of the settings makes both keys; one is missing where a scheme was refused since, and
-// what is left of them is nothing to go back to.
+// What is left then is nothing to go back to. Each load of the settings makes both keys; one is
+// missing where the refusal came before this object.
 bool Schemes::WasOneRefused() const {
-  return std::ranges::any_of(Trees(), [&](const std::wstring& tree) {
-    return !machine_.registry.Open(RegistryRoot::kCurrentUser, tree);
-  });
+  return wasRefused_ || std::ranges::any_of(Trees(), [&](const std::wstring& tree) {
+           return !machine_.registry.Open(RegistryRoot::kCurrentUser, tree);
+         });
 }
 
-SchemeResult Schemes::Import(const WholeFile& scheme) const {
+SchemeResult Schemes::Import(const WholeFile& scheme) {
   for (const std::wstring& tree : Trees()) {
     machine_.registry.DeleteTree(RegistryRoot::kCurrentUser, tree);
   }
   TextReader text(scheme.bytes);
   const TextImport import = ImportRegistryText(machine_.registry, catalog_, text, Trees());
-  return import == TextImport::kWhole ? SchemeResult::kApplied : SchemeResult::kRefused;
+  wasRefused_ = import != TextImport::kWhole;
+  return wasRefused_ ? SchemeResult::kRefused : SchemeResult::kApplied;
 }
 
 }  // namespace tidewell

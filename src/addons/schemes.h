@@ -39,20 +39,21 @@ class Schemes {
   // scheme, which stays; leaves the whole new one or none. kOther also when a key cannot be read.
   FileStatus Save(const std::wstring& name) const;
   FileStatus Remove(const std::wstring& file) const;
-  // Replaces colours and fonts wholly. What is set now goes to kBeforeApplying, if it can be
-  // written: before that, or afterwards where that is what is applied. After a refusal, what was
-  // set before it stays there.
-  SchemeResult Apply(const std::wstring& file) const;
+  // Replaces colours and fonts wholly. What is set now goes to kBeforeApplying, if it can be read
+  // whole and written: before that, or afterwards where that is what is applied. After a refusal,
+  // what was set before it stays there.
+  SchemeResult Apply(const std::wstring& file);
 
  private:
   std::wstring PathOf(const std::wstring& file) const;
   bool WriteTo(ReplacementFile& file, TextKind kind) const;
   bool WasOneRefused() const;
-  SchemeResult Import(const WholeFile& scheme) const;
+  SchemeResult Import(const WholeFile& scheme);
 
   Machine machine_;
   SettingsStore& store_;
   CategoryCatalog& catalog_;
+  bool wasRefused_ = false;
 };
 
 }  // namespace tidewell
