@@ -86,15 +86,16 @@ std::string TakeSetting(BackupDocument& document, const BackupDocument& from,
   return own ? SentenceOf(document, document.Remove(*own), setting.Name()) : std::string();
 }
 
-// As a device that speaks one language has them; both have the same.
+// As a device that speaks one language has them; both have the same. Those of other programs are in
+// no backup.
 std::vector<NamedSetting> AllCalled(const BackupSettings& backup, const MeaningDevice& device,
-                                    const std::wstring& name) {
+                                    const std::wstring& name, bool areOfOthers = false) {
   std::vector<NamedSetting> found;
   for (std::size_t i = 0; i < device.Meanings().size(); ++i) {
     const Meaning& meaning = device.Meanings()[i];
     for (std::size_t j = 0; j < meaning.settings.size(); ++j) {
-      if (meaning.reason == Word::kNotInBackups ||
-          !IsCalled({&meaning, meaning.settings[j]}, device, name)) {
+      const bool isOfAnother = meaning.reason == Word::kNotInBackups;
+      if (isOfAnother != areOfOthers || !IsCalled({&meaning, meaning.settings[j]}, device, name)) {
         continue;
       }
       const Meaning& own = backup.Meanings()[i];
@@ -169,8 +170,8 @@ class MergeSelection {
   MergeSelection(const BackupSettings& from, const MergeChoice& choice)
       : from_(from.Document()), choice_(choice), isOfGroups_(KeysOfGroups(from, choice.only)) {}
 
-  // A sentence on trouble.
-  std::string Read(const BackupSettings& from) {
+  // A sentence on trouble. What stays may be there in the base alone.
+  std::string Read(const BackupDocument& base, const BackupSettings& from) {
     for (const std::wstring& word : choice_.only) {
       if (IsGroup(from.Device(), word)) continue;
       std::string trouble = Find(from, word, named_);
@@ -182,7 +183,9 @@ class MergeSelection {
     }
     for (const std::wstring& name : choice_.except) {
       std::string trouble = Find(from, name, excepted_);
-      if (!trouble.empty()) return trouble;
+      const bool isInBase = std::ranges::any_of(
+          base.Values(), [&](const StoredValue& value) { return IsNamed(base, value, name); });
+      if (!trouble.empty() && !isInBase) return trouble;
     }
     return {};
   }
@@ -252,7 +255,9 @@ std::vector<NamedSetting> FindNamed(const BackupSettings& backup, const std::wst
   std::vector<NamedSetting> found = AllCalled(backup, backup.Device(), wanted);
   if (found.empty()) found = AllCalled(backup, backup.InOtherTongue(), wanted);
   const auto isOther = [&](const NamedSetting& each) { return each.meaning != found[0].meaning; };
-  if (found.empty()) {
+  if (found.empty() && !AllCalled(backup, backup.Device(), wanted, true).empty()) {
+    trouble = Quoted(name) + " is of another program and in no backup: choose another setting.";
+  } else if (found.empty()) {
     const std::wstring nearest = NearestOf(NamesOf(backup), wanted);
     trouble = "there is no setting " + Quoted(name) + ": choose " +
               (nearest.empty() ? "one" : Quoted(nearest) + " or another") +
@@ -297,7 +302,7 @@ std::string SetByName(BackupDocument& document, const BackupSettings& settings,
 std::string Merge(BackupDocument& document, const BackupSettings& from, const MergeChoice& choice) {
   const BackupDocument& theirs = from.Document();
   MergeSelection selection(from, choice);
-  std::string trouble = selection.Read(from);
+  std::string trouble = selection.Read(document, from);
   if (!trouble.empty()) return trouble;
   for (const Meaning& meaning : from.Meanings()) {
     for (const Setting* setting : meaning.settings) {

@@ -148,11 +148,12 @@ void ShowRecords(std::vector<Record>& shown, const BackupSettings& backup, Word 
   }
 }
 
-Record Difference(std::wstring page, std::wstring tab, std::wstring label, std::wstring old,
-                  std::wstring now) {
+// `key` says in JSON what the name is.
+Record Difference(std::wstring page, std::wstring tab, const char* key, std::wstring name,
+                  std::wstring old, std::wstring now) {
   Record record{std::move(page), std::move(tab), {}};
   record.fields.reserve(4);
-  record.fields.push_back({"label", std::move(label)});
+  record.fields.push_back({key, std::move(name)});
   record.fields.push_back({"old", std::move(old)});
   record.fields.push_back({"new", std::move(now)});
   return record;
@@ -176,7 +177,7 @@ void CompareSettings(std::vector<Record>& differences, BackupSettings& left,
       AddStored(oldWords, left, *old.settings[member]);
       AddStored(newWords, right, *now.settings[member]);
     }
-    differences.push_back(Difference(left.Device().PageTitle(old.page), old.tab, old.label,
+    differences.push_back(Difference(left.Device().PageTitle(old.page), old.tab, "label", old.label,
                                      std::move(oldWords), std::move(newWords)));
     differences.back().fields.push_back({"name", old.name});
   }
@@ -208,15 +209,15 @@ void CompareOtherValues(std::vector<Record>& differences, const BackupSettings& 
       oldWords = ExactlyInWords(before, *old);
       newWords = ExactlyInWords(after, *now);
     }
-    differences.push_back(
-        Difference(heading, L"", NameOf(before, *old), std::move(oldWords), std::move(newWords)));
+    differences.push_back(Difference(heading, L"", "name", NameOf(before, *old),
+                                     std::move(oldWords), std::move(newWords)));
   }
   const std::vector<std::size_t> leftKeys = SameKeys(after, before);
   guess = 0;
   for (const StoredValue* now : right.OtherValues()) {
     if (before.Find(leftKeys[now->key], now->name, guess)) continue;
     differences.push_back(
-        Difference(heading, L"", NameOf(after, *now), absent, ValueInWords(after, *now)));
+        Difference(heading, L"", "name", NameOf(after, *now), absent, ValueInWords(after, *now)));
   }
 }
 
@@ -232,8 +233,9 @@ void CompareRecords(std::vector<Record>& differences, const BackupSettings& left
       oldWords += NumbersOf(*old);
       newWords += NumbersOf(*now);
     }
-    differences.push_back(Difference(device.Said(heading), L"", NameOf(left.Document(), any),
-                                     std::move(oldWords), std::move(newWords)));
+    differences.push_back(Difference(device.Said(heading), L"", "name",
+                                     NameOf(left.Document(), any), std::move(oldWords),
+                                     std::move(newWords)));
   };
   for (const Lines& old : all) {
     if (FindSame(left.Document(), old) != &old) continue;
