@@ -229,7 +229,7 @@ void CompareRecords(std::vector<Record>& differences, const BackupSettings& left
   const auto add = [&](const Lines& any, const Lines* old, const Lines* now) {
     std::wstring oldWords = old ? InWords(device, *old) : device.Said(Word::kAbsent);
     std::wstring newWords = now ? InWords(device, *now) : device.Said(Word::kAbsent);
-    if (oldWords == newWords) {
+    if (old && now && oldWords == newWords) {
       oldWords += NumbersOf(*old);
       newWords += NumbersOf(*now);
     }
