@@ -148,7 +148,8 @@ void CategoriesRules::OnEvent(PageView& view, const PageEvent& event) {
       if (event.id == kReset) Reset(view);
       if (event.id == kUncategorized) TakeFilter(view);
       break;
-    case PageEventKind::kChosen:
+    // A line that Escape leaves in the box is never decided on.
+    case PageEventKind::kChanged:
       if (event.id == kSensitivity) TakeFilter(view);
       if (event.id == kFilter) ShowMembers(view);
       break;
@@ -158,7 +159,7 @@ void CategoriesRules::OnEvent(PageView& view, const PageEvent& event) {
     case PageEventKind::kTicked:
       TakeTicks(view, event);
       break;
-    case PageEventKind::kChanged:
+    case PageEventKind::kChosen:
     case PageEventKind::kEdited:
     case PageEventKind::kDeselected:
       break;

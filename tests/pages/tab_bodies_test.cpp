@@ -1,4 +1,5 @@
 // The bodies of tabs that are no rows, and the base of all pages.
+#include "pages/categories_page.h"
 #include "pages/notes_page.h"
 #include "pages/tabs_page.h"
 #include "pages/windows/settings_page.h"
@@ -63,6 +64,18 @@ TEST_F(PageHost, TheActionKeyTurnsBoxesAndTheFocusLeavesAButtonThatIsGreyed) {
   Close();
   EXPECT_EQ(store.tabs.size(), 6u);
   EXPECT_EQ(FindByType(store.tabs, TabType::kTasks)->enabled, 0u);
+}
+
+TEST_F(PageHost, AFilterThatEscapeLeavesInTheBoxShowsItsOwnMembers) {
+  using namespace categories_ids;
+  catalog.Categories()[0]->filterFlags = 1;
+  Open(PageIndex::kCategories);
+  Turn(2);
+  SetFocus(Control(kFilter));
+  Send(kFilter, CB_SHOWDROPDOWN, TRUE);
+  for (const WPARAM key : {VK_DOWN, VK_ESCAPE}) Send(kFilter, WM_KEYDOWN, key);
+  ASSERT_EQ(Selection(kFilter), 1);
+  EXPECT_FALSE(ListView_GetCheckState(Control(kMemberList), 0));
 }
 
 // A list that goes does not take them along.
