@@ -204,12 +204,15 @@ void CategoriesRules::ShowColor(PageView& view, int line) const {
   view.SetLook(kCategoryList, line, look);
 }
 
+// The selected one stays.
 void CategoriesRules::ShowFilters(PageView& view) const {
   std::vector<ListLine> lines;
   for (const FilterRecord& filter : context_.categories.Filters()) {
     lines.push_back({filter.title, 0, filter.visible});
   }
+  const int selected = view.SelectedLine(kFilterList);
   view.SetLines(kFilterList, lines);
+  view.SelectLine(kFilterList, selected);
 }
 
 // A sensitivity that no line stands for has one of its own as long as its filter is selected.
@@ -273,9 +276,7 @@ void CategoriesRules::EnterTitle(PageView& view) const {
                                    kLongestTitle, refusal, Text(IDS_FILTER_TITLE_REFUSED_CAPTION)});
   if (!title) return;
   filter->title = *title;
-  const int line = view.SelectedLine(kFilterList);
   ShowFilters(view);
-  view.SelectLine(kFilterList, line);
 }
 
 void CategoriesRules::Reset(PageView& view) const {
@@ -286,6 +287,7 @@ void CategoriesRules::Reset(PageView& view) const {
   }
   context_.categories.ResetFilters();
   ShowFilters(view);
+  ShowFilter(view);
 }
 
 void CategoriesRules::TakeTicks(PageView& view, const PageEvent& event) const {

@@ -223,6 +223,8 @@ TEST_F(AddOnPages, EditCategoriesAndFiltersInMemory) {
   }
   page.Tap(kReset);
   EXPECT_EQ(*catalog.FindFilter(32), DefaultFilter(32));
+  EXPECT_EQ(page.SelectedLine(kFilterList), 31);
+  EXPECT_EQ(page.State(kSensitivity).selection, 0);
   EXPECT_EQ(recorded.CountWrites(), 0);
 }
 
