@@ -38,6 +38,15 @@ std::optional<PageEventKind> KindOf(WORD notification) {
   }
 }
 
+bool IsOnBox(const NMITEMACTIVATE& tap) {
+  const HWND list = tap.hdr.hwndFrom;
+  if (!(ListView_GetExtendedListViewStyle(list) & LVS_EX_CHECKBOXES)) return false;
+  LVHITTESTINFO hit{};
+  hit.pt = tap.ptAction;
+  ListView_HitTest(list, &hit);
+  return hit.flags == LVHT_ONITEMSTATEICON;
+}
+
 }  // namespace
 
 RulesPage::RulesPage(PageContext& context, std::unique_ptr<PageRules> rules)
@@ -133,9 +142,11 @@ LRESULT RulesPage::OnNotify(HWND, NMHDR* header) {
       if (!silent_) OnItemChanged(*reinterpret_cast<NMLISTVIEW*>(header));
       break;
     case static_cast<UINT>(NM_RETURN):
-      if (TurnTick(header->hwndFrom)) break;
-      [[fallthrough]];
+      if (!TurnTick(header->hwndFrom)) Tell({id, PageEventKind::kActivated, SelectedLine(id)});
+      break;
+    // Two quick taps on a box are none on its line.
     case static_cast<UINT>(NM_DBLCLK):
+      if (IsOnBox(*reinterpret_cast<NMITEMACTIVATE*>(header))) break;
       Tell({id, PageEventKind::kActivated, SelectedLine(id)});
       break;
     case static_cast<UINT>(NM_CUSTOMDRAW):
