@@ -120,10 +120,12 @@ void LineLooks::DrawSwatchOf(const Line& line, const NMLVCUSTOMDRAW& draw) const
                   static_cast<int>(row.top) + margin, width,
                   static_cast<int>(row.bottom - row.top) - 2 * margin};
   const HDC dc = draw.nmcd.hdc;
-  const Font text = TahomaFont(scale_.ScaleX(kSwatchText), FW_NORMAL);
+  const Color color = *line.look.swatch;
+  // Only the swatch of no color has a text.
+  const Font text = color == kNoColor ? TahomaFont(scale_.ScaleX(kSwatchText), FW_NORMAL) : Font();
   const int state = SaveDC(dc);
-  SelectObject(dc, text.Get());
-  DrawColorSwatch(dc, area, scale_.ScaleX(1), *line.look.swatch, nameOfNone_);
+  if (text) SelectObject(dc, text.Get());
+  DrawColorSwatch(dc, area, scale_.ScaleX(1), color, nameOfNone_);
   RestoreDC(dc, state);
 }
 
