@@ -20,10 +20,11 @@ std::vector<ListLine> LinesOf(HWND list);
 void ShowLines(HWND list, const std::vector<ListLine>& lines,
                const std::function<int(const ListLine&)>& imageOf = {});
 
-// Makes the one column as wide as the list beside its scroll bar, if it has one: a desktop's list
-// view scrolls sideways otherwise. To be called after each change of the lines or of the place; a
-// list gets its column from the first call: before it has lines, it does not know of the scroll
-// bar. Texts end `besides` points before the right edge; each list is fitted with the same number.
+// Makes the column of texts as wide as the list beside its scroll bar, if it has one: a desktop's
+// list view scrolls sideways otherwise. To be called after each change of the lines or of the
+// place; a list gets its columns from the first call: before it has lines, it does not know of the
+// scroll bar. Texts end `besides` pixels before the right edge, where an empty second column keeps
+// them away; each list is fitted with the same number.
 void FitColumn(HWND list, const wchar_t* title = L"List Column", int besides = 0);
 
 // What some lines of a list look like, drawn when the list asks for it.

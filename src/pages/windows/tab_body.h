@@ -54,7 +54,8 @@ class TabBody {
   SettingsPage& Page() const { return page_; }
   const ScreenScale& Scale() const { return page_.Scale(); }
   const PaintedRoom& Room() const { return room_; }
-  // To uncover the place of each hidden control by itself would cost more than all at once.
+  // To uncover the place of each hidden control by itself would cost more than all at once. None of
+  // those hidden may have the focus: keys would go on to what is not seen.
   void ShowControls(const std::vector<int>& ids, int showCommand) const;
   void Tell(int id, PageEventKind kind) const { raise_({id, kind}); }
   // Clears a path or browses for one, where the command is that of one of the row's two buttons.
