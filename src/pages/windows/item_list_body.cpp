@@ -131,8 +131,7 @@ bool ItemListBody::SetLines(int listId, const std::vector<ListLine>& lines) {
   if (categories_) categories_->Clear();
   const bool hasPictures = icons_ || categories_;
   lines_ = hasPictures ? lines : std::vector<ListLine>();
-  ShowLines(Page().Control(listId), lines,
-            [=](const ListLine&) { return hasPictures ? I_IMAGECALLBACK : FileIcons::kNone; });
+  ShowLines(Page().Control(listId), lines, hasPictures);
   Fit();
   return true;
 }
@@ -142,7 +141,9 @@ void ItemListBody::OnShowLine(LVITEMW& line) {
   const auto place = static_cast<std::size_t>(line.iItem);
   if (!(line.mask & LVIF_IMAGE) || place >= lines_.size()) return;
   const ListLine& shown = lines_[place];
-  line.iImage = icons_ ? icons_->Load(shown.text, true) : categories_->Add(shown.icon);
+  const int image = icons_ ? icons_->Load(shown.text, true) : categories_->Add(shown.icon);
+  // Its -1 would have the list ask again with each painting.
+  line.iImage = image == FileIcons::kNone ? I_IMAGENONE : image;
   line.mask |= LVIF_DI_SETITEM;
 }
 

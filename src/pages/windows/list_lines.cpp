@@ -38,18 +38,17 @@ std::vector<ListLine> LinesOf(HWND list) {
   return lines;
 }
 
-void ShowLines(HWND list, const std::vector<ListLine>& lines,
-               const std::function<int(const ListLine&)>& imageOf) {
+void ShowLines(HWND list, const std::vector<ListLine>& lines, bool havePictures) {
   SendMessageW(list, WM_SETREDRAW, FALSE, 0);
   ListView_DeleteAllItems(list);
   for (std::size_t i = 0; i < lines.size(); ++i) {
     std::wstring text = lines[i].text;
     LVITEMW item{};
-    item.mask = LVIF_TEXT | LVIF_PARAM | LVIF_IMAGE;
+    item.mask = LVIF_TEXT | LVIF_PARAM | (havePictures ? LVIF_IMAGE : 0);
     item.iItem = static_cast<int>(i);
     item.pszText = text.data();
     item.lParam = lines[i].data;
-    item.iImage = imageOf ? imageOf(lines[i]) : -1;
+    item.iImage = I_IMAGECALLBACK;
     ListView_InsertItem(list, &item);
     if (lines[i].ticked) ListView_SetCheckState(list, item.iItem, TRUE);
   }

@@ -5,7 +5,6 @@
 
 #include <commctrl.h>
 
-#include <functional>
 #include <map>
 #include <vector>
 
@@ -16,9 +15,8 @@
 namespace tidewell {
 
 std::vector<ListLine> LinesOf(HWND list);
-// Replaces all lines; none is selected. `imageOf` tells a line's image in the list's small icons.
-void ShowLines(HWND list, const std::vector<ListLine>& lines,
-               const std::function<int(const ListLine&)>& imageOf = {});
+// Replaces all lines; none is selected. With pictures, the list asks for that of each line it paints.
+void ShowLines(HWND list, const std::vector<ListLine>& lines, bool havePictures = false);
 
 // Makes the column of texts as wide as the list beside its scroll bar, if it has one: a desktop's
 // list view scrolls sideways otherwise. To be called after each change of the lines or of the
