@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <array>
 
 #include "preview/windows/gdi_canvas.h"
@@ -39,6 +40,7 @@ std::vector<ListLine> LinesOf(HWND list) {
 }
 
 void ShowLines(HWND list, const std::vector<ListLine>& lines, bool havePictures) {
+  const int top = ListView_GetTopIndex(list);
   SendMessageW(list, WM_SETREDRAW, FALSE, 0);
   ListView_DeleteAllItems(list);
   for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -53,6 +55,9 @@ void ShowLines(HWND list, const std::vector<ListLine>& lines, bool havePictures)
     if (lines[i].ticked) ListView_SetCheckState(list, item.iItem, TRUE);
   }
   SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+  if (top == 0) return;
+  const int end = std::min(top + ListView_GetCountPerPage(list), static_cast<int>(lines.size()));
+  ListView_EnsureVisible(list, end - 1, FALSE);
 }
 
 void FitColumn(HWND list, const wchar_t* title, int besides) {

@@ -15,7 +15,8 @@
 namespace tidewell {
 
 std::vector<ListLine> LinesOf(HWND list);
-// Replaces all lines; none is selected. With pictures, the list asks for that of each line it paints.
+// Replaces all lines; none is selected. The list stays where it was scrolled to. With pictures, it
+// asks for that of each line it paints.
 void ShowLines(HWND list, const std::vector<ListLine>& lines, bool havePictures = false);
 
 // Makes the column of texts as wide as the list beside its scroll bar, if it has one: a desktop's

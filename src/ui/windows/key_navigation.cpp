@@ -33,10 +33,11 @@ void StepChoice(HWND list, int direction) {
   TellPage(list, CBN_SELCHANGE);
 }
 
-// Some row has the mark of the focus as long as the list of rows has the focus.
+// Some row has the mark of the focus as long as the list of rows has the focus. It is one in view:
+// the mark scrolls the list to its row.
 void FocusARow(HWND rows) {
   if (ListView_GetNextItem(rows, -1, LVNI_FOCUSED) >= 0) return;
-  ListView_SetItemState(rows, 0, LVIS_FOCUSED, LVIS_FOCUSED);
+  ListView_SetItemState(rows, ListView_GetTopIndex(rows), LVIS_FOCUSED, LVIS_FOCUSED);
 }
 
 // Keys that come to a list of rows select one, as keys that move on in it do.
