@@ -291,9 +291,9 @@ void CategoriesRules::Reset(PageView& view) const {
 }
 
 void CategoriesRules::TakeTicks(PageView& view, const PageEvent& event) const {
-  const auto line = static_cast<std::size_t>(event.line);
   if (event.id == kFilterList) {
-    context_.categories.Filters()[line].visible = view.Lines(kFilterList)[line].ticked;
+    FilterRecord& filter = context_.categories.Filters()[static_cast<std::size_t>(event.line)];
+    filter.visible = view.Line(kFilterList, event.line).ticked;
   } else if (event.id == kMemberList) {
     TakeMember(view, event.line);
   }
@@ -307,10 +307,9 @@ void CategoriesRules::TakeFilter(const PageView& view) const {
 }
 
 void CategoriesRules::TakeMember(const PageView& view, int line) const {
-  const auto place = static_cast<std::size_t>(line);
   const std::uint32_t bit = MemberBit(view);
-  std::uint32_t& flags = Categories()[place]->filterFlags;
-  flags = view.Lines(kMemberList)[place].ticked ? flags | bit : flags & ~bit;
+  std::uint32_t& flags = Categories()[static_cast<std::size_t>(line)]->filterFlags;
+  flags = view.Line(kMemberList, line).ticked ? flags | bit : flags & ~bit;
 }
 
 }  // namespace

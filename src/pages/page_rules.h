@@ -49,6 +49,7 @@ class PageView {
   // Replaces the lines of a drop-down list; none is selected.
   virtual void SetChoices(int id, const Choices& choices) = 0;
   virtual std::vector<ListLine> Lines(int listId) const = 0;
+  virtual ListLine Line(int listId, int line) const = 0;
   virtual void SetLines(int listId, const std::vector<ListLine>& lines) = 0;
   // Lasts until the list gets other lines.
   virtual void SetLook(int listId, int line, const LineLook& look) = 0;

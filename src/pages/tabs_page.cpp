@@ -112,8 +112,7 @@ TabEntry& TabsRules::EntryOf(const ListLine& line) const {
 
 TabEntry* TabsRules::SelectedEntry(const PageView& view) const {
   const int line = view.SelectedLine(kTabList);
-  if (line == kNoChoice) return nullptr;
-  return &EntryOf(view.Lines(kTabList)[static_cast<std::size_t>(line)]);
+  return line == kNoChoice ? nullptr : &EntryOf(view.Line(kTabList, line));
 }
 
 std::vector<ListLine> TabsRules::Lines() {

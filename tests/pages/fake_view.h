@@ -85,6 +85,9 @@ class FakeView final : public PageView {
   void SetChoices(int id, const Choices& choices) override { choices_[id] = choices; }
   bool Has(int id) const override { return enabled_.contains(id); }
   std::vector<ListLine> Lines(int listId) const override { return lines_.at(listId); }
+  ListLine Line(int listId, int line) const override {
+    return lines_.at(listId).at(static_cast<std::size_t>(line));
+  }
   void SetLines(int listId, const std::vector<ListLine>& lines) override {
     lines_[listId] = lines;
     selected_.erase(listId);

@@ -19,6 +19,8 @@ constexpr int kSwatchWidth = 30;
 constexpr int kSwatchMargin = 2;
 constexpr int kSwatchText = 9;
 
+}  // namespace
+
 ListLine LineOf(HWND list, int index) {
   std::array<wchar_t, kTextCapacity> text{};
   LVITEMW item{};
@@ -29,8 +31,6 @@ ListLine LineOf(HWND list, int index) {
   ListView_GetItem(list, &item);
   return {text.data(), item.lParam, ListView_GetCheckState(list, index) == 1};
 }
-
-}  // namespace
 
 std::vector<ListLine> LinesOf(HWND list) {
   std::vector<ListLine> lines;

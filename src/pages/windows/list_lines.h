@@ -14,6 +14,7 @@
 
 namespace tidewell {
 
+ListLine LineOf(HWND list, int index);
 std::vector<ListLine> LinesOf(HWND list);
 // Replaces all lines; none is selected. The list stays where it was scrolled to. With pictures, it
 // asks for that of each line it paints.

@@ -251,6 +251,10 @@ std::vector<ListLine> RulesPage::Lines(int listId) const {
   return LinesOf(Control(listId));
 }
 
+ListLine RulesPage::Line(int listId, int line) const {
+  return LineOf(Control(listId), line);
+}
+
 void RulesPage::SetLines(int listId, const std::vector<ListLine>& lines) {
   for (const BuiltTab& tab : bodies_) {
     if (tab.body->SetLines(listId, lines)) return;

@@ -45,6 +45,7 @@ class RulesPage final : public SettingsPage, private PageView {
   void SetState(int id, const ControlState& state) override;
   void SetChoices(int id, const Choices& choices) override;
   std::vector<ListLine> Lines(int listId) const override;
+  ListLine Line(int listId, int line) const override;
   void SetLines(int listId, const std::vector<ListLine>& lines) override;
   void SetLook(int listId, int line, const LineLook& look) override;
   int SelectedLine(int listId) const override;
