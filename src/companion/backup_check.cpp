@@ -86,7 +86,8 @@ class Checker {
   void CheckMeanings(BackupSettings& backup) {
     for (const Meaning& meaning : backup.Meanings()) {
       for (Setting* setting : meaning.settings) {
-        if (backup.IsStored(*setting)) CheckMeaning(backup, meaning, *setting);
+        const StoredValue* value = backup.Stored(*setting);
+        if (value) CheckMeaning(backup, meaning, *setting, *value);
       }
     }
   }
@@ -310,8 +311,8 @@ class Checker {
     findings_.push_back({0, 0, false, "filters that are missing and stay as they are: " + missing});
   }
 
-  void CheckMeaning(const BackupSettings& backup, const Meaning& meaning, Setting& setting) {
-    const StoredValue& value = *document_.Find(PathOf(setting), setting.Name());
+  void CheckMeaning(const BackupSettings& backup, const Meaning& meaning, Setting& setting,
+                    const StoredValue& value) {
     if (meaning.kind == ValueKind::kBits) return;
     const bool isNumber = meaning.kind != ValueKind::kText;
     if (value.type != (isNumber ? kTypeDword : kTypeString)) {

@@ -144,10 +144,10 @@ BackupSettings::BackupSettings(const BackupDocument& document, const DeviceFacts
     : document_(document), device_(facts) {
   for (const Meaning& meaning : Meanings()) {
     for (Setting* setting : meaning.settings) {
-      if (!IsStored(*setting)) continue;
-      const StoredValue& value = *document_.Find(PathOf(*setting), setting->Name());
+      const StoredValue* value = Stored(*setting);
+      if (!value) continue;
       const auto key = device_.OwnRegistry().Create(RegistryRoot::kCurrentUser, PathOf(*setting));
-      key->Set(setting->Name(), value.type, document_.DataOf(value));
+      key->Set(setting->Name(), value->type, document_.DataOf(*value));
     }
   }
   device_.Load();
@@ -163,9 +163,9 @@ const MeaningDevice& BackupSettings::InOtherTongue() const {
   return *otherTongue_;
 }
 
-bool BackupSettings::IsStored(const Setting& setting) const {
-  return LocationOf(setting.Key()).root == RegistryRoot::kCurrentUser &&
-         document_.Find(PathOf(setting), setting.Name());
+const StoredValue* BackupSettings::Stored(const Setting& setting) const {
+  if (LocationOf(setting.Key()).root != RegistryRoot::kCurrentUser) return nullptr;
+  return document_.Find(PathOf(setting), setting.Name());
 }
 
 std::optional<Reading> BackupSettings::Read(Setting& setting) const {
@@ -173,14 +173,14 @@ std::optional<Reading> BackupSettings::Read(Setting& setting) const {
 }
 
 std::optional<Reading> BackupSettings::Read(Setting& setting, bool isDefault) const {
-  const bool isStored = !isDefault && IsStored(setting);
+  const bool isStored = !isDefault && Stored(setting);
   if (!isStored && !device_.KnowsDefault(setting)) return std::nullopt;
   return ReadingOf(setting, isDefault);
 }
 
 bool BackupSettings::IsChanged(const Meaning& meaning) const {
   return std::ranges::any_of(meaning.settings, [&](Setting* setting) {
-    return IsStored(*setting) && Read(*setting, true) != Read(*setting, false);
+    return Stored(*setting) && Read(*setting, true) != Read(*setting, false);
   });
 }
 

@@ -35,7 +35,8 @@ class BackupSettings {
   // The same device without the backup, whose words are in the other language.
   const MeaningDevice& InOtherTongue() const;
 
-  bool IsStored(const Setting& setting) const;
+  // Null when it is not stored.
+  const StoredValue* Stored(const Setting& setting) const;
   // Nothing when it is a default that is not known.
   std::optional<Reading> Read(Setting& setting) const;
   // Any of its values is stored and not known to be the default.

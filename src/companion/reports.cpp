@@ -34,17 +34,11 @@ bool IsInBackups(const Meaning& meaning) {
   return meaning.reason != Word::kNotInBackups;
 }
 
-// Null when it is not stored.
-const StoredValue* StoredOf(const BackupSettings& backup, const Setting& setting) {
-  return backup.IsStored(setting) ? backup.Document().Find(PathOf(setting), setting.Name())
-                                  : nullptr;
-}
-
 // What is read of it, and what is stored where that is something else.
 std::wstring WhatIsIn(const BackupSettings& backup, Setting& setting) {
   const std::optional<Reading> reading = backup.Read(setting);
   std::wstring all = reading ? reading->Plain() : L"\n";
-  const StoredValue* stored = StoredOf(backup, setting);
+  const StoredValue* stored = backup.Stored(setting);
   if (!stored || !reading) return all;
   const std::uint32_t type = reading->isNumber ? kTypeDword : kTypeString;
   const bool isAsRead =
@@ -52,15 +46,12 @@ std::wstring WhatIsIn(const BackupSettings& backup, Setting& setting) {
   return isAsRead ? all : all + L'\n' + ExactlyInWords(backup.Document(), *stored);
 }
 
-// Of two that are said alike: what is stored.
-void AddStored(std::wstring& words, const BackupSettings& backup, const Setting& setting) {
-  const StoredValue* stored = StoredOf(backup, setting);
-  const BackupDocument& document = backup.Document();
-  const bool isPlain = stored && (stored->type == kTypeDword || stored->type == kTypeString);
-  words += L" ";
-  words += !stored   ? backup.Device().Said(Word::kAbsent)
-           : isPlain ? L"(" + ValueInWords(document, *stored) + L")"
-                     : L"(" + ExactlyInWords(document, *stored) + L")";
+// For two that are said alike: what is stored.
+std::wstring StoredInWords(const BackupSettings& backup, const Setting& setting) {
+  const StoredValue* stored = backup.Stored(setting);
+  if (!stored) return L" " + backup.Device().Said(Word::kAbsent);
+  const bool isPlain = stored->type == kTypeDword || stored->type == kTypeString;
+  return L" (" + (isPlain ? ValueInWords : ExactlyInWords)(backup.Document(), *stored) + L")";
 }
 
 // Of a key of the product what stands behind the product's, of that its last name.
@@ -174,8 +165,8 @@ void CompareSettings(std::vector<Record>& differences, BackupSettings& left,
     std::wstring oldWords = left.InWords(old);
     std::wstring newWords = right.InWords(now);
     if (oldWords == newWords) {
-      AddStored(oldWords, left, *old.settings[member]);
-      AddStored(newWords, right, *now.settings[member]);
+      oldWords += StoredInWords(left, *old.settings[member]);
+      newWords += StoredInWords(right, *now.settings[member]);
     }
     differences.push_back(Difference(left.Device().PageTitle(old.page), old.tab, "label", old.label,
                                      std::move(oldWords), std::move(newWords)));
